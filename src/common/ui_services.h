@@ -1,0 +1,34 @@
+#pragma once
+
+// Std
+#include <string>
+
+namespace tnw {
+
+// The icon a message box shows.
+enum class MessageIcon { Information, Exclamation, Critical, Question };
+
+// A screen or dialog size in the screen's units.
+struct ScreenSize {
+  int width = 0;
+  int height = 0;
+};
+
+// What the wizard asks of its user-interface layer; the Qt layer and tests implement it.
+class UiServices {
+ public:
+  virtual ~UiServices() = default;
+
+  // Shows a modal message box with one OK button.
+  virtual void messageBox(const std::string& text, MessageIcon icon, const std::string& title) = 0;
+  // Sounds the system beep.
+  virtual void beep() = 0;
+  // Shows the busy pointer (true) or the default pointer (false).
+  virtual void setBusy(bool busy) = 0;
+  // Opens the help file at a context number.
+  virtual void showHelp(const std::string& helpFile, int context) = 0;
+  // The size of the screen dialogs are centred on.
+  virtual ScreenSize screenSize() const = 0;
+};
+
+}  // namespace tnw
