@@ -1,8 +1,9 @@
 // The tnwizard command line: a host for the wizard and headless tools over the same code.
 
+#include "commands.h"
+
 // Std
 #include <cstdio>
-#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,15 +18,31 @@ constexpr const char* kUsage =
     "       tnwizard direct MODEL SCENARIO.json\n"
     "       tnwizard tradeoffs MODEL JUDGMENTS.json\n";
 
-int usage() {
+// One sub-command: its name and the function that runs it with the arguments after the name.
+struct Command {
+  std::string_view name;
+  int (*run)(const std::vector<std::string>& args);
+};
+
+// Each sub-command lives in its own source file; add it here when it exists.
+constexpr Command kCommands[] = {
+    {"__none__", nullptr},
+};
+
+}  // namespace
+
+int tnwUsage() {
   std::fputs(kUsage, stderr);
   return 1;
 }
 
-}  // namespace
-
 int main(int argc, char** argv) {
   const std::vector<std::string> args(argv + 1, argv + argc);
-  if (args.empty()) return usage();
-  return usage();
+  if (args.empty()) return tnwUsage();
+  for (const Command& c : kCommands) {
+    if (c.run != nullptr && c.name == args.front()) {
+      return c.run(std::vector<std::string>(args.begin() + 1, args.end()));
+    }
+  }
+  return tnwUsage();
 }
