@@ -9,14 +9,6 @@
 #include <QMouseEvent>
 
 namespace tnw {
-namespace {
-
-// The faces of the system: RGB(255, 192, 192) benefit-oriented, RGB(192, 192, 255) cost-oriented.
-const QColor kBenefitFace(255, 192, 192);
-const QColor kCostFace(192, 192, 255);
-
-}  // namespace
-
 AttributeButtonWidget::AttributeButtonWidget(const QString& objectName, int index, QWidget* parent)
     : QPushButton(parent), m_index(index) {
   setObjectName(objectName);
@@ -37,8 +29,9 @@ int AttributeButtonWidget::attribute() const {
   return ok ? value : -1;
 }
 
-void AttributeButtonWidget::setCostOriented(bool costOriented) {
-  m_costOriented = costOriented;
+void AttributeButtonWidget::setFaceColour(const QColor& colour) {
+  if (m_face == colour) return;
+  m_face = colour;
   applyStyle();
 }
 
@@ -49,7 +42,7 @@ void AttributeButtonWidget::setMarked(bool marked) {
 }
 
 void AttributeButtonWidget::applyStyle() {
-  const QColor face = m_costOriented ? kCostFace : kBenefitFace;
+  const QColor face = m_face;
   setStyleSheet(
       QStringLiteral("QPushButton { background-color: %1; color: black;"
                      " border: %2px solid %3; border-radius: 3px; padding: 2px 8px 2px %5px; }"

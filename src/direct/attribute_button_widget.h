@@ -1,6 +1,7 @@
 #pragma once
 
 // Qt
+#include <QColor>
 #include <QPoint>
 #include <QPushButton>
 #include <QString>
@@ -27,10 +28,10 @@ class AttributeButtonWidget : public QPushButton {
   int attribute() const;
   // Whether pressing and moving the mouse starts a drag.
   void setDraggable(bool draggable) { m_draggable = draggable; }
-  // Sets the face colour: light red for benefit-, light blue for cost-oriented attributes.
-  void setCostOriented(bool costOriented);
-  // Whether the face is the cost-oriented colour.
-  bool costOriented() const { return m_costOriented; }
+  // Sets the face colour (light red for benefit-, light blue for cost-oriented attributes).
+  void setFaceColour(const QColor& colour);
+  // The face colour.
+  QColor faceColour() const { return m_face; }
   // Shows the button as the chosen one (a heavier frame), or not.
   void setMarked(bool marked);
 
@@ -46,7 +47,7 @@ class AttributeButtonWidget : public QPushButton {
   int m_index = 0;
   QString m_tag;
   bool m_draggable = false;
-  bool m_costOriented = false;
+  QColor m_face{255, 192, 192};
   bool m_marked = false;
   QPoint m_pressPos;
   bool m_pressed = false;

@@ -1,6 +1,10 @@
 #include "direct/direct_judgment_page_widget.h"
 
 #include "direct/cone_area_widget.h"
+#include "direct/direct_a_presenter.h"
+#include "direct/direct_view_colours_qt.h"
+#include "direct/orientation_images_qt.h"
+#include "direct/ratio_box_filter_qt.h"
 #include "direct/preference_chart_widget.h"
 #include "direct/status_lights_widget.h"
 
@@ -27,7 +31,6 @@ QLabel* namedLabel(const QString& name, QWidget* parent) {
 QLineEdit* ratioBox(const QString& name, QWidget* parent) {
   auto* box = new QLineEdit(parent);
   box->setObjectName(name);
-  box->setMaxLength(12);
   box->setAlignment(Qt::AlignRight);
   box->setAcceptDrops(false);
   box->setDragEnabled(false);
@@ -147,6 +150,94 @@ QWidget* DirectJudgmentPageWidget::buildTabs() {
   m_tabs->addTab(graph, tr("&Preference cone"));
   m_tabs->addTab(orderTab, tr("Importance or&der"));
   return m_tabs;
+}
+
+void DirectJudgmentPageWidget::render(const DirectAPresenter& presenter,
+                                      const WizardContext& context) {
+  renderTargets(presenter);
+  const JudgmentPage& page = presenter.judgment();
+  for (const auto box : {JudgmentPage::Box::Lower, JudgmentPage::Box::Upper}) {
+    QLineEdit* edit = box == JudgmentPage::Box::Lower ? m_lower : m_upper;
+    // The caret is only moved when the text changed under it.
+    if (edit->text().toStdString() != page.box(box).text) {
+      RatioBoxFilter::showBoxState(edit, page.box(box));
+    }
+  }
+  renderCone(presenter);
+  const StatusLamps& lamps = presenter.lamps();
+  for (int i = 0; i < 3; ++i) {
+    m_lights->setLamp(i, colourFromBgr(lamps.lampColor(i)), lamps.labelHighlighted(i));
+  }
+  renderOrderTab(presenter, context);
+}
+
+void DirectJudgmentPageWidget::renderTargets(const DirectAPresenter& presenter) {
+  const TargetList& targets = presenter.judgment().targets();
+  const int selected = targets.selectedIndex();
+  QStringList texts;
+  QStringList images;
+  for (int i = 0; i < static_cast<int>(targets.items().size()); ++i) {
+    const auto& item = targets.items()[static_cast<std::size_t>(i)];
+    texts.append(QString::fromStdString(item.text));
+    images.append(QString::fromStdString(i == selected ? item.selectedImage : item.image));
+  }
+  const QSignalBlocker block(m_targetList);
+  if (texts != m_itemTexts || images.size() != m_itemImages.size()) {
+    m_targetList->clear();
+    for (int i = 0; i < texts.size(); ++i) m_targetList->addItem(texts[i]);
+    m_itemTexts = texts;
+    m_itemImages = QStringList();
+    for (int i = 0; i < texts.size(); ++i) m_itemImages.append(QString());
+  }
+  for (int i = 0; i < images.size(); ++i) {
+    if (images[i] == m_itemImages[i]) continue;
+    m_targetList->setItemIcon(i, orientationIcon(images[i]));
+    m_itemImages[i] = images[i];
+  }
+  if (m_targetList->currentIndex() != selected) m_targetList->setCurrentIndex(selected);
+}
+
+void DirectJudgmentPageWidget::renderCone(const DirectAPresenter& presenter) {
+  const JudgmentPage& page = presenter.judgment();
+  m_cone->setAreaSide(page.cone().side());
+  const RegionHandles& h = page.handles();
+  m_cone->setHandlePosition(0, QPointF(h.first.x, h.first.y));
+  m_cone->setHandlePosition(1, QPointF(h.second.x, h.second.y));
+  const bool hasTarget = page.targets().currentTarget() >= 0;
+  m_cone->setHandlesVisible(hasTarget);
+  QPolygonF triangle;
+  if (hasTarget) {
+    for (const IntPoint& p : page.coneTriangle()) triangle << QPointF(p.x, p.y);
+  }
+  m_cone->setCone(triangle);
+}
+
+void DirectJudgmentPageWidget::renderOrderTab(const DirectAPresenter& presenter,
+                                              const WizardContext& context) {
+  const JudgmentPage& page = presenter.judgment();
+  m_tabs->setTabEnabled(1, page.orderTabVisible());
+  if (!page.orderTabVisible()) return;
+  const int n = static_cast<int>(presenter.ordering().attributeButtons().size());
+  QVector<FinalOrderWidget::AttributeFace> faces;
+  for (int i = 0; i < n; ++i) {
+    const auto b = presenter.ordering().referenceButton(i);
+    faces.append({QString::fromStdString(b.caption), colourFromBgr(b.faceColor)});
+  }
+  QVector<int> groupOf(n, 0);
+  for (int k = 1; k <= context.FinalGroupCount; ++k) {
+    for (const int i : page.orderGroup(k)) {
+      if (i >= 0 && i < n) groupOf[i] = k;
+    }
+  }
+  const bool rebuilt = faces != m_orderFaces;
+  if (rebuilt) {
+    m_orderFaces = faces;
+    m_orderList->setAttributes(faces);
+  }
+  if (rebuilt || groupOf != m_orderGroups) {
+    m_orderGroups = groupOf;
+    m_orderList->setOrder(context.FinalGroupCount, groupOf);
+  }
 }
 
 }  // namespace tnw

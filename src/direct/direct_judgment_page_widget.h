@@ -14,6 +14,8 @@ class QTabWidget;
 namespace tnw {
 
 class ConeAreaWidget;
+class DirectAPresenter;
+struct WizardContext;
 class StatusLightsWidget;
 
 // Step 2 of the direct method: the target choice with its score range and image, the two ratio
@@ -26,6 +28,8 @@ class DirectJudgmentPageWidget : public QWidget {
   // The page with empty controls.
   explicit DirectJudgmentPageWidget(QWidget* parent = nullptr);
 
+  // Shows the presenter's step 2: targets, boxes, cone, lamps and the order tab.
+  void render(const DirectAPresenter& presenter, const WizardContext& context);
   // The target list (imgcmbTargetAtt).
   QComboBox* targetList() const { return m_targetList; }
   // The target's name, score range and image (lblTargetAtt, lblTarRangeLow/High, imgTargetAtt).
@@ -53,6 +57,9 @@ class DirectJudgmentPageWidget : public QWidget {
   QWidget* buildTargetFrame();
   QWidget* buildRatioFrame();
   QWidget* buildTabs();
+  void renderTargets(const DirectAPresenter& presenter);
+  void renderCone(const DirectAPresenter& presenter);
+  void renderOrderTab(const DirectAPresenter& presenter, const WizardContext& context);
 
   QComboBox* m_targetList = nullptr;
   QLabel* m_targetName = nullptr;
@@ -69,6 +76,10 @@ class DirectJudgmentPageWidget : public QWidget {
   StatusLightsWidget* m_lights = nullptr;
   QTabWidget* m_tabs = nullptr;
   FinalOrderWidget* m_orderList = nullptr;
+  QStringList m_itemTexts;
+  QStringList m_itemImages;
+  QVector<FinalOrderWidget::AttributeFace> m_orderFaces;
+  QVector<int> m_orderGroups;
 };
 
 }  // namespace tnw

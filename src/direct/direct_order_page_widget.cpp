@@ -3,6 +3,8 @@
 #include "direct/attribute_button_widget.h"
 #include "direct/attribute_drop_filter_qt.h"
 #include "direct/clickable_label_widget.h"
+#include "direct/direct_a_presenter.h"
+#include "direct/direct_view_colours_qt.h"
 #include "direct/flow_layout_qt.h"
 #include "direct/group_box_widget.h"
 
@@ -167,7 +169,7 @@ void DirectOrderPageWidget::setAttributes(const QVector<AttributeFace>& attribut
     r.button = new AttributeButtonWidget(QStringLiteral("cmdAttA"), j, rowWidget);
     r.button->setText(attributes[j].name);
     r.button->setToolTip(attributes[j].name);
-    r.button->setCostOriented(attributes[j].costOriented);
+    r.button->setFaceColour(attributes[j].face);
     r.button->setTag(QStringLiteral("A%1").arg(j));
     r.button->setDraggable(true);
     r.label = new ClickableLabelWidget(QStringLiteral("lblAttName"), j, rowWidget);
@@ -248,7 +250,7 @@ void DirectOrderPageWidget::setGroups(const QVector<GroupView>& groups, int fram
       if (attribute >= 0 && attribute < m_faces.size()) {
         b->setText(m_faces[attribute].name);
         b->setToolTip(m_faces[attribute].name);
-        b->setCostOriented(m_faces[attribute].costOriented);
+        b->setFaceColour(m_faces[attribute].face);
       }
       if (b->parentWidget() != row.box) {
         b->setParent(row.box);
@@ -275,9 +277,10 @@ void DirectOrderPageWidget::setGroupButtonsEnabled(bool enabled) {
   m_insert->setEnabled(enabled);
 }
 
-void DirectOrderPageWidget::showAttributeInfo(int j, const QString& name, const QString& property,
+void DirectOrderPageWidget::showAttributeInfo(int j, const QString& title, const QString& name,
+                                              const QString& property,
                                               const QString& definition) {
-  m_info->setTitle(tr("Attribute %1's information").arg(j + 1));
+  m_info->setTitle(title);
   m_infoName->setText(name);
   m_infoProperty->setText(property);
   m_infoDefinition->setPlainText(definition);
@@ -306,6 +309,41 @@ void DirectOrderPageWidget::onDragOver(QWidget* target, const QByteArray& payloa
     return;
   }
   emit draggedOverList(payload);
+}
+
+void DirectOrderPageWidget::render(const DirectAPresenter& presenter) {
+  const OrderingPage& page = presenter.ordering();
+  const auto& buttons = page.attributeButtons();
+  QVector<AttributeFace> faces;
+  for (const auto& b : buttons) {
+    faces.append({QString::fromStdString(b.caption), colourFromBgr(b.faceColor)});
+  }
+  bool same = faces.size() == m_faces.size();
+  for (int j = 0; same && j < faces.size(); ++j) {
+    same = faces[j].name == m_faces[j].name && faces[j].face == m_faces[j].face;
+  }
+  if (!same) setAttributes(faces);
+  for (int j = 0; j < static_cast<int>(buttons.size()); ++j) {
+    setAttributeListed(j, buttons[static_cast<std::size_t>(j)].visible);
+  }
+  const ImportanceOrder& order = page.order();
+  const std::vector<int>& placements = order.placements();
+  QVector<GroupView> groups;
+  for (int k = 1; k <= order.GroupCount(); ++k) {
+    GroupView view;
+    view.group = k;
+    for (const int att : order.attributesInGroup(k)) {
+      const auto it = std::find(placements.begin(), placements.end(), att);
+      if (it != placements.end()) view.placed.append({static_cast<int>(it - placements.begin()), att});
+    }
+    groups.append(view);
+  }
+  setGroups(groups, order.framedGroup());
+  const auto caption = [&presenter](const char* name) {
+    return QString::fromStdString(presenter.control(name).caption);
+  };
+  showAttributeInfo(page.selectedInfo(), caption("frameAttInfo"), caption("labAttName"),
+                    caption("labAttProperty"), caption("txtAttDefinition"));
 }
 
 }  // namespace tnw

@@ -1,6 +1,7 @@
 #pragma once
 
 // Qt
+#include <QColor>
 #include <QByteArray>
 #include <QString>
 #include <QVector>
@@ -17,6 +18,7 @@ class QVBoxLayout;
 namespace tnw {
 
 class AttributeButtonWidget;
+class DirectAPresenter;
 class AttributeDropFilter;
 class ClickableLabelWidget;
 class GroupBoxWidget;
@@ -31,7 +33,7 @@ class DirectOrderPageWidget : public QWidget {
   // How one attribute is shown.
   struct AttributeFace {
     QString name;
-    bool costOriented = false;
+    QColor face;
   };
   // One group box: its group number and its placed attributes as (placement index, attribute).
   struct GroupView {
@@ -51,8 +53,10 @@ class DirectOrderPageWidget : public QWidget {
   // Enables or disables Add and Insert.
   void setGroupButtonsEnabled(bool enabled);
   // Shows attribute j's information and selects its option button.
-  void showAttributeInfo(int j, const QString& name, const QString& property,
-                         const QString& definition);
+  void showAttributeInfo(int j, const QString& title, const QString& name,
+                         const QString& property, const QString& definition);
+  // Shows the presenter's step 0: attribute list, groups, placed buttons, information.
+  void render(const DirectAPresenter& presenter);
   // The group box showing group number group, or null.
   GroupBoxWidget* boxOfGroup(int group) const;
 

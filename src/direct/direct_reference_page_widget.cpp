@@ -1,6 +1,8 @@
 #include "direct/direct_reference_page_widget.h"
 
 #include "direct/attribute_button_widget.h"
+#include "direct/direct_a_presenter.h"
+#include "direct/direct_view_colours_qt.h"
 #include "direct/indicator_widget.h"
 
 // Qt
@@ -29,17 +31,6 @@ DirectReferencePageWidget::DirectReferencePageWidget(QWidget* parent) : QWidget(
   connect(m_order, &FinalOrderWidget::attributeClicked, this,
           &DirectReferencePageWidget::attributeClicked);
 
-  auto* refCaption = new QLabel(tr("Reference attribute:"), this);
-  m_refName = new QLabel(this);
-  m_refName->setObjectName(QStringLiteral("lblRefAtt"));
-  QFont bold = m_refName->font();
-  bold.setBold(true);
-  m_refName->setFont(bold);
-  m_refName->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  auto* refRow = new QHBoxLayout;
-  refRow->addWidget(refCaption);
-  refRow->addWidget(m_refName, 1);
-
   m_indicator = new IndicatorWidget(this);
   m_indicator->hide();
 
@@ -47,7 +38,6 @@ DirectReferencePageWidget::DirectReferencePageWidget(QWidget* parent) : QWidget(
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(instruction);
   layout->addWidget(frame, 1);
-  layout->addLayout(refRow);
 }
 
 void DirectReferencePageWidget::setAttributes(
@@ -63,10 +53,9 @@ void DirectReferencePageWidget::setOrder(int groupCount, const QVector<int>& gro
   m_order->setOrder(groupCount, groupOf);
 }
 
-void DirectReferencePageWidget::setReference(int i, const QString& name) {
+void DirectReferencePageWidget::setReference(int i) {
   if (AttributeButtonWidget* old = m_order->button(m_reference)) old->setMarked(false);
   m_reference = i;
-  m_refName->setText(name);
   AttributeButtonWidget* chosen = m_order->button(i);
   if (chosen == nullptr) {
     m_indicator->setParent(this);
@@ -81,6 +70,34 @@ void DirectReferencePageWidget::setReference(int i, const QString& name) {
 
 void DirectReferencePageWidget::setIndicatorColour(const QColor& colour) {
   m_indicator->setFillColour(colour);
+}
+
+void DirectReferencePageWidget::render(const DirectAPresenter& presenter,
+                                       const WizardContext& context) {
+  const int n = static_cast<int>(presenter.ordering().attributeButtons().size());
+  QVector<FinalOrderWidget::AttributeFace> faces;
+  for (int i = 0; i < n; ++i) {
+    const auto b = presenter.ordering().referenceButton(i);
+    faces.append({QString::fromStdString(b.caption), colourFromBgr(b.faceColor)});
+  }
+  const bool rebuilt = faces != m_faces;
+  if (rebuilt) {
+    m_faces = faces;
+    setAttributes(faces);
+  }
+  QVector<int> groupOf(n, 0);
+  for (int k = 1; k <= context.FinalGroupCount; ++k) {
+    for (const int i : presenter.finalGroup(k)) {
+      if (i >= 0 && i < n) groupOf[i] = k;
+    }
+  }
+  if (rebuilt || groupOf != m_groupOf || context.FinalGroupCount != m_order->groupCount()) {
+    m_groupOf = groupOf;
+    setOrder(context.FinalGroupCount, groupOf);
+  }
+  const int ref = presenter.control("picIndicator").visible ? presenter.indicatorAttribute() : -1;
+  if (ref != m_reference) setReference(ref);
+  setIndicatorColour(colourFromBgr(presenter.lamps().indicatorColor()));
 }
 
 }  // namespace tnw

@@ -9,7 +9,9 @@ class QLabel;
 
 namespace tnw {
 
+class DirectAPresenter;
 class IndicatorWidget;
+struct WizardContext;
 
 // Step 1 of the direct method: the final importance order with one button per attribute, the
 // reference attribute's name and the blinking indicator beside its button.
@@ -24,10 +26,12 @@ class DirectReferencePageWidget : public QWidget {
   void setAttributes(const QVector<FinalOrderWidget::AttributeFace>& attributes);
   // Lays the buttons out in the final order (DisplayFinalOrder).
   void setOrder(int groupCount, const QVector<int>& groupOf);
-  // Shows attribute i as the reference (-1: none chosen) with its name in lblRefAtt.
-  void setReference(int i, const QString& name);
+  // Marks attribute i's button as the reference and puts the indicator on it (-1: none).
+  void setReference(int i);
   // Sets the indicator's fill colour.
   void setIndicatorColour(const QColor& colour);
+  // Shows the presenter's step 1: the final order, the reference and the indicator.
+  void render(const DirectAPresenter& presenter, const WizardContext& context);
   // The order view.
   FinalOrderWidget* orderView() const { return m_order; }
   // The indicator.
@@ -39,7 +43,8 @@ class DirectReferencePageWidget : public QWidget {
 
  private:
   FinalOrderWidget* m_order = nullptr;
-  QLabel* m_refName = nullptr;
+  QVector<FinalOrderWidget::AttributeFace> m_faces;
+  QVector<int> m_groupOf;
   IndicatorWidget* m_indicator = nullptr;
   int m_reference = -1;
 };

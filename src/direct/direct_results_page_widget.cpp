@@ -1,10 +1,15 @@
 #include "direct/direct_results_page_widget.h"
 
+#include "direct/results_grid.h"
+
 // Qt
 #include <QHeaderView>
 #include <QLabel>
 #include <QTableWidget>
 #include <QVBoxLayout>
+
+// Std
+#include <algorithm>
 
 namespace tnw {
 
@@ -42,11 +47,45 @@ void DirectResultsPageWidget::setTable(const QStringList& headers,
       m_grid->setItem(r, c, item);
     }
   }
+  applyColumnWidths();
+}
+
+void DirectResultsPageWidget::applyColumnWidths() {
+  const QFontMetrics fm = m_grid->fontMetrics();
+  const auto widths = ResultsGrid::columnWidths(
+      fm.horizontalAdvance(QStringLiteral("Weights")),
+      fm.horizontalAdvance(QStringLiteral("Likelihood")), m_grid->viewport()->width());
   m_grid->resizeColumnsToContents();
-  // Column widths follow the texts, with room for the header's bold font and some air.
-  for (int c = 0; c < m_grid->columnCount(); ++c) {
-    m_grid->setColumnWidth(c, m_grid->columnWidth(c) + 16);
+  // The grid's own widths are a floor; no text is ever cut by them.
+  for (int c = 0; c < m_grid->columnCount() && c < static_cast<int>(widths.size()); ++c) {
+    const int contents = m_grid->columnWidth(c) + 12;
+    m_grid->setColumnWidth(c, std::max(contents, widths[static_cast<std::size_t>(c)]));
   }
+}
+
+void DirectResultsPageWidget::render(const ResultsGrid& grid) {
+  QString signature;
+  for (int r = 0; r < grid.rows(); ++r) {
+    for (int c = 0; c < ResultsGrid::kColumns; ++c) {
+      signature += QString::fromStdString(grid.cell(r, c)) + QLatin1Char('\t');
+    }
+  }
+  if (grid.rows() == m_shownRows && signature == m_signature) return;
+  m_shownRows = grid.rows();
+  m_signature = signature;
+  QStringList headers;
+  for (int c = 0; c < ResultsGrid::kColumns; ++c) {
+    headers.append(QString::fromStdString(grid.cell(0, c)));
+  }
+  QVector<QStringList> rows;
+  for (int r = 1; r < grid.rows(); ++r) {
+    QStringList row;
+    for (int c = 0; c < ResultsGrid::kColumns; ++c) {
+      row.append(QString::fromStdString(grid.cell(r, c)));
+    }
+    rows.append(row);
+  }
+  setTable(headers, rows);
 }
 
 }  // namespace tnw

@@ -33,7 +33,7 @@ void FinalOrderWidget::setAttributes(const QVector<AttributeFace>& attributes) {
     auto* b = new AttributeButtonWidget(m_names.button, i, m_panel);
     b->setText(attributes[i].name);
     b->setToolTip(attributes[i].name);
-    b->setCostOriented(attributes[i].costOriented);
+    b->setFaceColour(attributes[i].face);
     b->setTag(QStringLiteral("A%1").arg(i));
     b->hide();
     connect(b, &QPushButton::clicked, this, [this, i] { emit attributeClicked(i); });

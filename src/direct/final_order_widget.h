@@ -1,6 +1,7 @@
 #pragma once
 
 // Qt
+#include <QColor>
 #include <QScrollArea>
 #include <QString>
 #include <QVector>
@@ -28,7 +29,9 @@ class FinalOrderWidget : public QScrollArea {
   // One attribute as its button shows it.
   struct AttributeFace {
     QString name;
-    bool costOriented = false;
+    QColor face;
+
+    friend bool operator==(const AttributeFace&, const AttributeFace&) = default;
   };
 
   // An empty order whose parts carry the given names.
