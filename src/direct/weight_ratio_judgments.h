@@ -32,6 +32,10 @@ class WeightRatioJudgments {
   std::vector<int> RecordWeightRatios(int t, double lower, double upper,
                                       const RegionHandles& handles);
 
+  // Number of groups of the final order.
+  int groupCount() const { return m_context.FinalGroupCount; }
+  // The reference attribute.
+  int refAtt() const { return m_context.RefAtt; }
   // Group of attribute i in the final order (0 when unknown).
   int group(int i) const;
   // Whether attribute i is judged.
