@@ -9,6 +9,7 @@
 #include "direct/ratio_box_filter_qt.h"
 
 // Qt
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QFrame>
 #include <QGroupBox>
@@ -43,7 +44,7 @@ QLabel* makeLabel(const char* name, QWidget* parent) {
 
 DirectADialog::DirectADialog(WizardContext& context, UiServices& ui, DirectAEvents& events,
                              QWidget* parent)
-    : WizardDialogQt(parent), m_context(context), m_presenter(context, ui, events) {
+    : QDialog(parent), m_context(context), m_presenter(context, ui, events) {
   setObjectName(QStringLiteral("frmDirectA"));
   setWindowTitle(QString::fromUtf8(DirectAPresenter::kDesignCaption));
   setSizeGripEnabled(true);
@@ -182,6 +183,13 @@ void DirectADialog::connectButtons() {
 }
 
 void DirectADialog::closeRequested() { m_presenter.cmdCancel_Click(); }
+
+void DirectADialog::reject() { closeRequested(); }
+
+void DirectADialog::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  closeRequested();
+}
 
 void DirectADialog::render() {
   // A render can set off another change (a focus move runs a check); that one renders after.

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "component/wizard_dialog_qt.h"
 #include "direct/direct_a_presenter.h"
 
 // Qt
+#include <QDialog>
 #include <QTimer>
 
 class QLabel;
@@ -22,7 +22,7 @@ class RatioBoxFilter;
 // frmDirectA: the direct method's four steps as a Qt dialog over DirectAPresenter. The dialog
 // holds the widgets, hands every user action to one presenter operation and renders the
 // presenter's state after each change. Every control's objectName is its given name.
-class DirectADialog : public WizardDialogQt {
+class DirectADialog : public QDialog {
   Q_OBJECT
 
  public:
@@ -38,7 +38,10 @@ class DirectADialog : public WizardDialogQt {
   const QTimer& timer() const { return m_timer; }
 
  protected:
-  void closeRequested() override;
+  // The close box and Escape do what Cancel does.
+  void closeRequested();
+  void reject() override;
+  void closeEvent(QCloseEvent* event) override;
 
  private:
   QWidget* buildHeader();
