@@ -54,10 +54,9 @@ DirectADialog::DirectADialog(WizardContext& context, UiServices& ui, DirectAEven
   m_referencePage = new DirectReferencePageWidget(m_stack);
   m_judgmentPage = new DirectJudgmentPageWidget(m_stack);
   m_resultsPage = new DirectResultsPageWidget(m_stack);
-  for (QWidget* page : {static_cast<QWidget*>(m_orderPage),
-                        static_cast<QWidget*>(m_referencePage),
-                        static_cast<QWidget*>(m_judgmentPage),
-                        static_cast<QWidget*>(m_resultsPage)}) {
+  for (QWidget* page :
+       {static_cast<QWidget*>(m_orderPage), static_cast<QWidget*>(m_referencePage),
+        static_cast<QWidget*>(m_judgmentPage), static_cast<QWidget*>(m_resultsPage)}) {
     m_stack->addWidget(page);
   }
   auto* line = new QFrame(this);
@@ -69,9 +68,9 @@ DirectADialog::DirectADialog(WizardContext& context, UiServices& ui, DirectAEven
   layout->addWidget(line);
   layout->addLayout(buildButtons());
 
-  m_ratioFilter = new RatioBoxFilter(m_presenter, m_judgmentPage->lowerBox(),
-                                     m_judgmentPage->upperBox(), [this] { applyFocusRequest(); },
-                                     this);
+  m_ratioFilter = new RatioBoxFilter(
+      m_presenter, m_judgmentPage->lowerBox(), m_judgmentPage->upperBox(),
+      [this] { applyFocusRequest(); }, this);
   connectOrderPage();
   connectReferencePage();
   connectJudgmentPage();
@@ -138,8 +137,9 @@ QLayout* DirectADialog::buildButtons() {
 void DirectADialog::connectOrderPage() {
   DirectOrderPageWidget* page = m_orderPage;
   DirectAPresenter& p = m_presenter;
-  connect(page, &DirectOrderPageWidget::droppedOnGroup, this,
-          [&p](int group, const QByteArray& tag) { p.picOrder_DragDrop(group, tag.toStdString()); });
+  connect(
+      page, &DirectOrderPageWidget::droppedOnGroup, this,
+      [&p](int group, const QByteArray& tag) { p.picOrder_DragDrop(group, tag.toStdString()); });
   connect(page, &DirectOrderPageWidget::droppedOnPlaced, this,
           [&p](int att, const QByteArray& tag) { p.cmdAttB_DragDrop(att, tag.toStdString()); });
   connect(page, &DirectOrderPageWidget::draggedOverList, this,
@@ -233,7 +233,8 @@ void DirectADialog::renderControls() {
     } else if (name.rfind("img", 0) == 0) {
       if (w->property("image").toString() != caption) {
         w->setProperty("image", caption);
-        if (auto* label = qobject_cast<QLabel*>(w)) label->setPixmap(orientationPixmap(caption, 32));
+        if (auto* label = qobject_cast<QLabel*>(w))
+          label->setPixmap(orientationPixmap(caption, 32));
       }
     } else if (auto* label = qobject_cast<QLabel*>(w)) {
       if (label->text() != caption) label->setText(caption);
@@ -263,8 +264,8 @@ void DirectADialog::applyFocusRequest() {
   target->setFocus(Qt::OtherFocusReason);
   m_ratioFilter->setRestoringFocus(false);
   if (auto* edit = qobject_cast<QLineEdit*>(target)) {
-    const auto box = edit == m_judgmentPage->lowerBox() ? JudgmentPage::Box::Lower
-                                                          : JudgmentPage::Box::Upper;
+    const auto box =
+        edit == m_judgmentPage->lowerBox() ? JudgmentPage::Box::Lower : JudgmentPage::Box::Upper;
     RatioBoxFilter::showBoxState(edit, m_presenter.judgment().box(box));
   }
 }

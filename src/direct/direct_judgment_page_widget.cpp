@@ -4,8 +4,8 @@
 #include "direct/direct_a_presenter.h"
 #include "direct/direct_view_colours_qt.h"
 #include "direct/orientation_images_qt.h"
-#include "direct/ratio_box_filter_qt.h"
 #include "direct/preference_chart_widget.h"
+#include "direct/ratio_box_filter_qt.h"
 #include "direct/status_lights_widget.h"
 
 // Qt

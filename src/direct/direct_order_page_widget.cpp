@@ -278,8 +278,7 @@ void DirectOrderPageWidget::setGroupButtonsEnabled(bool enabled) {
 }
 
 void DirectOrderPageWidget::showAttributeInfo(int j, const QString& title, const QString& name,
-                                              const QString& property,
-                                              const QString& definition) {
+                                              const QString& property, const QString& definition) {
   m_info->setTitle(title);
   m_infoName->setText(name);
   m_infoProperty->setText(property);
@@ -334,7 +333,8 @@ void DirectOrderPageWidget::render(const DirectAPresenter& presenter) {
     view.group = k;
     for (const int att : order.attributesInGroup(k)) {
       const auto it = std::find(placements.begin(), placements.end(), att);
-      if (it != placements.end()) view.placed.append({static_cast<int>(it - placements.begin()), att});
+      if (it != placements.end())
+        view.placed.append({static_cast<int>(it - placements.begin()), att});
     }
     groups.append(view);
   }

@@ -1,8 +1,8 @@
 #pragma once
 
 // Qt
-#include <QColor>
 #include <QByteArray>
+#include <QColor>
 #include <QString>
 #include <QVector>
 #include <QWidget>
@@ -53,8 +53,8 @@ class DirectOrderPageWidget : public QWidget {
   // Enables or disables Add and Insert.
   void setGroupButtonsEnabled(bool enabled);
   // Shows attribute j's information and selects its option button.
-  void showAttributeInfo(int j, const QString& title, const QString& name,
-                         const QString& property, const QString& definition);
+  void showAttributeInfo(int j, const QString& title, const QString& name, const QString& property,
+                         const QString& definition);
   // Shows the presenter's step 0: attribute list, groups, placed buttons, information.
   void render(const DirectAPresenter& presenter);
   // The group box showing group number group, or null.

@@ -52,9 +52,9 @@ void DirectResultsPageWidget::setTable(const QStringList& headers,
 
 void DirectResultsPageWidget::applyColumnWidths() {
   const QFontMetrics fm = m_grid->fontMetrics();
-  const auto widths = ResultsGrid::columnWidths(
-      fm.horizontalAdvance(QStringLiteral("Weights")),
-      fm.horizontalAdvance(QStringLiteral("Likelihood")), m_grid->viewport()->width());
+  const auto widths = ResultsGrid::columnWidths(fm.horizontalAdvance(QStringLiteral("Weights")),
+                                                fm.horizontalAdvance(QStringLiteral("Likelihood")),
+                                                m_grid->viewport()->width());
   m_grid->resizeColumnsToContents();
   // The grid's own widths are a floor; no text is ever cut by them.
   for (int c = 0; c < m_grid->columnCount() && c < static_cast<int>(widths.size()); ++c) {

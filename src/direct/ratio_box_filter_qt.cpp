@@ -117,7 +117,9 @@ bool RatioBoxFilter::eventFilter(QObject* watched, QEvent* event) {
         return false;
       }
       m_presenter.txtWR_LostFocus(box);
-      if (m_afterAction) m_afterAction();
+      // The box deselects its text when it has handled losing the focus; giving the focus
+      // back (with the text selected) waits until then.
+      if (m_afterAction) QMetaObject::invokeMethod(this, m_afterAction, Qt::QueuedConnection);
       return false;
     }
     default:

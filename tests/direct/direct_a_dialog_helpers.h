@@ -4,10 +4,13 @@
 #include "direct/group_box_widget.h"
 
 // Qt
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDropEvent>
+#include <QLabel>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QStringList>
 #include <QWidget>
 
 namespace tnw::test {
@@ -63,6 +66,36 @@ inline void mouseDrag(QWidget* w, QPoint from, QPoint to, int steps = 4) {
          Qt::LeftButton);
   }
   send(QEvent::MouseButtonRelease, globalTo, Qt::LeftButton, Qt::NoButton);
+}
+
+// The visible labels and buttons under root whose text does not fit their width or height:
+// each is named with its objectName and text.
+inline QStringList clippedTexts(const QWidget* root) {
+  QStringList clipped;
+  const auto check = [&clipped](const QWidget* w, const QString& text, QSize needed) {
+    if (!w->isVisibleTo(w->window()) || !w->isVisible() || text.isEmpty()) return;
+    if (w->width() < needed.width() || w->height() < needed.height()) {
+      clipped.append(QStringLiteral("%1 \"%2\" %3x%4 < %5x%6")
+                         .arg(w->objectName(), text)
+                         .arg(w->width())
+                         .arg(w->height())
+                         .arg(needed.width())
+                         .arg(needed.height()));
+    }
+  };
+  for (const QLabel* label : root->findChildren<QLabel*>()) {
+    if (label->wordWrap() || !label->pixmap().isNull()) continue;
+    const QSize text = label->fontMetrics().size(Qt::TextShowMnemonic, label->text());
+    const QMargins m = label->contentsMargins();
+    check(label, label->text(),
+          text + QSize(m.left() + m.right() + 2 * label->margin(),
+                       m.top() + m.bottom() + 2 * label->margin()));
+  }
+  for (const QAbstractButton* button : root->findChildren<QAbstractButton*>()) {
+    const QSize text = button->fontMetrics().size(Qt::TextShowMnemonic, button->text());
+    check(button, button->text(), text);
+  }
+  return clipped;
 }
 
 }  // namespace tnw::test

@@ -1,9 +1,10 @@
 // The direct method driven end to end through the real widgets of frmDirectA.
 
+#include "direct/direct_a_dialog.h"
+
 #include "common/recording_ui_services.h"
 #include "direct/attribute_button_widget.h"
 #include "direct/cone_area_widget.h"
-#include "direct/direct_a_dialog.h"
 #include "direct/status_lights_widget.h"
 #include "direct_a_dialog_helpers.h"
 #include "direct_test_models.h"
@@ -193,10 +194,12 @@ void DirectADialogTest::fullDirectMethodThroughTheWidgets() {
   QVERIFY(lights->lampLit(1));
   QCOMPARE(control<QLineEdit>(m_dialog.get(), "txtWRUpper")->text(), upperText);
   // Both handles below the diagonal: ratios 0.5 and 0.7, consistent.
-  test::mouseDrag(lowerHandle, lowerHandle->rect().center(),
-                  lowerHandle->mapFrom(cone, cone->toPixels(QPointF(0.7 * s, s - 0.35 * s)).toPoint()));
-  test::mouseDrag(upperHandle, upperHandle->rect().center(),
-                  upperHandle->mapFrom(cone, cone->toPixels(QPointF(0.7 * s, s - 0.49 * s)).toPoint()));
+  test::mouseDrag(
+      lowerHandle, lowerHandle->rect().center(),
+      lowerHandle->mapFrom(cone, cone->toPixels(QPointF(0.7 * s, s - 0.35 * s)).toPoint()));
+  test::mouseDrag(
+      upperHandle, upperHandle->rect().center(),
+      upperHandle->mapFrom(cone, cone->toPixels(QPointF(0.7 * s, s - 0.49 * s)).toPoint()));
   QVERIFY(lights->lampLit(0));
   const double lower = control<QLineEdit>(m_dialog.get(), "txtWRLower")->text().toDouble();
   const double upper = control<QLineEdit>(m_dialog.get(), "txtWRUpper")->text().toDouble();
@@ -208,7 +211,8 @@ void DirectADialogTest::fullDirectMethodThroughTheWidgets() {
 
   // Step 3: the results grid.
   QTest::mouseClick(button("cmdNext"), Qt::LeftButton);
-  QCOMPARE(m_dialog->windowTitle(), QStringLiteral("Tarnel Wizard: Results of the value judgments"));
+  QCOMPARE(m_dialog->windowTitle(),
+           QStringLiteral("Tarnel Wizard: Results of the value judgments"));
   auto* grid = control<QTableWidget>(m_dialog.get(), "gridTN");
   QVERIFY(grid->isVisible());
   QCOMPARE(grid->rowCount(), 5);
