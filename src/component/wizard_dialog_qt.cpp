@@ -20,16 +20,12 @@ void WizardDialogQt::showWithModality(Qt::WindowModality modality) {
   if (isVisible() && windowModality() != modality) hide();
   setWindowModality(modality);
   show();
-  raise();
   activateWindow();
 }
 
 void WizardDialogQt::setDialogVisible(bool visible) {
   setVisible(visible);
-  if (visible) {
-    raise();
-    activateWindow();
-  }
+  if (visible) activateWindow();
 }
 
 bool WizardDialogQt::dialogVisible() const { return isVisible(); }
