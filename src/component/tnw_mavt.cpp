@@ -12,10 +12,10 @@ struct TNW_MAVT::Impl {
       : ownUi(hostUi == nullptr ? std::make_unique<UiServicesQt>() : nullptr),
         ui(hostUi == nullptr ? *ownUi : *hostUi),
         factory(ui),
-        component(factory, ui, [](const std::string& path, AttributeModel& model,
-                                  UiServices& services) {
-          OpenRelatedFileForTNW(path, model, services);
-        }) {}
+        component(factory, ui,
+                  [](const std::string& path, AttributeModel& model, UiServices& services) {
+                    OpenRelatedFileForTNW(path, model, services);
+                  }) {}
 
   std::unique_ptr<UiServicesQt> ownUi;
   UiServices& ui;

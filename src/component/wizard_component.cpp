@@ -1,5 +1,7 @@
 #include "component/wizard_component.h"
 
+#include "model/center.h"
+
 // Std
 #include <utility>
 
@@ -201,9 +203,8 @@ bool WizardComponent::create(Slot slot) {
 }
 
 void WizardComponent::center(WizardDialog& dialog) {
-  const ScreenSize screen = m_ui.screenSize();
-  const ScreenSize size = dialog.dialogSize();
-  dialog.moveDialog((screen.width - size.width) / 2, (screen.height - size.height) / 2);
+  const DialogPosition at = Center(m_ui.screenSize(), dialog.dialogSize());
+  dialog.moveDialog(at.left, at.top);
 }
 
 void WizardComponent::hide(Slot slot) {

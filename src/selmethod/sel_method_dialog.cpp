@@ -37,8 +37,8 @@ SelMethodDialog::SelMethodDialog(const WizardContext& context, UiServices& ui,
   setObjectName(QStringLiteral("frmTNWSelMethod"));
   setWindowTitle(QString::fromUtf8(SelMethodPresenter::kCaption));
   QFont f = font();
-  f.setFamilies({QStringLiteral("MS Sans Serif"), QStringLiteral("Microsoft Sans Serif"),
-                 f.family()});
+  f.setFamilies(
+      {QStringLiteral("MS Sans Serif"), QStringLiteral("Microsoft Sans Serif"), f.family()});
   setFont(f);
   buildLayout();
   connectControls();
@@ -126,9 +126,7 @@ void SelMethodDialog::buildLayout() {
 void SelMethodDialog::connectControls() {
   connect(m_lstMethods, &QListWidget::itemSelectionChanged, this,
           &SelMethodDialog::onSelectionChanged);
-  connect(m_cmdNext, &QPushButton::clicked, this, [this] {
-    m_presenter.cmdNext_Click();
-  });
+  connect(m_cmdNext, &QPushButton::clicked, this, [this] { m_presenter.cmdNext_Click(); });
   connect(m_cmdCancel, &QPushButton::clicked, this, [this] { m_presenter.cmdCancel_Click(); });
   connect(m_cmdHelp, &QPushButton::clicked, this, [this] { m_presenter.cmdHelp_Click(); });
   auto* help = new QShortcut(QKeySequence::HelpContents, this);

@@ -121,9 +121,9 @@ class SelMethodDialogTest : public QObject {
     QCOMPARE(list->currentRow(), 1);
     QVERIFY(list->item(1)->isSelected());
     QCOMPARE(child<QLabel>(d.get(), "lblSelectedMethodName")->text(), QStringLiteral("MAVT:"));
-    QCOMPARE(child<QLabel>(d.get(), "lblDescription")->text(),
-             QStringLiteral(
-                 "Elict attribute weights by Simple Multiple Attribute Rating Technique"));
+    QCOMPARE(
+        child<QLabel>(d.get(), "lblDescription")->text(),
+        QStringLiteral("Elict attribute weights by Simple Multiple Attribute Rating Technique"));
   }
 
   void lowerCaseTradeOffsPreselectsDirect() {
@@ -226,8 +226,8 @@ class SelMethodDialogTest : public QObject {
         "Elict attribute weights by numerical trade-off between two random alternatives. The "
         "weights will be infered by multi-linear regression."));
     for (QLabel* label : d->findChildren<QLabel*>()) {
-      const int needed = label->wordWrap() ? label->heightForWidth(label->width())
-                                           : label->sizeHint().height();
+      const int needed =
+          label->wordWrap() ? label->heightForWidth(label->width()) : label->sizeHint().height();
       QVERIFY2(label->height() >= needed, qPrintable(label->objectName()));
       if (!label->wordWrap()) {
         QVERIFY2(label->width() >= label->sizeHint().width(), qPrintable(label->objectName()));
