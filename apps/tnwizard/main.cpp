@@ -28,6 +28,7 @@ struct Command {
 constexpr Command kCommands[] = {
     {"model", runModel},
     {"value", runValue},
+    {"tradeoffs", runTradeOffs},
 };
 
 }  // namespace
