@@ -13,6 +13,9 @@ int runModel(const std::vector<std::string>& args);
 // tnwizard value MODEL ATT SCORE...: single-attribute values with four decimals.
 int runValue(const std::vector<std::string>& args);
 
+// tnwizard direct MODEL SCENARIO.json: the direct method run headless, the result as JSON.
+int runDirect(const std::vector<std::string>& args);
+
 // tnwizard tradeoffs MODEL JUDGMENTS.json: judgments recorded and the regression run headless.
 int runTradeOffs(const std::vector<std::string>& args);
 
