@@ -31,6 +31,8 @@ constexpr Command kCommands[] = {
 #endif
     {"model", runModel},
     {"value", runValue},
+    {"direct", runDirect},
+    {"tradeoffs", runTradeOffs},
 };
 
 }  // namespace
