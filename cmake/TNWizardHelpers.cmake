@@ -18,10 +18,7 @@ function(tnw_add_dialog_test name)
   add_executable(${name} ${ARGN})
   tnw_warnings(${name})
   set_target_properties(${name} PROPERTIES AUTOMOC ON)
-  target_link_libraries(${name} PRIVATE TNWizard::ui TNWizard::core Qt6::Test Qt6::Widgets)
-  if(TARGET tnwizard_mavt)
-    target_link_libraries(${name} PRIVATE TNWizard::mavt)
-  endif()
+  target_link_libraries(${name} PRIVATE TNWizard::mavt TNWizard::ui TNWizard::core Qt6::Test Qt6::Widgets)
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen"
