@@ -8,7 +8,6 @@
 #include <QApplication>
 #include <QPushButton>
 #include <QTimer>
-
 #include <cstdio>
 #include <string>
 #include <vector>
