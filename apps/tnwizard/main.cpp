@@ -26,9 +26,13 @@ struct Command {
 
 // Each sub-command lives in its own source file; add it here when it exists.
 constexpr Command kCommands[] = {
+#ifdef TNW_WITH_SHOW
+    {"show", runShow},
+#endif
     {"model", runModel},
     {"value", runValue},
     {"direct", runDirect},
+    {"tradeoffs", runTradeOffs},
 };
 
 }  // namespace
