@@ -86,20 +86,35 @@ void ComEventRelay::fire(DISPID dispId, VARIANT* args, UINT count) {
 
 void ComEventRelay::fireWithArrays(DISPID dispId, VARIANT* leading, UINT leadingCount,
                                    std::vector<double>* arrays[3]) {
+  // A dialog that passes one array in two places (the trade-off dialog's middle estimates as
+  // Weights and WeightsL) hands the host one array in both, as the host language would.
+  int source[3] = {0, 1, 2};
+  for (int i = 1; i < 3; ++i) {
+    for (int k = 0; k < i; ++k) {
+      if (arrays[k] == arrays[i]) {
+        source[i] = source[k];
+        break;
+      }
+    }
+  }
   SAFEARRAY* safeArrays[3] = {nullptr, nullptr, nullptr};
   bool made = true;
-  for (int i = 0; i < 3 && made; ++i) made = SUCCEEDED(toVariantArray(*arrays[i], &safeArrays[i]));
+  for (int i = 0; i < 3 && made; ++i) {
+    if (source[i] == i) made = SUCCEEDED(toVariantArray(*arrays[i], &safeArrays[i]));
+  }
   if (made) {
-    // Reverse order: WeightsL, WeightsH, Weights, then the leading arguments reversed already.
+    // Reverse order: WeightsL, WeightsH, Weights, then the leading arguments, reversed already.
     VARIANT args[5];
     for (int i = 0; i < 3; ++i) {
       VariantInit(&args[i]);
       V_VT(&args[i]) = VT_BYREF | VT_ARRAY | VT_VARIANT;
-      V_ARRAYREF(&args[i]) = &safeArrays[2 - i];
+      V_ARRAYREF(&args[i]) = &safeArrays[source[2 - i]];
     }
     for (UINT i = 0; i < leadingCount; ++i) args[3 + i] = leading[i];
     fire(dispId, args, 3 + leadingCount);
-    for (int i = 0; i < 3; ++i) readVariantArray(safeArrays[i], *arrays[i]);
+    for (int i = 0; i < 3; ++i) {
+      if (source[i] == i) readVariantArray(safeArrays[i], *arrays[i]);
+    }
   }
   for (SAFEARRAY* array : safeArrays) {
     if (array) SafeArrayDestroy(array);

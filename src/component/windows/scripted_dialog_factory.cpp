@@ -2,9 +2,8 @@
 
 #include "component/windows/message_window.h"
 #include "component/windows/scripted_dialog.h"
-#include "component/windows/scripted_direct_dialog.h"
+#include "component/windows/scripted_dialogs.h"
 #include "component/windows/scripted_scenario.h"
-#include "component/windows/scripted_sel_method_dialog.h"
 #include "component/windows/scripted_trace.h"
 
 // Std
@@ -24,20 +23,20 @@ ScriptedDialogFactory::~ScriptedDialogFactory() { destroyReleased(); }
 
 std::unique_ptr<WizardDialog> ScriptedDialogFactory::createSelMethod(WizardContext& context,
                                                                      SelMethodEvents& events) {
-  return std::make_unique<ScriptedSelMethodDialog>(nextName("frmTNWSelMethod"), context, events,
-                                                   m_ui, m_scenario, m_window, m_trace);
+  return makeScriptedSelMethodDialog(nextName("frmTNWSelMethod"), context, events, m_ui, m_scenario,
+                                     m_window, m_trace);
 }
 
 std::unique_ptr<WizardDialog> ScriptedDialogFactory::createDirectA(WizardContext& context,
                                                                    DirectAEvents& events) {
-  return std::make_unique<ScriptedDirectDialog>(nextName("frmDirectA"), context, events, m_ui,
-                                                m_scenario, m_window, m_trace);
+  return makeScriptedDirectDialog(nextName("frmDirectA"), context, events, m_ui, m_scenario,
+                                  m_window, m_trace);
 }
 
-std::unique_ptr<WizardDialog> ScriptedDialogFactory::createTradeOffsA(WizardContext&,
-                                                                      TradeOffsAEvents&) {
-  m_trace.write("frmTradeOffsA is not available in this build");
-  return nullptr;
+std::unique_ptr<WizardDialog> ScriptedDialogFactory::createTradeOffsA(WizardContext& context,
+                                                                      TradeOffsAEvents& events) {
+  return makeScriptedTradeOffsDialog(nextName("frmTradeOffsA"), context, events, m_ui, m_scenario,
+                                     m_window, m_trace);
 }
 
 void ScriptedDialogFactory::release(std::unique_ptr<WizardDialog> dialog) {

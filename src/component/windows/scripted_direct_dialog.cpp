@@ -1,5 +1,6 @@
 #include "component/windows/scripted_direct_dialog.h"
 
+#include "component/windows/scripted_dialogs.h"
 #include "component/windows/scripted_scenario.h"
 
 // Std
@@ -113,6 +114,15 @@ std::string ScriptedDirectDialog::arraysText() const {
   const DirectExport::Weights& exported = m_presenter.exported();
   return " Weights" + numbers(exported.Weights) + " WeightsH" + numbers(exported.WeightsH) +
          " WeightsL" + numbers(exported.WeightsL);
+}
+
+std::unique_ptr<WizardDialog> makeScriptedDirectDialog(std::string name, WizardContext& context,
+                                                       DirectAEvents& events, UiServices& ui,
+                                                       ScriptedScenario& scenario,
+                                                       MessageWindow& window,
+                                                       const ScriptedTrace& trace) {
+  return std::make_unique<ScriptedDirectDialog>(std::move(name), context, events, ui, scenario,
+                                                window, trace);
 }
 
 }  // namespace tnw

@@ -1,5 +1,6 @@
 #include "component/windows/scripted_sel_method_dialog.h"
 
+#include "component/windows/scripted_dialogs.h"
 #include "component/windows/scripted_scenario.h"
 
 // Std
@@ -37,6 +38,15 @@ void ScriptedSelMethodDialog::act() {
   } else {
     trace("unknown action " + action);
   }
+}
+
+std::unique_ptr<WizardDialog> makeScriptedSelMethodDialog(std::string name, WizardContext& context,
+                                                          SelMethodEvents& events, UiServices& ui,
+                                                          ScriptedScenario& scenario,
+                                                          MessageWindow& window,
+                                                          const ScriptedTrace& trace) {
+  return std::make_unique<ScriptedSelMethodDialog>(std::move(name), context, events, ui, scenario,
+                                                   window, trace);
 }
 
 }  // namespace tnw

@@ -38,8 +38,9 @@ End Sub
 ' The host's changes to the arrays must reach the dialog's own arrays (the trace shows them).
 ' They are made in the event sub itself: Wine's VBScript cannot index an array argument that is
 ' passed on by reference a second time.
-Sub ReportChange()
-  WScript.Echo "  host changed Weights(0), WeightsH(last) and WeightsL(0)"
+Sub ReportChange(weight0)
+  WScript.Echo "  host changed Weights(0), WeightsH(last) and WeightsL(0); Weights(0) is now " & _
+    TypeName(weight0) & " " & weight0
 End Sub
 
 Sub ev_ExportDirectAW(TNType, RefAttID, Weights, WeightsH, WeightsL)
@@ -50,7 +51,7 @@ Sub ev_ExportDirectAW(TNType, RefAttID, Weights, WeightsH, WeightsL)
     Weights(0) = 0.125
     WeightsH(UBound(WeightsH)) = 0.875
     WeightsL(0) = "0.0625"
-    ReportChange
+    ReportChange Weights(0)
   End If
 End Sub
 
@@ -61,7 +62,7 @@ Sub ev_ExportTradeOffsW(TNType, Weights, WeightsH, WeightsL)
     Weights(0) = 0.125
     WeightsH(UBound(WeightsH)) = 0.875
     WeightsL(0) = "0.0625"
-    ReportChange
+    ReportChange Weights(0)
   End If
 End Sub
 
