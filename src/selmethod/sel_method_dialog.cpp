@@ -55,6 +55,8 @@ void SelMethodDialog::buildLayout() {
   m_lstMethods->setObjectName(QStringLiteral("lstMethods"));
   m_lstMethods->setSelectionMode(QAbstractItemView::SingleSelection);
   m_lstMethods->setMinimumWidth(fontMetrics().horizontalAdvance(QLatin1Char('M')) * 12);
+  // Two methods: a list a few lines high is enough, and keeps the dialog compact.
+  m_lstMethods->setFixedHeight(fontMetrics().lineSpacing() * 7);
   label1->setBuddy(m_lstMethods);
 
   m_lblSelectedMethodName = makeLabel("lblSelectedMethodName", QString(), this);
@@ -85,7 +87,7 @@ void SelMethodDialog::buildLayout() {
   top->addWidget(m_lstMethods, 1, 0, 3, 1);
   top->addWidget(m_lblSelectedMethodName, 0, 1);
   top->addWidget(label1b, 1, 1);
-  top->addWidget(m_picDescription, 2, 1);
+  top->addWidget(m_picDescription, 2, 1, 2, 1);
   top->setRowStretch(3, 1);
   top->setColumnStretch(1, 1);
 
