@@ -55,6 +55,8 @@ void SelMethodDialog::buildLayout() {
   m_lstMethods->setObjectName(QStringLiteral("lstMethods"));
   m_lstMethods->setSelectionMode(QAbstractItemView::SingleSelection);
   m_lstMethods->setMinimumWidth(fontMetrics().horizontalAdvance(QLatin1Char('M')) * 12);
+  // Two methods: a list a few lines high is enough, and keeps the dialog compact.
+  m_lstMethods->setFixedHeight(fontMetrics().lineSpacing() * 7);
   label1->setBuddy(m_lstMethods);
 
   m_lblSelectedMethodName = makeLabel("lblSelectedMethodName", QString(), this);
@@ -85,7 +87,7 @@ void SelMethodDialog::buildLayout() {
   top->addWidget(m_lstMethods, 1, 0, 3, 1);
   top->addWidget(m_lblSelectedMethodName, 0, 1);
   top->addWidget(label1b, 1, 1);
-  top->addWidget(m_picDescription, 2, 1);
+  top->addWidget(m_picDescription, 2, 1, 2, 1);
   top->setRowStretch(3, 1);
   top->setColumnStretch(1, 1);
 
@@ -101,13 +103,15 @@ void SelMethodDialog::buildLayout() {
   m_cmdHelp = makeButton("cmdHelp", "&Help", this);
   m_cmdNext->setDefault(true);
   auto* buttons = new QHBoxLayout;
-  buttons->addWidget(m_cmdHelp);
+  // Left to right in the order the keyboard visits them.
   buttons->addStretch(1);
   buttons->addWidget(m_cmdBack);
   buttons->addWidget(m_cmdNext);
   buttons->addSpacing(8);
   buttons->addWidget(m_cmdFinish);
   buttons->addWidget(m_cmdCancel);
+  buttons->addSpacing(8);
+  buttons->addWidget(m_cmdHelp);
 
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(top, 1);
