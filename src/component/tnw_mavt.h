@@ -28,7 +28,8 @@ struct WizardContext;
 //   5. UnloadTNWizard(): hides and releases every dialog (destroyed once control is back in the
 //      event loop). Call it when the UnloadTNWizard event arrives, from inside the handler if
 //      you like. A later ShowTNWizard starts afresh with a new selection dialog.
-// Do not destroy the object from inside one of its event handlers.
+// The object may be destroyed at any time, also from inside one of its event handlers; it then
+// sends no more events, and its dialogs go once control is back in the event loop.
 class TNWIZARD_MAVT_EXPORT TNW_MAVT {
  public:
   // Opens a help file at a context number.
@@ -39,7 +40,7 @@ class TNWIZARD_MAVT_EXPORT TNW_MAVT {
   // A wizard that shows its messages, beep, pointer and help through the host's services;
   // ui must outlive the object.
   explicit TNW_MAVT(UiServices& ui);
-  // Releases the dialogs that still exist.
+  // Releases the dialogs that still exist (later, when called from inside one of its events).
   ~TNW_MAVT();
   TNW_MAVT(const TNW_MAVT&) = delete;
   TNW_MAVT& operator=(const TNW_MAVT&) = delete;

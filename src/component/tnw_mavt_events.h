@@ -9,8 +9,8 @@ namespace tnw {
 
 // The four events a host receives from TNW_MAVT. Override the ones you need; the others do
 // nothing. Every event is raised on the user-interface thread, from inside the wizard's own
-// handling of a user action, so a handler may call TNW_MAVT::UnloadTNWizard() but must not
-// destroy the TNW_MAVT object itself.
+// handling of a user action; a handler may call TNW_MAVT::UnloadTNWizard() and may even destroy
+// the TNW_MAVT object.
 class TnwMavtEvents {
  public:
   virtual ~TnwMavtEvents() = default;

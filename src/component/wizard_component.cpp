@@ -152,8 +152,7 @@ void WizardComponent::relayUnloadTNWizard(std::int16_t fIndex, bool WeightsDone)
 }
 
 void WizardComponent::relaySendMasseges(const std::string& Msg) {
-  const std::string copy = Msg;
-  if (m_events) m_events->SendMasseges(copy);
+  if (m_events) m_events->SendMasseges(Msg);
 }
 
 void WizardComponent::relayExportDirectAW(const std::string& TNType, std::int16_t RefAttID,

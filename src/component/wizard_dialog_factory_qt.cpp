@@ -6,6 +6,7 @@
 
 // Qt
 #include <QApplication>
+#include <QTimer>
 #include <QtGlobal>
 
 namespace tnw {
@@ -49,6 +50,15 @@ void WizardDialogFactoryQt::release(std::unique_ptr<WizardDialog> dialog) {
   if (widget == nullptr) return;  // not one of ours: destroyed here by the unique_ptr
   static_cast<void>(dialog.release());
   widget->deleteLater();
+}
+
+void WizardDialogFactoryQt::runLater(std::function<void()> work) {
+  QCoreApplication* app = QCoreApplication::instance();
+  if (app == nullptr) {
+    work();
+    return;
+  }
+  QTimer::singleShot(0, app, std::move(work));
 }
 
 }  // namespace tnw

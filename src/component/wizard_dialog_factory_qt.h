@@ -2,6 +2,9 @@
 
 #include "component/wizard_dialog_factory.h"
 
+// Std
+#include <functional>
+
 namespace tnw {
 
 class UiServices;
@@ -25,6 +28,9 @@ class WizardDialogFactoryQt : public WizardDialogFactory {
                                                  TradeOffsAEvents& events) override;
   // Hides nothing and destroys the dialog once control is back in the event loop.
   void release(std::unique_ptr<WizardDialog> dialog) override;
+
+  // Runs work once control is back in the event loop (at once without an application).
+  static void runLater(std::function<void()> work);
 
   // The message shown when a method's dialog is not part of this build.
   static constexpr const char* kNotAvailable = "This method is not available yet.";

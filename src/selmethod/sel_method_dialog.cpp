@@ -103,13 +103,15 @@ void SelMethodDialog::buildLayout() {
   m_cmdHelp = makeButton("cmdHelp", "&Help", this);
   m_cmdNext->setDefault(true);
   auto* buttons = new QHBoxLayout;
-  buttons->addWidget(m_cmdHelp);
+  // Left to right in the order the keyboard visits them.
   buttons->addStretch(1);
   buttons->addWidget(m_cmdBack);
   buttons->addWidget(m_cmdNext);
   buttons->addSpacing(8);
   buttons->addWidget(m_cmdFinish);
   buttons->addWidget(m_cmdCancel);
+  buttons->addSpacing(8);
+  buttons->addWidget(m_cmdHelp);
 
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(top, 1);

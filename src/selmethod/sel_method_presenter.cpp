@@ -36,14 +36,8 @@ void SelMethodPresenter::Form_Load() {
   m_backEnabled = false;
   m_finishEnabled = false;
   m_methods = {"Direct", "TradeOffs"};
-  const std::string& prev = m_context.model.PrevTNType;
-  if (prev == "MAVT_DIRECT") {
-    m_selectedIndex = 0;
-  } else if (prev == "MAVT_TRADEOFFS") {
-    m_selectedIndex = 1;
-  } else {
-    m_selectedIndex = 0;
-  }
+  // "MAVT_DIRECT" and anything unknown select Direct; the match is exact and case-sensitive.
+  m_selectedIndex = m_context.model.PrevTNType == "MAVT_TRADEOFFS" ? 1 : 0;
   ShowMethodDescription(m_selectedIndex);
   m_events.SendMasseges(kLoadMessage);
 }

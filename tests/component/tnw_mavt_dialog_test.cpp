@@ -197,6 +197,23 @@ class TnwMavtDialogTest : public QObject {
     QVERIFY(selMethod()->isVisible());
   }
 
+  void destroyingTheWizardFromInsideItsOwnEventIsSafe() {
+    auto* wizard = new TNW_MAVT(m_ui);
+    wizard->setEvents(&m_host);
+    std::string dir = "/opt/norix";
+    wizard->GetCurFileData(dir, 3, TNW_SAMPLE_MODEL);
+    wizard->ShowTNWizard();
+    m_host.onUnload = [&wizard] {
+      delete wizard;
+      wizard = nullptr;
+    };
+    QTest::mouseClick(button(selMethod(), "cmdCancel"), Qt::LeftButton);
+    QCOMPARE(wizard, nullptr);
+    QCOMPARE(m_host.log.back(), std::string("UnloadTNWizard 3 false"));
+    // The object's data and dialogs go once control is back in the event loop.
+    QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
+  }
+
   void destroyingTheWizardReleasesItsDialogs() {
     showWizard().reset();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
