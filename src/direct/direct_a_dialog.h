@@ -52,6 +52,7 @@ class DirectADialog : public WizardDialogQt {
   void renderControls();
   void renderHeader();
   void applyFocusRequest();
+  void focusStep(int step);
 
   WizardContext& m_context;
   DirectAPresenter m_presenter;
