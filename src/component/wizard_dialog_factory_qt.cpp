@@ -2,6 +2,7 @@
 
 #include "common/ui_services.h"
 #include "component/wizard_dialog_qt.h"
+#include "direct/direct_a_dialog.h"
 #include "selmethod/sel_method_dialog.h"
 
 // Qt
@@ -28,11 +29,8 @@ std::unique_ptr<WizardDialog> WizardDialogFactoryQt::createSelMethod(WizardConte
 
 std::unique_ptr<WizardDialog> WizardDialogFactoryQt::createDirectA(WizardContext& context,
                                                                    DirectAEvents& events) {
-  static_cast<void>(context);
-  static_cast<void>(events);
   if (!haveApplication()) return nullptr;
-  m_ui.messageBox(kNotAvailable, MessageIcon::Information, "NORIX");
-  return nullptr;
+  return std::make_unique<DirectADialog>(context, m_ui, events);
 }
 
 std::unique_ptr<WizardDialog> WizardDialogFactoryQt::createTradeOffsA(WizardContext& context,

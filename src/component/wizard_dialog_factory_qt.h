@@ -20,7 +20,7 @@ class WizardDialogFactoryQt : public WizardDialogFactory {
   // A new frmTNWSelMethod; null without a QApplication.
   std::unique_ptr<WizardDialog> createSelMethod(WizardContext& context,
                                                 SelMethodEvents& events) override;
-  // A new frmDirectA; null (after telling the user) while this build has no such dialog.
+  // A new frmDirectA, loaded; null without a QApplication.
   std::unique_ptr<WizardDialog> createDirectA(WizardContext& context,
                                               DirectAEvents& events) override;
   // A new frmTradeOffsA; null (after telling the user) while this build has no such dialog.

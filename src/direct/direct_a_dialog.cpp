@@ -9,7 +9,6 @@
 #include "direct/ratio_box_filter_qt.h"
 
 // Qt
-#include <QCloseEvent>
 #include <QComboBox>
 #include <QFrame>
 #include <QGroupBox>
@@ -44,7 +43,7 @@ QLabel* makeLabel(const char* name, QWidget* parent) {
 
 DirectADialog::DirectADialog(WizardContext& context, UiServices& ui, DirectAEvents& events,
                              QWidget* parent)
-    : QDialog(parent), m_context(context), m_presenter(context, ui, events) {
+    : WizardDialogQt(parent), m_context(context), m_presenter(context, ui, events) {
   setObjectName(QStringLiteral("frmDirectA"));
   setWindowTitle(QString::fromUtf8(DirectAPresenter::kDesignCaption));
   setSizeGripEnabled(true);
@@ -183,13 +182,6 @@ void DirectADialog::connectButtons() {
 }
 
 void DirectADialog::closeRequested() { m_presenter.cmdCancel_Click(); }
-
-void DirectADialog::reject() { closeRequested(); }
-
-void DirectADialog::closeEvent(QCloseEvent* event) {
-  event->ignore();
-  closeRequested();
-}
 
 void DirectADialog::render() {
   // A render can set off another change (a focus move runs a check); that one renders after.

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "component/wizard_dialog_qt.h"
 #include "direct/direct_a_presenter.h"
 
 // Qt
-#include <QDialog>
 #include <QTimer>
 
 class QLabel;
@@ -22,7 +22,7 @@ class RatioBoxFilter;
 // frmDirectA: the direct method's four steps as a Qt dialog over DirectAPresenter. The dialog
 // holds the widgets, hands every user action to one presenter operation and renders the
 // presenter's state after each change. Every control's objectName is its given name.
-class DirectADialog : public QDialog {
+class DirectADialog : public WizardDialogQt {
   Q_OBJECT
 
  public:
@@ -39,9 +39,7 @@ class DirectADialog : public QDialog {
 
  protected:
   // The close box and Escape do what Cancel does.
-  void closeRequested();
-  void reject() override;
-  void closeEvent(QCloseEvent* event) override;
+  void closeRequested() override;
 
  private:
   QWidget* buildHeader();
