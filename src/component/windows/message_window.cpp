@@ -3,6 +3,7 @@
 #include "component/windows/server_module.h"
 
 // Std
+#include <mutex>
 #include <utility>
 
 namespace tnw {
@@ -12,8 +13,10 @@ namespace {
 constexpr wchar_t kClassName[] = L"TNWizard_MAVT.MessageWindow";
 constexpr UINT kRunTask = WM_APP + 1;
 // Windows of this class that exist; the class is unregistered with the last one, so the DLL can
-// be unloaded without leaving a window procedure behind.
+// be unloaded without leaving a window procedure behind. Objects may live in several apartments,
+// so the count is guarded.
 long g_windowCount = 0;
+std::mutex g_classMutex;
 
 }  // namespace
 
@@ -61,6 +64,7 @@ LRESULT CALLBACK MessageWindow::windowProc(HWND window, UINT message, WPARAM wPa
 }
 
 bool MessageWindow::registerClass() {
+  const std::lock_guard<std::mutex> lock(g_classMutex);
   if (g_windowCount++ > 0) return true;
   WNDCLASSEXW windowClass{};
   windowClass.cbSize = sizeof(windowClass);
@@ -73,6 +77,7 @@ bool MessageWindow::registerClass() {
 }
 
 void MessageWindow::unregisterClass() {
+  const std::lock_guard<std::mutex> lock(g_classMutex);
   if (--g_windowCount == 0) UnregisterClassW(kClassName, ServerModule::instance());
 }
 

@@ -2,11 +2,12 @@
 ' handlers, which print every event with its arguments' types and values, and a wait that runs
 ' the message loop until the wizard asks to be unloaded.
 Option Explicit
-Dim o, dir, done, unloadInEvent, changeArrays
+Dim o, dir, done, unloadInEvent, changeArrays, writeNonNumbers
 dir = Host.Argument(0)
 done = False
 unloadInEvent = True
 changeArrays = False
+writeNonNumbers = False
 
 Function ArrayText(a)
   Dim i, s
@@ -53,6 +54,12 @@ Sub ev_ExportDirectAW(TNType, RefAttID, Weights, WeightsH, WeightsL)
     WeightsL(0) = "0.0625"
     ReportChange Weights(0)
   End If
+  ' What is not a finite number never reaches the dialog: it keeps its own values there.
+  If writeNonNumbers Then
+    WeightsH(0) = "not a number"
+    WeightsH(1) = Null
+    WScript.Echo "  host wrote a text and Null into WeightsH(0) and WeightsH(1)"
+  End If
 End Sub
 
 Sub ev_ExportTradeOffsW(TNType, Weights, WeightsH, WeightsL)
@@ -63,6 +70,12 @@ Sub ev_ExportTradeOffsW(TNType, Weights, WeightsH, WeightsL)
     WeightsH(UBound(WeightsH)) = 0.875
     WeightsL(0) = "0.0625"
     ReportChange Weights(0)
+  End If
+  ' What is not a finite number never reaches the dialog: it keeps its own values there.
+  If writeNonNumbers Then
+    WeightsH(0) = "not a number"
+    WeightsH(1) = Null
+    WScript.Echo "  host wrote a text and Null into WeightsH(0) and WeightsH(1)"
   End If
 End Sub
 
