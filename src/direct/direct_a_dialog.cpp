@@ -18,6 +18,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QTableWidget>
@@ -83,13 +84,23 @@ DirectADialog::DirectADialog(WizardContext& context, UiServices& ui, DirectAEven
   m_presenter.Form_Load();
   render();
   focusStep(0);
-  resize(sizeHint().expandedTo(QSize(860, 600)));
+  resize(initialSize());
 }
 
 DirectADialog::~DirectADialog() {
   // The presenter outlives the widgets' last signals only if it stops calling back first.
   m_presenter.setChangeListener({});
   m_timer.stop();
+}
+
+QSize DirectADialog::initialSize() const {
+  QSize size = sizeHint().expandedTo(QSize(860, 600));
+  // On a small screen (or at a large scale) the dialog starts as large as fits; the lists
+  // scroll, so every step stays usable down to the layout's minimum.
+  if (const QScreen* s = screen()) {
+    size = size.boundedTo(s->availableGeometry().size() * 0.92);
+  }
+  return size.expandedTo(minimumSizeHint());
 }
 
 QWidget* DirectADialog::buildHeader() {
@@ -238,7 +249,7 @@ void DirectADialog::renderControls() {
       if (w->property("image").toString() != caption) {
         w->setProperty("image", caption);
         if (auto* label = qobject_cast<QLabel*>(w))
-          label->setPixmap(orientationPixmap(caption, 32));
+          label->setPixmap(orientationPixmap(caption, 32, label->devicePixelRatioF()));
       }
     } else if (auto* label = qobject_cast<QLabel*>(w)) {
       if (label->text() != caption) label->setText(caption);

@@ -42,6 +42,7 @@ class DirectADialog : public WizardDialogQt {
   void closeRequested() override;
 
  private:
+  QSize initialSize() const;
   QWidget* buildHeader();
   QLayout* buildButtons();
   void connectOrderPage();
