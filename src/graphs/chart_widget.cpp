@@ -1,0 +1,37 @@
+#include "graphs/chart_widget.h"
+
+// Qt
+#include <QPainter>
+
+namespace tnw {
+
+ChartWidget::ChartWidget(QWidget* parent) : QWidget(parent) {
+  setBackgroundRole(QPalette::Base);
+  setAutoFillBackground(true);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void ChartWidget::setPainter(Painter painter) {
+  m_painter = std::move(painter);
+  update();
+}
+
+QSize ChartWidget::sizeHint() const {
+  const int em = fontMetrics().height();
+  return {em * 24, em * 16};
+}
+
+QSize ChartWidget::minimumSizeHint() const {
+  const int em = fontMetrics().height();
+  return {em * 16, em * 11};
+}
+
+void ChartWidget::paintEvent(QPaintEvent*) {
+  if (!m_painter) return;
+  QPainter p(this);
+  p.setRenderHint(QPainter::Antialiasing);
+  m_painter(p, QRectF(rect()));
+  ++m_paintCount;
+}
+
+}  // namespace tnw
