@@ -39,6 +39,9 @@ struct AttributeModel {
   std::array<double, kMaxAttributes> PrevWeightH{};
   std::array<double, kMaxAttributes> PrevWeightL{};
 
+  // Field-by-field equality (a NaN stored in the file compares unequal, as doubles do).
+  friend bool operator==(const AttributeModel&, const AttributeModel&) = default;
+
   // NumAtt clamped to 0..31: the number of attribute slots that may be used.
   int attributeCount() const {
     return NumAtt < 0 ? 0 : (NumAtt > kMaxAttributes ? kMaxAttributes : NumAtt);

@@ -1,0 +1,28 @@
+#pragma once
+
+// Std
+#include <string>
+#include <string_view>
+
+namespace tnw {
+
+// The checks of the two ratio boxes when the focus leaves them (CheckLowerWeightRatio,
+// CheckUpperWeightRatio). Each reads both boxes with the leading-number conversion.
+class RatioBoundCheck {
+ public:
+  // The outcome of a check: ok, or the message to show.
+  struct Result {
+    bool ok = true;
+    std::string message;
+  };
+
+  // Fails when lower is 0 or less, or above upper.
+  static Result CheckLowerWeightRatio(std::string_view lowerText, std::string_view upperText);
+  // Fails when upper is below lower (no test against zero of its own).
+  static Result CheckUpperWeightRatio(std::string_view lowerText, std::string_view upperText);
+  // The value of a box: the leading number of its trimmed text, 0 where there is none
+  // or where it would not be finite.
+  static double boxValue(std::string_view text);
+};
+
+}  // namespace tnw

@@ -1,0 +1,49 @@
+#pragma once
+
+// Std
+#include <cstdint>
+#include <vector>
+
+namespace tnw {
+
+// The recorded trade-off judgments the regression reads. Judgment k (1-based, as the dialog
+// counts) is kept at index k - 1 of every array.
+struct JudgmentStore {
+  // The number of judgments recorded.
+  int JudgmentCount = 0;
+  // The scores of A and B on the first and the second attribute of each judgment.
+  std::vector<double> ScoreAFirst;
+  std::vector<double> ScoreBFirst;
+  std::vector<double> ScoreASecond;
+  std::vector<double> ScoreBSecond;
+  // The response of each judgment, -3..3 (0 for a numerical trade-off).
+  std::vector<std::int16_t> PrefResponse;
+  // The value difference of each attribute (0-based) in each judgment: ValueDiff[k - 1][j - 1].
+  std::vector<std::vector<double>> ValueDiff;
+
+  // Forgets every judgment and makes room for `size` judgments over `numAtt` attributes.
+  void dimension(int size, int numAtt) {
+    const auto n = static_cast<std::size_t>(size < 0 ? 0 : size);
+    JudgmentCount = 0;
+    ScoreAFirst.assign(n, 0.0);
+    ScoreBFirst.assign(n, 0.0);
+    ScoreASecond.assign(n, 0.0);
+    ScoreBSecond.assign(n, 0.0);
+    PrefResponse.assign(n, 0);
+    ValueDiff.assign(n, std::vector<double>(static_cast<std::size_t>(numAtt < 0 ? 0 : numAtt)));
+  }
+
+  // Makes room for at least `size` judgments, keeping those recorded.
+  void extend(int size, int numAtt) {
+    const auto n = static_cast<std::size_t>(size < 0 ? 0 : size);
+    if (ScoreAFirst.size() >= n) return;
+    ScoreAFirst.resize(n, 0.0);
+    ScoreBFirst.resize(n, 0.0);
+    ScoreASecond.resize(n, 0.0);
+    ScoreBSecond.resize(n, 0.0);
+    PrefResponse.resize(n, 0);
+    ValueDiff.resize(n, std::vector<double>(static_cast<std::size_t>(numAtt < 0 ? 0 : numAtt)));
+  }
+};
+
+}  // namespace tnw

@@ -1,0 +1,40 @@
+#pragma once
+
+// Std
+#include <cstddef>
+#include <vector>
+
+namespace tnw {
+
+// A dense matrix of doubles with 0-based row and column indexes, all elements 0 when made.
+class Matrix {
+ public:
+  // An empty matrix.
+  Matrix() = default;
+  // A rows × cols matrix of zeros (negative sizes count as 0).
+  Matrix(int rows, int cols)
+      : m_rows(rows < 0 ? 0 : rows),
+        m_cols(cols < 0 ? 0 : cols),
+        m_data(static_cast<std::size_t>(m_rows) * static_cast<std::size_t>(m_cols), 0.0) {}
+
+  // The number of rows.
+  int rows() const { return m_rows; }
+  // The number of columns.
+  int cols() const { return m_cols; }
+  // The element at (r, c); both must be in range.
+  double& operator()(int r, int c) { return m_data[index(r, c)]; }
+  // The element at (r, c); both must be in range.
+  double operator()(int r, int c) const { return m_data[index(r, c)]; }
+
+ private:
+  std::size_t index(int r, int c) const {
+    return static_cast<std::size_t>(r) * static_cast<std::size_t>(m_cols) +
+           static_cast<std::size_t>(c);
+  }
+
+  int m_rows = 0;
+  int m_cols = 0;
+  std::vector<double> m_data;
+};
+
+}  // namespace tnw

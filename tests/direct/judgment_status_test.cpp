@@ -1,0 +1,129 @@
+#include "direct/judgment_status_check.h"
+#include "direct/status_lamps.h"
+#include "direct_test_models.h"
+
+// GoogleTest
+#include <gtest/gtest.h>
+
+namespace tnw {
+namespace {
+
+class JudgmentStatusTest : public ::testing::Test {
+ protected:
+  JudgmentStatusTest() : context(test::makeContext(5)), judgments((setUp(), context)) {}
+  void setUp() {
+    test::setOrder(context, {1, 2, 3, 4, 3});
+    context.RefAtt = 1;
+  }
+  RegionHandles handlesFor(double lower, double upper) const {
+    return {cone.handleForRatio(lower), cone.handleForRatio(upper)};
+  }
+
+  WizardContext context;
+  WeightRatioJudgments judgments;
+  PreferenceCone cone{1000.0F, 10.0F};
+};
+
+TEST_F(JudgmentStatusTest, WithoutJudgedNeighboursTheUpperLimitIsOneHundred) {
+  judgments.CalcIniWeightRatios();
+  // Target 3 (group 4): no less important group; group 3 holds no judged attribute, group 2
+  // holds the reference with lower ratio 1.
+  EXPECT_EQ(JudgmentStatusCheck::upperLimit(judgments, 3), 1.0);
+  EXPECT_FALSE(JudgmentStatusCheck::lowerLimit(judgments, 3, 4).has_value());
+  EXPECT_EQ(JudgmentStatusCheck::upperLimit(judgments, 0), JudgmentStatusCheck::kNoUpperLimit);
+  EXPECT_EQ(JudgmentStatusCheck::lowerLimit(judgments, 0, 4), 1.0);
+}
+
+TEST_F(JudgmentStatusTest, HandlesGiveBothRatiosSmallerFirst) {
+  judgments.CalcIniWeightRatios();
+  const auto r = JudgmentStatusCheck::check(cone, handlesFor(0.7, 0.4), judgments, 2);
+  EXPECT_EQ(r.state, JudgmentState::Consistent);
+  EXPECT_NEAR(r.lowerRatio, 0.4F, 1e-6);
+  EXPECT_NEAR(r.upperRatio, 0.7F, 1e-6);
+}
+
+TEST_F(JudgmentStatusTest, AnIntervalAboveAJudgedMoreImportantAttributeIsInconsistent) {
+  judgments.CalcIniWeightRatios();
+  const auto r = JudgmentStatusCheck::check(cone, handlesFor(0.5, 1.3), judgments, 2);
+  EXPECT_EQ(r.state, JudgmentState::Inconsistent);
+  EXPECT_EQ(r.upperLimit, 1.0);
+}
+
+TEST_F(JudgmentStatusTest, AnIntervalBelowAJudgedLessImportantAttributeIsInconsistent) {
+  judgments.CalcIniWeightRatios();
+  judgments.RecordWeightRatios(3, 0.3, 0.4, {});
+  const auto low = JudgmentStatusCheck::check(cone, handlesFor(0.35, 0.8), judgments, 2);
+  EXPECT_EQ(low.lowerLimit, 0.4);
+  EXPECT_EQ(low.state, JudgmentState::Inconsistent);
+  const auto ok = JudgmentStatusCheck::check(cone, handlesFor(0.4, 1.0), judgments, 2);
+  EXPECT_EQ(ok.state, JudgmentState::Consistent);
+}
+
+TEST_F(JudgmentStatusTest, AHandleNearTheCornerIsInvalid) {
+  judgments.CalcIniWeightRatios();
+  const RegionHandles h{{5, 995}, cone.handleForRatio(0.5)};
+  EXPECT_EQ(JudgmentStatusCheck::check(cone, h, judgments, 2).state, JudgmentState::Invalid);
+}
+
+TEST(StatusLampsTest, EachStateLightsItsLampAndSetsTheTimer) {
+  StatusLamps lamps;
+  lamps.show(JudgmentState::Consistent);
+  EXPECT_EQ(lamps.lampColor(0), StatusLamps::kGreen);
+  EXPECT_EQ(lamps.lampColor(1), StatusLamps::kGrey);
+  EXPECT_TRUE(lamps.labelHighlighted(0));
+  EXPECT_FALSE(lamps.labelHighlighted(1));
+  EXPECT_EQ(lamps.timerInterval(), 0);
+  lamps.show(JudgmentState::Invalid);
+  EXPECT_EQ(lamps.lampColor(0), StatusLamps::kGrey);
+  EXPECT_EQ(lamps.lampColor(1), 0x000808u);
+  EXPECT_EQ(lamps.timerInterval(), 300);
+  lamps.show(JudgmentState::Inconsistent);
+  EXPECT_EQ(lamps.lampColor(2), 0x004080u);
+  EXPECT_TRUE(lamps.labelHighlighted(2));
+  EXPECT_EQ(lamps.timerInterval(), 100);
+}
+
+TEST(StatusLampsTest, TicksBlinkTheLitLampOfAFaultyJudgment) {
+  StatusLamps lamps;
+  lamps.show(JudgmentState::Invalid);
+  lamps.tick();
+  EXPECT_EQ(lamps.lampColor(1), StatusLamps::kYellow);
+  lamps.tick();
+  EXPECT_EQ(lamps.lampColor(1), StatusLamps::kWhite);
+  lamps.tick();
+  EXPECT_EQ(lamps.lampColor(1), StatusLamps::kYellow);
+  lamps.show(JudgmentState::Inconsistent);
+  lamps.tick();
+  EXPECT_EQ(lamps.lampColor(2), StatusLamps::kOrange);
+  lamps.tick();
+  EXPECT_EQ(lamps.lampColor(2), StatusLamps::kWhite);
+  EXPECT_EQ(lamps.lampColor(0), StatusLamps::kGrey);
+  lamps.show(JudgmentState::Consistent);
+  lamps.tick();
+  EXPECT_EQ(lamps.lampColor(0), StatusLamps::kGreen);
+}
+
+TEST(StatusLampsTest, TheIndicatorTurnsFromRedToBlueAndStays) {
+  StatusLamps lamps;
+  EXPECT_EQ(lamps.indicatorColor(), StatusLamps::kRed);
+  lamps.tick();
+  EXPECT_EQ(lamps.indicatorColor(), StatusLamps::kBlue);
+  lamps.tick();
+  EXPECT_EQ(lamps.indicatorColor(), StatusLamps::kBlue);
+}
+
+TEST(StatusLampsTest, ClearingLeavesEveryLampGreyAndStatusZero) {
+  StatusLamps lamps;
+  lamps.show(JudgmentState::Inconsistent);
+  lamps.clear();
+  EXPECT_EQ(lamps.state(), JudgmentState::None);
+  for (int i = 0; i < 3; ++i) {
+    EXPECT_EQ(lamps.lampColor(i), StatusLamps::kGrey);
+    EXPECT_FALSE(lamps.labelHighlighted(i));
+  }
+  lamps.tick();
+  EXPECT_EQ(lamps.lampColor(1), StatusLamps::kGrey);
+}
+
+}  // namespace
+}  // namespace tnw
