@@ -24,6 +24,8 @@ class ChartWidget : public QWidget {
 
   // Sets the drawing routine (an empty one clears the area) and repaints.
   void setPainter(Painter painter);
+  // The drawing routine (empty when none is set).
+  const Painter& painter() const { return m_painter; }
   // Whether a chart is set.
   bool hasChart() const { return static_cast<bool>(m_painter); }
   // How many times the chart has been painted (for tests and benchmarks).

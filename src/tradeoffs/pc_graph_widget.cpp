@@ -8,6 +8,7 @@
 
 // Std
 #include <algorithm>
+#include <cmath>
 
 namespace tnw {
 
@@ -16,12 +17,7 @@ namespace {
 // Free space between the frame and the plot, so a point at a range end stays whole.
 constexpr int kMargin = 16;
 
-// The position of value within [low, high] as a fraction; a range of zero width maps to 0.
-double fraction(double value, double low, double high) {
-  const double span = high - low;
-  if (span == 0.0) return 0.0;
-  return std::clamp((value - low) / span, 0.0, 1.0);
-}
+double clampUnit(double f) { return std::isfinite(f) ? std::clamp(f, 0.0, 1.0) : 0.0; }
 
 }  // namespace
 
@@ -36,22 +32,15 @@ PcGraphWidget::PcGraphWidget(QWidget* parent) : QFrame(parent) {
   m_points[PointB]->setObjectName(QStringLiteral("shpPCB"));
 }
 
-void PcGraphWidget::setRanges(double xLow, double xHigh, double yLow, double yHigh) {
-  m_xLow = xLow;
-  m_xHigh = xHigh;
-  m_yLow = yLow;
-  m_yHigh = yHigh;
+void PcGraphWidget::setPoint(Point which, QPointF fraction) {
+  const QPointF f(clampUnit(fraction.x()), clampUnit(fraction.y()));
+  if (f == m_fractions[which]) return;
+  m_fractions[which] = f;
   placePoints();
   update();
 }
 
-void PcGraphWidget::setPoint(Point which, QPointF scores) {
-  m_scores[which] = scores;
-  placePoints();
-  update();
-}
-
-QPointF PcGraphWidget::point(Point which) const { return m_scores[which]; }
+QPointF PcGraphWidget::point(Point which) const { return m_fractions[which]; }
 
 void PcGraphWidget::setDragCursor(Point which, const QCursor& cursor) {
   m_points[which]->setDragCursor(cursor);
@@ -61,19 +50,17 @@ QRectF PcGraphWidget::plotRect() const {
   return QRectF(rect()).adjusted(kMargin, kMargin, -kMargin, -kMargin);
 }
 
-QPointF PcGraphWidget::toWidget(QPointF scores) const {
+QPointF PcGraphWidget::toWidget(QPointF fraction) const {
   const QRectF r = plotRect();
-  return {r.left() + fraction(scores.x(), m_xLow, m_xHigh) * r.width(),
-          r.bottom() - fraction(scores.y(), m_yLow, m_yHigh) * r.height()};
+  return {r.left() + clampUnit(fraction.x()) * r.width(),
+          r.bottom() - clampUnit(fraction.y()) * r.height()};
 }
 
-QPointF PcGraphWidget::toScores(QPointF widgetPos) const {
+QPointF PcGraphWidget::toFraction(QPointF widgetPos) const {
   const QRectF r = plotRect();
-  const double fx =
-      r.width() > 0 ? std::clamp((widgetPos.x() - r.left()) / r.width(), 0.0, 1.0) : 0;
-  const double fy =
-      r.height() > 0 ? std::clamp((r.bottom() - widgetPos.y()) / r.height(), 0.0, 1.0) : 0;
-  return {m_xLow + fx * (m_xHigh - m_xLow), m_yLow + fy * (m_yHigh - m_yLow)};
+  const double fx = r.width() > 0 ? clampUnit((widgetPos.x() - r.left()) / r.width()) : 0.0;
+  const double fy = r.height() > 0 ? clampUnit((r.bottom() - widgetPos.y()) / r.height()) : 0.0;
+  return {fx, fy};
 }
 
 QSize PcGraphWidget::sizeHint() const { return {260, 220}; }
@@ -89,20 +76,20 @@ void PcGraphWidget::placePoints() {
   const int d = PcPointWidget::diameter();
   for (int i = 0; i < 2; ++i) {
     if (m_points[i]->dragging()) continue;
-    const QPointF c = toWidget(m_scores[i]);
+    const QPointF c = toWidget(m_fractions[i]);
     m_points[i]->move(qRound(c.x() - d / 2.0), qRound(c.y() - d / 2.0));
   }
 }
 
 void PcGraphWidget::dragPointTo(PcPointWidget* shape, QPointF widgetPos, bool final) {
   const int which = shape == m_points[PointA] ? PointA : PointB;
-  const QPointF scores = toScores(widgetPos);
-  const QPointF snapped = toWidget(scores);
+  const QPointF fraction = toFraction(widgetPos);
+  const QPointF snapped = toWidget(fraction);
   const int d = PcPointWidget::diameter();
   shape->move(qRound(snapped.x() - d / 2.0), qRound(snapped.y() - d / 2.0));
-  m_scores[which] = scores;
+  m_fractions[which] = fraction;
   update();
-  emit pointDragged(which, scores, final);
+  emit pointDragged(which, fraction, final);
 }
 
 void PcGraphWidget::paintEvent(QPaintEvent* event) {
@@ -124,7 +111,7 @@ void PcGraphWidget::paintEvent(QPaintEvent* event) {
   // The projections of A and B onto the axes make the two score differences visible.
   const QColor colours[2] = {QColor(0, 0, 160), QColor(176, 0, 0)};
   for (int i = 0; i < 2; ++i) {
-    const QPointF c = toWidget(m_scores[i]);
+    const QPointF c = toWidget(m_fractions[i]);
     p.setPen(QPen(colours[i], 1, Qt::DashLine));
     p.drawLine(c, QPointF(c.x(), r.bottom()));
     p.drawLine(c, QPointF(r.left(), c.y()));

@@ -6,6 +6,9 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+// Std
+#include <utility>
+
 namespace tnw {
 
 PcPointWidget::PcPointWidget(const QString& letter, const QColor& fill, PcGraphWidget* panel)
@@ -16,6 +19,35 @@ PcPointWidget::PcPointWidget(const QString& letter, const QColor& fill, PcGraphW
 }
 
 void PcPointWidget::setDragCursor(const QCursor& cursor) { m_dragCursor = cursor; }
+
+QCursor PcPointWidget::loadDragCursor(const QString& hostDir, const QString& iconFile,
+                                      const QString& letter) {
+  if (!hostDir.isEmpty()) {
+    QString path = hostDir;
+    if (!path.endsWith(QLatin1Char('/')) && !path.endsWith(QLatin1Char('\\'))) {
+      path += QLatin1Char('/');
+    }
+    const QPixmap icon(path + iconFile);
+    if (!icon.isNull()) return QCursor(icon, icon.width() / 2, icon.height() / 2);
+  }
+  QPixmap pm(32, 32);
+  pm.fill(Qt::transparent);
+  QPainter p(&pm);
+  p.setRenderHint(QPainter::Antialiasing);
+  for (const auto& [colour, width] :
+       {std::pair{QColor(Qt::white), 3.0}, {QColor(Qt::black), 1.0}}) {
+    p.setPen(QPen(colour, width));
+    p.drawLine(QPointF(16, 4), QPointF(16, 28));
+    p.drawLine(QPointF(4, 16), QPointF(28, 16));
+  }
+  QFont f;
+  f.setPixelSize(11);
+  f.setBold(true);
+  p.setFont(f);
+  p.setPen(Qt::black);
+  p.drawText(QRectF(18, 0, 14, 14), Qt::AlignCenter, letter);
+  return QCursor(pm, 16, 16);
+}
 
 int PcPointWidget::diameter() { return 22; }
 

@@ -22,6 +22,11 @@ class PcPointWidget : public QWidget {
   // Whether a drag is in progress.
   bool dragging() const { return m_dragging; }
 
+  // The drag cursor of a point: the icon file (for example "adrag.ico") in the host's
+  // directory when it can be read, otherwise a drawn cross with the point's letter.
+  static QCursor loadDragCursor(const QString& hostDir, const QString& iconFile,
+                                const QString& letter);
+
   // The diameter of the disc in pixels.
   static int diameter();
 

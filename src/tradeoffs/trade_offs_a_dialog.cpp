@@ -1,14 +1,25 @@
 #include "tradeoffs/trade_offs_a_dialog.h"
 
+#include "component/wizard_context.h"
+#include "tradeoffs/clock_random_source.h"
+#include "tradeoffs/judgment_page_binding_qt.h"
+#include "tradeoffs/pc_graph_widget.h"
+#include "tradeoffs/pc_point_widget.h"
+#include "tradeoffs/results_page_binding_qt.h"
 #include "tradeoffs/trade_offs_judgment_widget.h"
+#include "tradeoffs/trade_offs_printout_qt.h"
 #include "tradeoffs/trade_offs_results_widget.h"
 
 // Qt
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QPushButton>
 #include <QStackedWidget>
+#include <QTableWidget>
+#include <QTextEdit>
 #include <QVBoxLayout>
 
 namespace tnw {
@@ -22,15 +33,49 @@ QPushButton* namedButton(const char* name, const QString& text, QWidget* parent)
   return b;
 }
 
-}  // namespace
-
-TradeOffsADialog::TradeOffsADialog(QWidget* parent) : QDialog(parent) {
-  setObjectName(QStringLiteral("frmTradeOffsA"));
-  setWindowTitle(QStringLiteral("Tarnel Wizard"));
-  buildFrame();
+void renderButton(QPushButton* button, const ButtonState& state) {
+  const QString caption = QString::fromStdString(state.caption);
+  if (button->text() != caption) button->setText(caption);
+  button->setEnabled(state.enabled);
+  button->setVisible(state.visible);
 }
 
-TradeOffsADialog::~TradeOffsADialog() = default;
+}  // namespace
+
+TradeOffsADialog::TradeOffsADialog(WizardContext& context, UiServices& ui, TradeOffsAEvents& events,
+                                   RandomSource* random)
+    : m_context(context) {
+  if (random == nullptr) {
+    m_ownRandom = std::make_unique<ClockRandomSource>();
+    random = m_ownRandom.get();
+  }
+  m_presenter = std::make_unique<TradeOffsAPresenter>(context, ui, events, *random);
+  setObjectName(QStringLiteral("frmTradeOffsA"));
+  setWindowTitle(QString::fromLatin1(TradeOffsAPresenter::kCaption));
+  buildFrame();
+  m_judgmentBinding = new JudgmentPageBindingQt(*m_judgment, *m_presenter, context, this);
+  m_resultsBinding = new ResultsPageBindingQt(*m_results, *m_presenter, this);
+  connectFrame();
+  const QString dir = hostDirectory(context);
+  m_judgment->controls().framePCGraph->setDragCursor(
+      PcGraphWidget::PointA,
+      PcPointWidget::loadDragCursor(dir, QStringLiteral("adrag.ico"), QStringLiteral("A")));
+  m_judgment->controls().framePCGraph->setDragCursor(
+      PcGraphWidget::PointB,
+      PcPointWidget::loadDragCursor(dir, QStringLiteral("bdrag.ico"), QStringLiteral("B")));
+  m_presenter->setChangedCallback([this] { render(); });
+  m_presenter->Form_Load();
+  render();
+}
+
+TradeOffsADialog::~TradeOffsADialog() {
+  // The presenter may outlive the widgets by a moment; it must not render into them.
+  m_presenter->setChangedCallback({});
+}
+
+QString TradeOffsADialog::hostDirectory(const WizardContext& context) {
+  return QString::fromStdString(context.NorixDir);
+}
 
 void TradeOffsADialog::buildFrame() {
   m_instruction = new QLabel(this);
@@ -72,6 +117,62 @@ void TradeOffsADialog::buildFrame() {
   layout->addWidget(m_pages, 1);
   layout->addWidget(line);
   layout->addLayout(buttons);
+}
+
+void TradeOffsADialog::connectFrame() {
+  TradeOffsAPresenter* p = m_presenter.get();
+  connect(m_cmdNext, &QPushButton::clicked, this, [p] { p->cmdNext_Click(); });
+  connect(m_cmdBack, &QPushButton::clicked, this, [p] { p->cmdBack_Click(); });
+  connect(m_cmdFinish, &QPushButton::clicked, this, [p] { p->cmdFinish_Click(); });
+  connect(m_cmdCancel, &QPushButton::clicked, this, [p] { p->cmdCancel_Click(); });
+  connect(m_cmdHelp, &QPushButton::clicked, this, [p] { p->cmdTNWizardHelp_Click(); });
+  connect(m_cmdPrint, &QPushButton::clicked, this, [this] { print(); });
+}
+
+void TradeOffsADialog::closeRequested() { m_presenter->cmdCancel_Click(); }
+
+void TradeOffsADialog::render() {
+  const TradeOffsAPresenter& p = *m_presenter;
+  const QString instruction = QString::fromStdString(p.lblInstruction().caption);
+  if (m_instruction->text() != instruction) m_instruction->setText(instruction);
+  m_instruction->setVisible(p.step() == 1);
+  QWidget* page = p.step() == 2 ? static_cast<QWidget*>(m_results) : m_judgment;
+  if (m_pages->currentWidget() != page) m_pages->setCurrentWidget(page);
+  renderButton(m_cmdBack, p.cmdBack());
+  renderButton(m_cmdNext, p.cmdNext());
+  renderButton(m_cmdFinish, p.cmdFinish());
+  renderButton(m_cmdCancel, p.cmdCancel());
+  renderButton(m_cmdHelp, p.cmdTNWizardHelp());
+  renderButton(m_cmdPrint, p.cmdPrint());
+  // There is nothing to print before the results page is filled.
+  m_cmdPrint->setEnabled(p.cmdPrint().enabled && p.step() == 2);
+  if (p.step() == 1) {
+    m_judgmentBinding->render();
+  } else {
+    m_resultsBinding->render();
+  }
+}
+
+TradeOffsPrintoutQt TradeOffsADialog::printout() const {
+  const auto& c = m_results->controls();
+  TradeOffsPrintoutQt out;
+  out.title = tr("%1: trade-off results").arg(windowTitle());
+  out.weights = TradeOffsPrintoutQt::fromGrid(*c.gridWeights);
+  out.regression = TradeOffsPrintoutQt::fromGrid(*c.gridOverallRegression);
+  out.comment = c.txtComments->toPlainText();
+  out.chart = c.picWeightGraph->painter();
+  return out;
+}
+
+void TradeOffsADialog::printResults(QPagedPaintDevice& device) const { printout().print(device); }
+
+void TradeOffsADialog::print() {
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setDocName(windowTitle());
+  QPrintDialog dialog(&printer, this);
+  dialog.setWindowTitle(tr("Print the results"));
+  if (dialog.exec() != QDialog::Accepted) return;
+  printResults(printer);
 }
 
 }  // namespace tnw

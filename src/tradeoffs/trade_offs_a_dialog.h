@@ -1,39 +1,73 @@
 #pragma once
 
-// Qt
-#include <QDialog>
+#include "component/wizard_dialog_qt.h"
+#include "tradeoffs/trade_offs_a_presenter.h"
+
+// Std
+#include <memory>
 
 class QLabel;
+class QPagedPaintDevice;
+class QPrinter;
 class QPushButton;
 class QStackedWidget;
 
 namespace tnw {
 
+class JudgmentPageBindingQt;
+class RandomSource;
+class ResultsPageBindingQt;
+class TradeOffsAEvents;
 class TradeOffsJudgmentWidget;
+class TradeOffsPrintoutQt;
 class TradeOffsResultsWidget;
+class UiServices;
+struct WizardContext;
 
-// frmTradeOffsA, the trade-off method's dialog: the judgment page and the results page in the
-// wizard frame with Back, Next, Finish, Cancel, Help and Print.
-class TradeOffsADialog : public QDialog {
+// frmTradeOffsA, the trade-off method's dialog, as a Qt view over TradeOffsAPresenter: the
+// judgment page and the results page in the wizard frame with Back, Next, Finish, Cancel, Help
+// and Print. Every control's objectName is its given name.
+class TradeOffsADialog : public WizardDialogQt {
   Q_OBJECT
 
  public:
-  // Builds the dialog with both pages; the judgment page is showing.
-  explicit TradeOffsADialog(QWidget* parent = nullptr);
+  // Builds and loads the dialog (the presenter's Form_Load runs here). Without a random source
+  // the scores are drawn from the clock.
+  TradeOffsADialog(WizardContext& context, UiServices& ui, TradeOffsAEvents& events,
+                   RandomSource* random = nullptr);
   ~TradeOffsADialog() override;
 
-  // The judgment page (step 1).
+  // The presenter behind the dialog.
+  const TradeOffsAPresenter& presenter() const { return *m_presenter; }
+  // The judgment page (step 1) and the results page (step 2).
   TradeOffsJudgmentWidget* judgmentPage() const { return m_judgment; }
-  // The results page (step 2).
   TradeOffsResultsWidget* resultsPage() const { return m_results; }
+
+  // The print-out of the results page as it is shown now.
+  TradeOffsPrintoutQt printout() const;
+  // Prints the results page on a printer or PDF writer, without asking (Print asks first).
+  void printResults(QPagedPaintDevice& device) const;
+  // The drag cursors' directory: the host's directory (NorixDir) as given.
+  static QString hostDirectory(const WizardContext& context);
+
+ protected:
+  void closeRequested() override;
 
  private:
   void buildFrame();
+  void connectFrame();
+  void render();
+  void print();
 
+  WizardContext& m_context;
+  std::unique_ptr<RandomSource> m_ownRandom;
+  std::unique_ptr<TradeOffsAPresenter> m_presenter;
   QLabel* m_instruction = nullptr;
   QStackedWidget* m_pages = nullptr;
   TradeOffsJudgmentWidget* m_judgment = nullptr;
   TradeOffsResultsWidget* m_results = nullptr;
+  JudgmentPageBindingQt* m_judgmentBinding = nullptr;
+  ResultsPageBindingQt* m_resultsBinding = nullptr;
   QPushButton* m_cmdBack = nullptr;
   QPushButton* m_cmdNext = nullptr;
   QPushButton* m_cmdFinish = nullptr;

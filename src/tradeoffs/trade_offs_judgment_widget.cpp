@@ -1,5 +1,6 @@
 #include "tradeoffs/trade_offs_judgment_widget.h"
 
+#include "tradeoffs/judgment_controls.h"
 #include "tradeoffs/pc_graph_widget.h"
 
 // Qt
@@ -280,17 +281,19 @@ QWidget* TradeOffsJudgmentWidget::buildVerbal() {
   auto* grid = new QGridLayout(frame);
   grid->addWidget(namedLabel("lblPCVerbalQuestion", tr("Do you prefer A over B:"), frame), 0, 0, 1,
                   3);
-  // The mark beside each degree is the response it records (the option's index minus 3).
-  const char* const marks[7] = {"-3", "-2", "-1", "0", "1", "2", "3"};
-  for (int i = 0; i < 7; ++i) {
+  // The marks "-1", "-2", "-3" stand beside "Slightly", "Moderately" and "Strongly": the
+  // responses those degrees record.
+  for (int i = 0; i < 3; ++i) {
     auto* mark = namedLabel(qPrintable(QStringLiteral("labPCScale_%1").arg(i)),
-                            QString::fromLatin1(marks[i]), frame);
+                            QString::fromLatin1(JudgmentControls::kScaleMarks[2 - i]), frame);
     mark->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    grid->addWidget(mark, i + 1, 1);
+  }
+  for (int i = 0; i < 7; ++i) {
     auto* option = new QRadioButton(QString::fromLatin1(kVerbalCaptions[i]), frame);
     option->setObjectName(QStringLiteral("optPCVerbal_%1").arg(i));
     m_c.optPCVerbal[i] = option;
     m_c.verbalGroup->addButton(option, i);
-    grid->addWidget(mark, i + 1, 1);
     grid->addWidget(option, i + 1, 2);
   }
   m_c.optPCVerbal[3]->setChecked(true);
