@@ -7,5 +7,11 @@
 // Prints the usage text to standard error and returns the usage exit status (1).
 int tnwUsage();
 
+// tnwizard model dump MODEL | model make INPUT.json -o MODEL: the model file as JSON and back.
+int runModel(const std::vector<std::string>& args);
+
+// tnwizard value MODEL ATT SCORE...: single-attribute values with four decimals.
+int runValue(const std::vector<std::string>& args);
+
 // Exit status when a model file cannot be opened.
 inline constexpr int kExitCannotOpen = 2;

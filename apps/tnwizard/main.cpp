@@ -26,7 +26,8 @@ struct Command {
 
 // Each sub-command lives in its own source file; add it here when it exists.
 constexpr Command kCommands[] = {
-    {"__none__", nullptr},
+    {"model", runModel},
+    {"value", runValue},
 };
 
 }  // namespace

@@ -36,6 +36,12 @@ void WeightRatioJudgments::setJudged(int i, bool value) {
   if (valid(i)) m_judged[static_cast<std::size_t>(i)] = value;
 }
 
+void WeightRatioJudgments::setHandles(int i, const RegionHandles& handles) {
+  if (!valid(i)) return;
+  m_handles[static_cast<std::size_t>(i)] = handles;
+  m_hasHandles[static_cast<std::size_t>(i)] = true;
+}
+
 const RegionHandles* WeightRatioJudgments::handles(int i) const {
   if (!valid(i) || !m_hasHandles[static_cast<std::size_t>(i)]) return nullptr;
   return &m_handles[static_cast<std::size_t>(i)];

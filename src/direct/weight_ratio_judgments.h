@@ -42,6 +42,8 @@ class WeightRatioJudgments {
   bool judged(int i) const;
   // Marks attribute i judged or open.
   void setJudged(int i, bool value);
+  // Stores the region handles of attribute i.
+  void setHandles(int i, const RegionHandles& handles);
   // The region handles stored for attribute i, if it was judged with handles.
   const RegionHandles* handles(int i) const;
   // Lower, middle and upper ratio of attribute i (0 outside the attributes).

@@ -1,0 +1,149 @@
+#pragma once
+
+#include "direct/control_registry.h"
+#include "direct/direct_a_shared.h"
+#include "direct/direct_export.h"
+#include "direct/judgment_page.h"
+#include "direct/ordering_page.h"
+#include "direct/results_grid.h"
+#include "direct/status_lamps.h"
+
+// Std
+#include <array>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tnw {
+
+// The direct-method dialog frmDirectA without its widgets: the four-step flow (order, reference,
+// judgments, results) and every control's state, so that a view renders it and hands every user
+// action to one operation here. Operations are named after the dialog's handlers. After each
+// operation the change listener is called; events go to the DirectAEvents listener; messages,
+// beeps, the busy pointer and help go through the UI services.
+class DirectAPresenter {
+ public:
+  // The form's caption on each step.
+  static constexpr std::array<const char*, 4> kCaptions{
+      "Tarnel Wizard: Give an importantce order of the attirbutes",
+      "Tarnel Wizard: Select reference attributes for pairwise comparisons",
+      "Tarnel Wizard: Estimate intervals of the weight ratios",
+      "Tarnel Wizard: Results of the value judgments"};
+  // The design caption, replaced on load.
+  static constexpr const char* kDesignCaption = "Tarnel Wizard: Initial Judgments";
+  // The status text sent on load.
+  static constexpr const char* kOrderMessage =
+      "Order the attributes according to their relative importance.";
+  // The help file name in NorixDir and its context number.
+  static constexpr const char* kHelpFile = "NORIX.HLP";
+  static constexpr int kHelpContext = 4005025;
+  // The result kind of the export.
+  static constexpr const char* kTNType = "MAVT_DIRECT";
+
+  // A presenter over the wizard's data; nothing happens until Form_Load.
+  DirectAPresenter(WizardContext& context, UiServices& ui, DirectAEvents& events);
+  DirectAPresenter(const DirectAPresenter&) = delete;
+  DirectAPresenter& operator=(const DirectAPresenter&) = delete;
+
+  // Sets the function called after every change of state (the view re-renders).
+  void setChangeListener(std::function<void()> listener) { m_listener = std::move(listener); }
+
+  // Form_Load: step 0, with the earlier order restored when the model holds an earlier result.
+  void Form_Load();
+  // The wizard buttons.
+  void cmdNext_Click();
+  void cmdBack_Click();
+  void cmdFinish_Click();
+  void cmdCancel_Click();
+  void cmdHelp_Click();
+  // A tick of Timer1: blinks the indicator and the status lamps.
+  void Timer1_Timer();
+
+  // Step 0: a drop with payload `tag` on the box of `group`, or on the placed button of `att`.
+  void picOrder_DragDrop(int group, std::string_view tag);
+  void cmdAttB_DragDrop(int att, std::string_view tag);
+  // Step 0: Add, Insert, a click on a group box (or its number label) or on a placed button.
+  void cmdAdd_Click();
+  void cmdInsert_Click();
+  void picOrder_Click(int group);
+  void cmdAttB_Click(int att);
+  // Step 0: a click on an attribute's name label or option button; a drag over the list.
+  void optAttInfo_Click(int att);
+  void lblAttName_DragOver(std::string_view tag);
+
+  // Step 1: the attribute button of attribute i chosen as the reference.
+  void cmdAttButtons_Click(int i);
+
+  // Step 2: the target chosen in imgcmbTargetAtt (item i is attribute i).
+  void imgcmbTargetAtt_Click(int i);
+  // Step 2: a key typed into a ratio box whose text, caret and selection are `current`.
+  void txtWR_KeyPress(JudgmentPage::Box box, const TextBoxState& current, int keyAscii);
+  // Step 2: KeyDown of a ratio box; true when the key must be discarded (Shift+Insert).
+  bool txtWR_KeyDown(JudgmentPage::Box box, int keyCode, bool shift) const;
+  // Step 2: the focus leaves a ratio box.
+  void txtWR_LostFocus(JudgmentPage::Box box);
+  // Step 2: a ratio box's text replaced as a whole (a view's edit, or a runner typing it).
+  void txtWR_SetText(JudgmentPage::Box box, const std::string& text);
+  // Step 2: handle 0 (lower) or 1 (upper) dragged to (x, y) on picTradeOffsRange.
+  void picHandle_Drag(int index, float x, float y);
+  // Step 2: the side of picTradeOffsRange and the size of a handle, in the view's pixels.
+  void setConeArea(float side, float handleSize);
+  // Step 2: Enter and Re-start All.
+  void cmdEnter_Click();
+  void cmdReStart_Click();
+
+  // The current step, 0 to 3.
+  int WizardStep() const { return m_step; }
+  // The form's caption.
+  const std::string& caption() const { return m_controls.caption("frmDirectA"); }
+  // Every named control's caption, enabled and visible state.
+  const ControlRegistry& controls() const { return m_controls; }
+  // One named control's state.
+  const ControlState& control(std::string_view name) const { return m_controls.control(name); }
+  // Step 0's attribute list, order boxes and information frame.
+  const OrderingPage& ordering() const { return m_ordering; }
+  // Step 2's targets, boxes, cone and judgments.
+  const JudgmentPage& judgment() const { return m_judgment; }
+  // Step 3's grid gridTN.
+  const ResultsGrid& grid() const { return m_grid; }
+  // The status lamps, the indicator's colour and Timer1's interval.
+  const StatusLamps& lamps() const { return m_lamps; }
+  // Timer1's interval in milliseconds (0 when stopped).
+  int timerInterval() const { return m_lamps.timerInterval(); }
+  // Step 1: the attributes of final group k (1-based), the buttons in box picO(k - 1).
+  std::vector<int> finalGroup(int k) const;
+  // Step 1: the attribute whose button carries the indicator picIndicator (-1 when hidden).
+  int indicatorAttribute() const { return m_indicator; }
+  // Whether the wizard resumes an earlier result.
+  bool resuming() const { return m_resume; }
+  // Whether the model has 1 to 31 attributes; otherwise only Back, Cancel and Help work.
+  bool usable() const { return m_usable; }
+  // The arrays of the last export (the very arrays handed to ExportDirectAW).
+  const DirectExport::Weights& exported() const { return m_export; }
+
+ private:
+  static int usableCount(const WizardContext& context);
+  void addControls();
+  void setStep(int step, bool withCaption);
+  void nextFromOrder();
+  void nextFromReference();
+  void nextFromJudgments();
+  void changed() const;
+
+  WizardContext& m_context;
+  ControlRegistry m_controls;
+  DirectAShared m_shared;
+  StatusLamps m_lamps;
+  OrderingPage m_ordering;
+  JudgmentPage m_judgment;
+  ResultsGrid m_grid;
+  DirectExport::Weights m_export;
+  std::function<void()> m_listener;
+  int m_step = 0;
+  int m_indicator = -1;
+  bool m_resume = false;
+  bool m_usable = false;
+};
+
+}  // namespace tnw

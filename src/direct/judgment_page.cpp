@@ -1,0 +1,281 @@
+#include "direct/judgment_page.h"
+
+#include "common/number_format.h"
+#include "direct/attribute_texts.h"
+#include "direct/previous_judgments.h"
+#include "direct/ratio_bound_check.h"
+#include "direct/ratio_key_filter.h"
+
+namespace tnw {
+
+namespace {
+
+const char* boxName(JudgmentPage::Box box) {
+  return box == JudgmentPage::Box::Lower ? "txtWRLower" : "txtWRUpper";
+}
+
+std::string scoreText(double score) { return formatNumber(score, "###,##0.0#"); }
+
+}  // namespace
+
+JudgmentPage::JudgmentPage(DirectAShared& shared, StatusLamps& lamps)
+    : m_shared(shared), m_lamps(lamps), m_judgments(shared.context) {}
+
+bool JudgmentPage::enter(bool resume) {
+  m_judgments.reset();
+  bool resumed = false;
+  if (resume) {
+    const auto outcome = PreviousJudgments::GetPreviousWeightRatios(m_shared.context, m_judgments);
+    resumed = outcome == PreviousJudgments::Outcome::Resumed;
+    if (!resumed) m_shared.warn(PreviousJudgments::message(outcome));
+  }
+  if (!resumed) m_judgments.CalcIniWeightRatios();
+  ListAtt();
+  ControlRegistry& c = m_shared.controls;
+  if (resumed) {
+    for (int i = 0; i < m_judgments.count(); ++i) IniJudgmentStatusB(i);
+  }
+  IniJudgmentStatusA(m_targets.currentTarget());
+  // With every attribute settled (resumed, or all tied with the reference) there is nothing
+  // left to judge, and the page is complete at once.
+  const bool complete = m_judgments.isComplete();
+  c.setEnabled("cmdNext", complete);
+  if (complete) c.setEnabled("cmdFinish", true);
+  c.setEnabled("cmdEnter", m_targets.currentTarget() >= 0);
+  c.setEnabled("cmdReStart", resumed);
+  m_orderTabVisible = true;
+  return resumed;
+}
+
+void JudgmentPage::leave() {
+  m_orderTabVisible = false;
+  m_targets.clear();
+}
+
+void JudgmentPage::ListAtt() {
+  m_shared.ui.setBusy(true);
+  m_loading = true;
+  m_targets.ListAtt(m_shared.context.model, m_judgments, m_shared.context.RefAtt);
+  DisplayAttPair(m_targets.currentTarget(), m_shared.context.RefAtt);
+  m_shared.events.SendMasseges(kIndicateMessage);
+  m_loading = false;
+  m_shared.ui.setBusy(false);
+}
+
+void JudgmentPage::DisplayAttPair(int target, int reference) {
+  const AttributeModel& model = m_shared.context.model;
+  ControlRegistry& c = m_shared.controls;
+  const auto& items = m_targets.items();
+  const auto image = [&items](int i, bool selected) -> std::string {
+    if (i < 0 || i >= static_cast<int>(items.size())) return {};
+    const auto& item = items[static_cast<std::size_t>(i)];
+    return selected ? item.selectedImage : item.image;
+  };
+  const auto range = [&model](int i, bool high) -> std::string {
+    if (i < 0 || i >= kMaxAttributes) return {};
+    const auto u = static_cast<std::size_t>(i);
+    return scoreText(high ? model.AttScoreHigh[u] : model.AttScoreLow[u]);
+  };
+  for (const char* name : {"lblRefAtt", "lblChartRefAtt"}) {
+    c.setCaption(name, AttributeTexts::name(model, reference));
+  }
+  for (const char* name : {"lblTargetAtt", "lblChartTarAtt"}) {
+    c.setCaption(name, target >= 0 ? AttributeTexts::name(model, target) : "");
+  }
+  c.setCaption("lblRefRangeLow", range(reference, false));
+  c.setCaption("lblRefRangeHigh", range(reference, true));
+  c.setCaption("lblTarRangeLow", range(target, false));
+  c.setCaption("lblTarRangeHigh", range(target, true));
+  c.setCaption("imgRefAtt", image(reference, false));
+  c.setCaption("imgTargetAtt", image(target, true));
+}
+
+void JudgmentPage::placeHandles(double lower, double upper) {
+  m_handles = {m_cone.handleForRatio(lower), m_cone.handleForRatio(upper)};
+}
+
+void JudgmentPage::showRatios(double lower, double upper) {
+  m_lower.setText(formatNumber(lower, "0.00"));
+  m_upper.setText(formatNumber(upper, "0.00"));
+}
+
+void JudgmentPage::IniJudgmentStatusA(int target) {
+  m_lamps.clear();
+  if (target < 0) return;
+  placeHandles(m_judgments.lower(target), m_judgments.upper(target));
+  showRatios(m_judgments.lower(target), m_judgments.upper(target));
+}
+
+void JudgmentPage::IniJudgmentStatusB(int attribute) {
+  m_judgments.setHandles(attribute, {m_cone.handleForRatio(m_judgments.lower(attribute)),
+                                     m_cone.handleForRatio(m_judgments.upper(attribute))});
+}
+
+void JudgmentPage::ShowPreJudgmentStatus(int target) {
+  if (const RegionHandles* stored = m_judgments.handles(target)) {
+    m_handles = *stored;
+  } else {
+    placeHandles(m_judgments.lower(target), m_judgments.upper(target));
+  }
+  showRatios(m_judgments.lower(target), m_judgments.upper(target));
+  Check_Judgment_Status();
+}
+
+JudgmentStatusCheck::Result JudgmentPage::evaluate() const {
+  return JudgmentStatusCheck::check(m_cone, m_handles, m_judgments, m_targets.currentTarget());
+}
+
+void JudgmentPage::Check_Judgment_Status() {
+  const auto result = evaluate();
+  if (result.state != JudgmentState::Invalid) {
+    m_lower.setText(formatNumber(result.lowerRatio, "0.00"));
+    m_upper.setText(formatNumber(result.upperRatio, "0.00"));
+  }
+  m_lamps.show(result.state);
+  m_shared.controls.setEnabled("cmdEnter", result.state == JudgmentState::Consistent);
+}
+
+void JudgmentPage::DisplayPrefCone() {
+  if (m_targets.currentTarget() < 0) return;
+  placeHandles(RatioBoundCheck::boxValue(m_lower.text), RatioBoundCheck::boxValue(m_upper.text));
+  Check_Judgment_Status();
+}
+
+void JudgmentPage::chooseTarget(int i) {
+  if (m_loading) return;
+  const int ref = m_shared.context.RefAtt;
+  switch (m_targets.choose(i, m_judgments, ref)) {
+    case TargetList::Choice::ReferenceItself:
+      m_shared.warn(kSameAttributeMessage);
+      return;
+    case TargetList::Choice::SameGroup:
+      m_shared.warn(kSameGroupMessage);
+      return;
+    case TargetList::Choice::Ignored:
+      return;
+    case TargetList::Choice::Chosen:
+      break;
+  }
+  DisplayAttPair(i, ref);
+  if (m_judgments.judged(i)) {
+    ShowPreJudgmentStatus(i);
+  } else {
+    IniJudgmentStatusA(i);
+  }
+  m_shared.controls.setEnabled("cmdEnter", true);
+}
+
+TextBoxState& JudgmentPage::boxState(Box box) { return box == Box::Lower ? m_lower : m_upper; }
+
+const TextBoxState& JudgmentPage::box(Box box) const {
+  return box == Box::Lower ? m_lower : m_upper;
+}
+
+void JudgmentPage::setBoxText(Box box, const std::string& text) {
+  boxState(box).text = text;
+  boxState(box).selStart = static_cast<int>(text.size());
+  boxState(box).selLength = 0;
+  m_focus = boxName(box);
+}
+
+bool JudgmentPage::keyDown(Box /*box*/, int keyCode, bool shift) const {
+  return RatioKeyFilter::discardKeyDown(keyCode, shift);
+}
+
+void JudgmentPage::keyPress(Box box, const TextBoxState& current, int keyAscii) {
+  TextBoxState& state = boxState(box);
+  state = current;
+  state.clampSelection();
+  m_focus = boxName(box);
+  if (RatioKeyFilter::typeKey(state, keyAscii) != RatioKeyFilter::KeyAction::Enter) return;
+  if (m_shared.controls.enabled("cmdReStart")) m_focus = "cmdReStart";
+  // Enter checks the lower bound from either box; the upper gets its own check on leaving.
+  if (checkBound(Box::Lower)) DisplayPrefCone();
+}
+
+bool JudgmentPage::checkBound(Box box) {
+  const auto result = box == Box::Lower
+                          ? RatioBoundCheck::CheckLowerWeightRatio(m_lower.text, m_upper.text)
+                          : RatioBoundCheck::CheckUpperWeightRatio(m_lower.text, m_upper.text);
+  if (result.ok) {
+    m_valid = 1;
+    return true;
+  }
+  m_valid = 0;
+  m_shared.ui.beep();
+  m_focus = boxName(box);
+  boxState(box).selectAll();
+  m_shared.warn(result.message);
+  return false;
+}
+
+void JudgmentPage::leaveBox(Box box) {
+  if (m_focus == boxName(box)) m_focus.clear();
+  if (checkBound(box)) DisplayPrefCone();
+}
+
+void JudgmentPage::dragHandle(int index, float x, float y) {
+  if (m_targets.currentTarget() < 0 || index < 0 || index > 1) return;
+  HandlePoint& p = index == 0 ? m_handles.first : m_handles.second;
+  p = m_cone.clampToArea({x, y});
+  Check_Judgment_Status();
+}
+
+void JudgmentPage::setArea(float side, float handleSize) {
+  const float old = m_cone.side();
+  m_cone = PreferenceCone(side, handleSize);
+  const float scale = m_cone.side() / old;
+  for (HandlePoint* p : {&m_handles.first, &m_handles.second}) {
+    p->x *= scale;
+    p->y *= scale;
+  }
+}
+
+IntPoint JudgmentPage::handleTopLeft(int index) const {
+  return m_cone.handleTopLeft(index == 0 ? m_handles.first : m_handles.second);
+}
+
+std::array<IntPoint, 3> JudgmentPage::coneTriangle() const {
+  return m_cone.triangle(m_handles.first, m_handles.second);
+}
+
+void JudgmentPage::enterJudgment() {
+  const int t = m_targets.currentTarget();
+  ControlRegistry& c = m_shared.controls;
+  if (t < 0 || !c.enabled("cmdEnter")) return;
+  const double lower = RatioBoundCheck::boxValue(m_lower.text);
+  const double upper = RatioBoundCheck::boxValue(m_upper.text);
+  for (int k : m_judgments.RecordWeightRatios(t, lower, upper, m_handles)) {
+    m_targets.markJudged(k);
+  }
+  placeHandles(m_judgments.lower(t), m_judgments.upper(t));
+  c.setEnabled("cmdEnter", false);
+  c.setEnabled("cmdReStart", true);
+  if (m_judgments.isComplete()) {
+    c.setEnabled("cmdFinish", true);
+    c.setEnabled("cmdNext", true);
+  }
+}
+
+void JudgmentPage::restart() {
+  m_shared.ui.setBusy(true);
+  m_judgments.ReStartJudgments();
+  m_targets.clear();
+  ListAtt();
+  IniJudgmentStatusA(m_targets.currentTarget());
+  m_shared.ui.setBusy(false);
+  ControlRegistry& c = m_shared.controls;
+  c.setEnabled("cmdEnter", m_targets.currentTarget() >= 0);
+  c.setEnabled("cmdReStart", false);
+  c.setEnabled("cmdNext", false);
+}
+
+std::vector<int> JudgmentPage::orderGroup(int k) const {
+  std::vector<int> atts;
+  for (int i = 0; i < m_judgments.count(); ++i) {
+    if (m_judgments.group(i) == k) atts.push_back(i);
+  }
+  return atts;
+}
+
+}  // namespace tnw

@@ -1,0 +1,117 @@
+#pragma once
+
+#include "direct/direct_a_shared.h"
+#include "direct/judgment_status_check.h"
+#include "direct/preference_cone.h"
+#include "direct/status_lamps.h"
+#include "direct/target_list.h"
+#include "direct/text_box_state.h"
+#include "direct/weight_ratio_judgments.h"
+
+// Std
+#include <array>
+#include <string>
+#include <vector>
+
+namespace tnw {
+
+// Step 2 of the direct method: the target list imgcmbTargetAtt, the ratio boxes txtWRLower and
+// txtWRUpper, the preference cone with its two handles picHandle, the status lamps, cmdEnter
+// and cmdReStart, and the final order on the tab picOrderTab.
+class JudgmentPage {
+ public:
+  // One of the two ratio boxes.
+  enum class Box { Lower, Upper };
+
+  // The status message sent when the target list is filled (leading blank kept).
+  static constexpr const char* kIndicateMessage =
+      " Indicate a value reference region on the two selected attributes.";
+  // The refusals of a target choice.
+  static constexpr const char* kSameAttributeMessage =
+      "Please choose different attributes to make pairwise comparisons!";
+  static constexpr const char* kSameGroupMessage =
+      "The selected attribute is in the same group with the reference attribute for the "
+      "benefit-oriened ones. It is not necessary to make tradeoffs between them.";
+
+  // The page over the shared data, blinking its lamps through `lamps`.
+  JudgmentPage(DirectAShared& shared, StatusLamps& lamps);
+
+  // Entering the page from step 1: the initial or the resumed intervals, the target list, the
+  // first judgment and the order tab. Returns whether the earlier judgments were resumed.
+  bool enter(bool resume);
+  // Leaving for step 1: the order tab is hidden and the target selection reset.
+  void leave();
+
+  // imgcmbTargetAtt_Click: attribute i chosen as the target (refusals shown as messages).
+  void chooseTarget(int i);
+  // A key typed into a box whose text, caret and selection are `current`.
+  void keyPress(Box box, const TextBoxState& current, int keyAscii);
+  // KeyDown of a box: whether the key is discarded (Shift+Insert).
+  bool keyDown(Box box, int keyCode, bool shift) const;
+  // The focus leaves a box (LostFocus): its bound is checked, the cone redrawn when it passed.
+  void leaveBox(Box box);
+  // Replaces a box's text (as a paste-free edit by the view or a runner).
+  void setBoxText(Box box, const std::string& text);
+  // Handle 0 (lower box) or 1 (upper box) dragged to (x, y) on the drawing area.
+  void dragHandle(int index, float x, float y);
+  // The side of the drawing area and the handle size, in the view's pixels.
+  void setArea(float side, float handleSize);
+  // cmdEnter_Click: records the current judgment.
+  void enterJudgment();
+  // cmdReStart_Click: every judgment starts again.
+  void restart();
+
+  // The judgment tables.
+  const WeightRatioJudgments& judgments() const { return m_judgments; }
+  // The target list.
+  const TargetList& targets() const { return m_targets; }
+  // The text, caret and selection of a box.
+  const TextBoxState& box(Box box) const;
+  // The control that has the focus on this page ("txtWRLower", "txtWRUpper", "cmdReStart" or "").
+  const std::string& focus() const { return m_focus; }
+  // The validity flag of the current entry: 1 after a bound passed its check, 0 after a failure.
+  int validity() const { return m_valid; }
+  // The cone geometry for the current area.
+  const PreferenceCone& cone() const { return m_cone; }
+  // The current handle points.
+  const RegionHandles& handles() const { return m_handles; }
+  // The top-left corner of handle 0 or 1, in whole pixels.
+  IntPoint handleTopLeft(int index) const;
+  // The filled triangle of the cone.
+  std::array<IntPoint, 3> coneTriangle() const;
+  // The status the current handles would give (the check without its display).
+  JudgmentStatusCheck::Result evaluate() const;
+  // Whether the final-order frames of the tab are shown.
+  bool orderTabVisible() const { return m_orderTabVisible; }
+  // The attributes of final group k (1-based) in model order: the buttons cmdAttBtn of frame
+  // picOrderGrp(k - 1).
+  std::vector<int> orderGroup(int k) const;
+
+ private:
+  void ListAtt();
+  void DisplayAttPair(int target, int reference);
+  void IniJudgmentStatusA(int target);
+  void IniJudgmentStatusB(int attribute);
+  void ShowPreJudgmentStatus(int target);
+  void DisplayPrefCone();
+  void Check_Judgment_Status();
+  void placeHandles(double lower, double upper);
+  void showRatios(double lower, double upper);
+  bool checkBound(Box box);
+  TextBoxState& boxState(Box box);
+
+  DirectAShared& m_shared;
+  StatusLamps& m_lamps;
+  WeightRatioJudgments m_judgments;
+  TargetList m_targets;
+  PreferenceCone m_cone{200.0F, 8.0F};
+  RegionHandles m_handles;
+  TextBoxState m_lower;
+  TextBoxState m_upper;
+  std::string m_focus;
+  int m_valid = 0;
+  bool m_loading = false;
+  bool m_orderTabVisible = false;
+};
+
+}  // namespace tnw

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "direct/direct_a_shared.h"
+#include "direct/importance_order.h"
+#include "direct/previous_judgments.h"
+
+// Std
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tnw {
+
+// Step 0 of the direct method: the attribute list on the left (cmdAttA, lblAttName,
+// optAttInfo), the order panel on the right (picOrder boxes with the placed buttons cmdAttB),
+// cmdAdd and cmdInsert, and the attribute information frame.
+class OrderingPage {
+ public:
+  // Button faces (0x00BBGGRR): light red for benefit-, light blue for cost-oriented attributes.
+  static constexpr std::uint32_t kBenefitFace = 0xC0C0FF;  // RGB 255, 192, 192
+  static constexpr std::uint32_t kCostFace = 0xFFC0C0;     // RGB 192, 192, 255
+
+  // One attribute button of the list (cmdAttA(i)) or of the reference choice (cmdAttButtons(i)).
+  struct AttributeButton {
+    std::string caption;      // the trimmed attribute name
+    std::uint32_t faceColor;  // kBenefitFace or kCostFace
+    bool visible = true;      // list buttons hide once placed
+  };
+
+  // The page over the shared data; numAtt attributes (0..31).
+  OrderingPage(DirectAShared& shared, int numAtt);
+
+  // Builds the attribute buttons and shows attribute 0's information (IniAttList).
+  void IniAttList();
+  // Two empty groups (IniOrderList).
+  void IniOrderList();
+  // Shows an order rebuilt from an earlier result (DisplayPreviousOrder).
+  void DisplayPreviousOrder(const PreviousJudgments::Order& order);
+
+  // A drop with drag payload `tag` on the box of `group` (picOrder_DragDrop).
+  ImportanceOrder::DropResult dropOnGroup(std::string_view tag, int group);
+  // A drop on the placed button of attribute `placedAtt` (cmdAttB_DragDrop).
+  ImportanceOrder::DropResult dropOnPlacedAttribute(std::string_view tag, int placedAtt);
+  // cmdAdd_Click; false when Add is disabled.
+  bool add();
+  // cmdInsert_Click; false when Insert is disabled.
+  bool insert();
+  // picOrder_Click / lblOrderID_Click on the box of `group`.
+  void clickGroup(int group);
+  // cmdAttB_Click on the placed button of attribute j: selects its group.
+  void clickPlacedAttribute(int j);
+  // lblAttName_Click / optAttInfo_Click: shows attribute j's information.
+  void showAttributeInfo(int j);
+  // A drag over the attribute list: shows the dragged attribute's information.
+  void dragOverAttributeList(std::string_view tag);
+
+  // The ordering model.
+  const ImportanceOrder& order() const { return m_order; }
+  // The list buttons cmdAttA(i), in model order.
+  const std::vector<AttributeButton>& attributeButtons() const { return m_buttons; }
+  // The selected option button optAttInfo (the attribute whose information shows).
+  int selectedInfo() const { return m_info; }
+  // The button of attribute j as the reference choice shows it (same caption and face).
+  AttributeButton referenceButton(int j) const;
+
+ private:
+  void refreshButtons();
+
+  DirectAShared& m_shared;
+  ImportanceOrder m_order;
+  std::vector<AttributeButton> m_buttons;
+  int m_info = 0;
+};
+
+}  // namespace tnw

@@ -1,0 +1,80 @@
+#include "tradeoffs/score_entry.h"
+
+#include "common/number_format.h"
+
+// Std
+#include <algorithm>
+
+namespace tnw {
+
+namespace {
+
+std::string trimmed(const std::string& s) {
+  const auto b = s.find_first_not_of(' ');
+  if (b == std::string::npos) return {};
+  const auto e = s.find_last_not_of(' ');
+  return s.substr(b, e - b + 1);
+}
+
+// Keeps the caret and selection inside the text, as a text box does.
+void clampSelection(TextBoxState& box) {
+  const int len = static_cast<int>(box.text.size());
+  box.selStart = std::clamp(box.selStart, 0, len);
+  box.selLength = std::clamp(box.selLength, 0, len - box.selStart);
+}
+
+}  // namespace
+
+void ScoreEntry::CheckPeriod(TextBoxState& box) {
+  clampSelection(box);
+  if (box.text.find('.') == std::string::npos) return;
+  // Selects the character before the insertion point and replaces it by nothing, as the page
+  // has always done; with the caret after a period that period goes, so a second one cannot
+  // accumulate.
+  if (box.selStart == 0) return;
+  box.text.erase(static_cast<std::size_t>(box.selStart - 1), 1);
+  box.selStart -= 1;
+  box.selLength = 0;
+}
+
+int ScoreEntry::DoKeyPress(TextBoxState& box, int key) {
+  if (key < kBlank) return key;
+  CheckPeriod(box);
+  if ((key >= '0' && key <= '9') || key == '.') return key;
+  return 0;
+}
+
+void ScoreEntry::applyKey(TextBoxState& box, int key) {
+  clampSelection(box);
+  const auto start = static_cast<std::size_t>(box.selStart);
+  const auto length = static_cast<std::size_t>(box.selLength);
+  if (key == kBackspace) {
+    if (length > 0) {
+      box.text.erase(start, length);
+    } else if (start > 0) {
+      box.text.erase(start - 1, 1);
+      box.selStart -= 1;
+    }
+    box.selLength = 0;
+    return;
+  }
+  if (key < kBlank || key > 126) return;
+  box.text.replace(start, length, 1, static_cast<char>(key));
+  box.selStart += 1;
+  box.selLength = 0;
+}
+
+std::optional<std::string> ScoreEntry::checkRange(const std::string& text, float low, float high) {
+  const double v = leadingNumber(trimmed(text));
+  if (v >= low && v <= high) return std::nullopt;
+  return "The data you entered should be in the relevant score range [" + generalTextSingle(low) +
+         ", " + generalTextSingle(high) + "]!";
+}
+
+std::string ScoreEntry::step(const std::string& text, float low, float high, bool up) {
+  const float stepSize = (high - low) / 100.0f;
+  const double v = leadingNumber(text);
+  return formatNumber(up ? v + stepSize : v - stepSize, "0.0#");
+}
+
+}  // namespace tnw

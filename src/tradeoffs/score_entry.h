@@ -1,0 +1,35 @@
+#pragma once
+
+#include "tradeoffs/control_states.h"
+
+// Std
+#include <optional>
+#include <string>
+
+namespace tnw {
+
+// The editing rules of the four score boxes: the key filter, the period guard, the range check
+// and the toolbar step. Pure functions over a box's state.
+class ScoreEntry {
+ public:
+  // The key code of Enter, and of the blank (the first printable key).
+  static constexpr int kEnter = 13;
+  static constexpr int kBlank = 32;
+  static constexpr int kBackspace = 8;
+
+  // When the box already holds a period, deletes the character before the insertion point.
+  static void CheckPeriod(TextBoxState& box);
+  // Filters one key below Enter's handling: a printable key passes CheckPeriod and is kept only
+  // when it is a digit or a period (0 otherwise); control keys pass unchanged.
+  static int DoKeyPress(TextBoxState& box, int key);
+  // Applies a key that passed the filter as a text box does: a printable key replaces the
+  // selection, backspace deletes it or the character before the caret.
+  static void applyKey(TextBoxState& box, int key);
+
+  // The range message for a text outside [low, high], ends included; empty when inside.
+  static std::optional<std::string> checkRange(const std::string& text, float low, float high);
+  // The text after one toolbar step: the value ± (high - low) / 100, written "0.0#".
+  static std::string step(const std::string& text, float low, float high, bool up);
+};
+
+}  // namespace tnw

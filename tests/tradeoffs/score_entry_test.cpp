@@ -1,0 +1,85 @@
+#include "tradeoffs/score_entry.h"
+
+// GoogleTest
+#include <gtest/gtest.h>
+
+namespace tnw {
+namespace {
+
+TextBoxState box(const std::string& text, int selStart, int selLength = 0) {
+  return TextBoxState{text, selStart, selLength, true};
+}
+
+TEST(ScoreEntryTest, DigitsAndThePeriodPassOtherPrintableKeysAreDiscarded) {
+  TextBoxState b = box("12", 2);
+  EXPECT_EQ(ScoreEntry::DoKeyPress(b, '7'), '7');
+  EXPECT_EQ(ScoreEntry::DoKeyPress(b, '.'), '.');
+  EXPECT_EQ(ScoreEntry::DoKeyPress(b, 'a'), 0);
+  EXPECT_EQ(ScoreEntry::DoKeyPress(b, '-'), 0);  // no sign can be typed
+  EXPECT_EQ(ScoreEntry::DoKeyPress(b, '+'), 0);
+  EXPECT_EQ(ScoreEntry::DoKeyPress(b, ' '), 0);
+  EXPECT_EQ(b.text, "12");
+}
+
+TEST(ScoreEntryTest, ControlKeysPassUnchanged) {
+  TextBoxState b = box("1.5", 3);
+  EXPECT_EQ(ScoreEntry::DoKeyPress(b, ScoreEntry::kBackspace), ScoreEntry::kBackspace);
+  EXPECT_EQ(ScoreEntry::DoKeyPress(b, 3), 3);
+  EXPECT_EQ(b.text, "1.5");
+}
+
+TEST(ScoreEntryTest, SecondPeriodRightAfterTheFirstCannotAccumulate) {
+  TextBoxState b = box("2.", 2);
+  const int key = ScoreEntry::DoKeyPress(b, '.');
+  ScoreEntry::applyKey(b, key);
+  EXPECT_EQ(b.text, "2.");
+  EXPECT_EQ(b.selStart, 2);
+}
+
+TEST(ScoreEntryTest, CheckPeriodDeletesTheCharacterBeforeTheCaretWhenAPeriodIsThere) {
+  TextBoxState b = box("3.25", 4);
+  ScoreEntry::CheckPeriod(b);
+  EXPECT_EQ(b.text, "3.2");
+  EXPECT_EQ(b.selStart, 3);
+  TextBoxState none = box("325", 3);
+  ScoreEntry::CheckPeriod(none);
+  EXPECT_EQ(none.text, "325");
+  TextBoxState atStart = box("3.25", 0, 4);
+  ScoreEntry::CheckPeriod(atStart);
+  EXPECT_EQ(atStart.text, "3.25");
+}
+
+TEST(ScoreEntryTest, TypedKeyReplacesTheSelectionAndBackspaceDeletes) {
+  TextBoxState b = box("3.25", 0, 4);
+  ScoreEntry::applyKey(b, ScoreEntry::DoKeyPress(b, '4'));
+  EXPECT_EQ(b.text, "4");
+  EXPECT_EQ(b.selStart, 1);
+  ScoreEntry::applyKey(b, ScoreEntry::DoKeyPress(b, '.'));
+  EXPECT_EQ(b.text, "4.");
+  ScoreEntry::applyKey(b, ScoreEntry::kBackspace);
+  EXPECT_EQ(b.text, "4");
+}
+
+TEST(ScoreEntryTest, RangeIncludesBothEndsAndTheMessageShowsSinglePrecisionEnds) {
+  EXPECT_FALSE(ScoreEntry::checkRange("0", 0.0f, 10.0f).has_value());
+  EXPECT_FALSE(ScoreEntry::checkRange(" 10 ", 0.0f, 10.0f).has_value());
+  EXPECT_EQ(ScoreEntry::checkRange("10.01", 0.0f, 10.0f),
+            "The data you entered should be in the relevant score range [0, 10]!");
+  EXPECT_EQ(ScoreEntry::checkRange("abc", 0.1f, 2.5f),
+            "The data you entered should be in the relevant score range [0.1, 2.5]!");
+}
+
+TEST(ScoreEntryTest, ScoresOfAThousandAndMoreReadBackAcrossTheGroupSeparator) {
+  EXPECT_FALSE(ScoreEntry::checkRange("1,234.5", 1000.0f, 2000.0f).has_value());
+  EXPECT_EQ(ScoreEntry::step("1,234.5", 0.0f, 2000.0f, true), "1254.5");
+}
+
+TEST(ScoreEntryTest, ToolbarStepIsOneHundredthOfTheRangeWrittenZeroPointZeroHash) {
+  EXPECT_EQ(ScoreEntry::step("3.0", 0.0f, 10.0f, true), "3.1");
+  EXPECT_EQ(ScoreEntry::step("3.0", 0.0f, 10.0f, false), "2.9");
+  EXPECT_EQ(ScoreEntry::step("5", 0.0f, 1.0f, true), "5.01");
+  EXPECT_EQ(ScoreEntry::step("5", 0.0f, 100.0f, true), "6.0");
+}
+
+}  // namespace
+}  // namespace tnw
