@@ -33,6 +33,18 @@ QColor DrawingSurfaceQt::paletteColour(int index) {
   return QColor(static_cast<QRgb>(0xFF000000u | tnw::paletteColour(index)));
 }
 
+QFont DrawingSurfaceQt::fittedFont(const QFont& base, const QPaintDevice* device,
+                                   double areaWidth) {
+  // The charts keep 15 of their 155 horizontal units left of the plot for the scale labels.
+  const double room = areaWidth * 12.0 / 155.0;
+  QFont font = base;
+  const double width = QFontMetricsF(font, device).horizontalAdvance(QStringLiteral("0.0000"));
+  if (width <= room || width <= 0) return font;
+  const double pixels = QFontMetricsF(font, device).height() * room / width;
+  font.setPixelSize(std::max(6, static_cast<int>(pixels * 0.8)));
+  return font;
+}
+
 void DrawingSurfaceQt::clear() {
   m_painter.fillRect(m_area, Qt::white);
   m_currentX = m_left;

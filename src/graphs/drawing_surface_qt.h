@@ -4,6 +4,7 @@
 
 // Qt
 #include <QColor>
+#include <QFont>
 #include <QPainter>
 #include <QRectF>
 
@@ -36,6 +37,10 @@ class DrawingSurfaceQt : public DrawingSurface {
   void setCurrentX(double x) override;
   void setCurrentY(double y) override;
   void print(const std::string& text) override;
+
+  // A font from `base` small enough that a scale label ("0.0000") fits the chart's left margin
+  // in an area `areaWidth` device units wide; never below 6 pixels.
+  static QFont fittedFont(const QFont& base, const QPaintDevice* device, double areaWidth);
 
   // The device point of a user point.
   QPointF toDevice(double x, double y) const;

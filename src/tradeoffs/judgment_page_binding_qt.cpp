@@ -241,9 +241,13 @@ void JudgmentPageBindingQt::renderRangeLabels() {
   };
   const auto [low1, high1] = ends(m_page.FirstAttIndex());
   const auto [low2, high2] = ends(m_page.SecondAttIndex());
-  const auto text = [](double x, double y) {
-    return "(" + formatNumber(x, "###,##0.##") + ", " + formatNumber(y, "###,##0.##") + ")";
+  // The score format leaves a bare period after a whole number; the corner labels drop it.
+  const auto score = [](double v) {
+    std::string s = formatNumber(v, "###,##0.##");
+    if (!s.empty() && s.back() == '.') s.pop_back();
+    return s;
   };
+  const auto text = [&score](double x, double y) { return "(" + score(x) + ", " + score(y) + ")"; };
   setCaption(c.labPCWorstT, text(low1, low2));
   setCaption(c.labPCBestT, text(high1, high2));
 }

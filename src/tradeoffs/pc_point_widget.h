@@ -19,6 +19,8 @@ class PcPointWidget : public QWidget {
 
   // Sets the cursor shown while the point is being dragged.
   void setDragCursor(const QCursor& cursor);
+  // The cursor shown while the point is being dragged.
+  const QCursor& dragCursor() const { return m_dragCursor; }
   // Whether a drag is in progress.
   bool dragging() const { return m_dragging; }
 

@@ -28,6 +28,7 @@ ResultsPageBindingQt::ResultsPageBindingQt(TradeOffsResultsWidget& widget,
   }
   const ResultsPage* shown = &m_page;
   c.picWeightGraph->setPainter([shown](QPainter& painter, const QRectF& area) {
+    painter.setFont(DrawingSurfaceQt::fittedFont(painter.font(), painter.device(), area.width()));
     DrawingSurfaceQt surface(painter, area);
     shown->drawChart(surface);
   });

@@ -39,6 +39,7 @@ class TradeOffsADialog : public WizardDialogQt {
 
   // The presenter behind the dialog.
   const TradeOffsAPresenter& presenter() const { return *m_presenter; }
+  TradeOffsAPresenter& presenter() { return *m_presenter; }
   // The judgment page (step 1) and the results page (step 2).
   TradeOffsJudgmentWidget* judgmentPage() const { return m_judgment; }
   TradeOffsResultsWidget* resultsPage() const { return m_results; }

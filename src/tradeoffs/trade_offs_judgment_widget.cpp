@@ -280,7 +280,7 @@ QWidget* TradeOffsJudgmentWidget::buildVerbal() {
   m_c.verbalGroup = new QButtonGroup(frame);
   auto* grid = new QGridLayout(frame);
   grid->addWidget(namedLabel("lblPCVerbalQuestion", tr("Do you prefer A over B:"), frame), 0, 0, 1,
-                  3);
+                  4);
   // The marks "-1", "-2", "-3" stand beside "Slightly", "Moderately" and "Strongly": the
   // responses those degrees record.
   for (int i = 0; i < 3; ++i) {
