@@ -13,5 +13,8 @@ int runModel(const std::vector<std::string>& args);
 // tnwizard value MODEL ATT SCORE...: single-attribute values with four decimals.
 int runValue(const std::vector<std::string>& args);
 
+// tnwizard direct MODEL SCENARIO.json: the direct method run headless, the result as JSON.
+int runDirect(const std::vector<std::string>& args);
+
 // Exit status when a model file cannot be opened.
 inline constexpr int kExitCannotOpen = 2;

@@ -28,6 +28,7 @@ struct Command {
 constexpr Command kCommands[] = {
     {"model", runModel},
     {"value", runValue},
+    {"direct", runDirect},
 };
 
 }  // namespace

@@ -49,3 +49,23 @@ struct PanelPoint {
 };
 
 }  // namespace tnw
+
+namespace tnw {
+
+// The cells of a grid, row 0 holding the column headings.
+struct GridState {
+  std::vector<std::vector<std::string>> cells;
+
+  // The number of rows and columns.
+  int rows() const { return static_cast<int>(cells.size()); }
+  int cols() const { return cells.empty() ? 0 : static_cast<int>(cells.front().size()); }
+  // The text of a cell (empty outside the grid).
+  std::string text(int row, int col) const {
+    if (row < 0 || row >= rows() || col < 0 ||
+        col >= static_cast<int>(cells[static_cast<std::size_t>(row)].size()))
+      return {};
+    return cells[static_cast<std::size_t>(row)][static_cast<std::size_t>(col)];
+  }
+};
+
+}  // namespace tnw

@@ -1,0 +1,177 @@
+#include "tradeoffs/trade_offs_a_presenter.h"
+
+#include "common/ui_services.h"
+#include "component/wizard_context.h"
+#include "tradeoffs/trade_offs_a_events.h"
+
+namespace tnw {
+
+namespace {
+
+constexpr const char* kTitle = "NORIX";
+
+}  // namespace
+
+TradeOffsAPresenter::TradeOffsAPresenter(WizardContext& context, UiServices& ui,
+                                         TradeOffsAEvents& events, RandomSource& random)
+    : m_context(context), m_ui(ui), m_events(events), m_judgment(context, ui, random) {}
+
+void TradeOffsAPresenter::changed() {
+  if (m_changed) m_changed();
+}
+
+void TradeOffsAPresenter::Form_Load() {
+  // The exports and the results page read one entry per attribute; what the tables held before
+  // is kept, as a failed fit leaves it.
+  const auto n = static_cast<std::size_t>(m_context.model.attributeCount());
+  for (auto* table : {&m_context.LowerWeights, &m_context.CloseWeights, &m_context.UpperWeights}) {
+    if (table->size() < n) table->resize(n, 0.0);
+  }
+  m_step = 1;
+  m_judgment.reset();
+  m_instruction.caption = JudgmentPage::kInstruction;
+  m_events.SendMasseges(JudgmentPage::kInstruction);
+  changed();
+}
+
+void TradeOffsAPresenter::warn(const std::string& text) {
+  m_ui.beep();
+  m_ui.messageBox(text, MessageIcon::Exclamation, kTitle);
+}
+
+void TradeOffsAPresenter::cmdNext_Click() {
+  if (m_step != 1 || !m_cmdNext.enabled) return;
+  m_step = 2;
+  m_cmdFinish.enabled = true;
+  m_cmdNext.enabled = false;
+  runRegression();
+  m_results.SetgirdWeights(m_context);
+  m_results.SetgridOverallRegression();
+  m_results.FillRegressionData(m_record, m_context.RegressionComment);
+  m_results.FillWeightData(m_context);
+  m_results.tbWeightCharts_ButtonClick(ResultsPage::kHLCa, m_context);
+  changed();
+}
+
+void TradeOffsAPresenter::runRegression() {
+  m_ui.setBusy(true);
+  m_regression.RegressMain(m_judgment.store(), m_context.model.attributeCount(), m_record,
+                           m_context);
+  m_fitError = m_regression.error();
+  for (const std::string& w : m_regression.warnings()) warn(w);
+  if (m_fitError) warn(*m_fitError);
+  const std::optional<std::string> weightsError = m_regression.CalWeights();
+  // A fit that already reported its failure explains the zero sum; one message is enough.
+  if (weightsError && m_regression.warnings().empty() && !m_fitError) {
+    m_fitError = weightsError;
+    warn(*weightsError);
+  }
+  m_ui.setBusy(false);
+}
+
+void TradeOffsAPresenter::cmdBack_Click() {
+  if (m_step == 1) {
+    m_events.ShowTNWSelMethod();
+    return;
+  }
+  m_step = 1;
+  m_cmdNext.enabled = true;
+  m_judgment.enableEnter();
+  m_judgment.reset();
+  changed();
+}
+
+void TradeOffsAPresenter::cmdFinish_Click() {
+  if (!m_cmdFinish.enabled) return;
+  if (m_fitError) {
+    // The fit could not be completed: nothing is handed to the host.
+    warn(*m_fitError);
+    return;
+  }
+  m_ui.setBusy(true);
+  // The close estimates go out twice and the low ones not at all: the host has always received
+  // them this way.
+  m_events.ExportTradeOffsW("MAVT_TRADEOFFS", m_context.CloseWeights, m_context.UpperWeights,
+                            m_context.CloseWeights);
+  m_ui.setBusy(false);
+  m_events.UnloadTNWizard(m_context.FileIndex, true);
+}
+
+void TradeOffsAPresenter::cmdCancel_Click() { m_events.UnloadTNWizard(m_context.FileIndex, false); }
+
+void TradeOffsAPresenter::cmdTNWizardHelp_Click() {
+  m_ui.showHelp(m_context.NorixDir + "\\" + "NORIX.HLP", kHelpContext);
+}
+
+void TradeOffsAPresenter::tsComparisonApproaches_Click(int tab) {
+  m_judgment.tsComparisonApproaches_Click(tab);
+  changed();
+}
+
+void TradeOffsAPresenter::tsTabsW_Click(int tab) {
+  if (tab != 1 && tab != 2) return;
+  m_tabW = tab;
+  changed();
+}
+
+void TradeOffsAPresenter::tbWeightCharts_ButtonClick(const std::string& key) {
+  m_results.tbWeightCharts_ButtonClick(key, m_context);
+  changed();
+}
+
+void TradeOffsAPresenter::optPCAutomatic_Click() {
+  m_judgment.optPCAutomatic_Click();
+  changed();
+}
+
+void TradeOffsAPresenter::optPCManual_Click() {
+  m_judgment.optPCManual_Click();
+  changed();
+}
+
+void TradeOffsAPresenter::lstTradeOffFirstC_Click(int index) {
+  m_judgment.lstTradeOffFirstC_Click(index);
+  changed();
+}
+
+void TradeOffsAPresenter::lstTradeOffSecondC_Click(int index) {
+  m_judgment.lstTradeOffSecondC_Click(index);
+  changed();
+}
+
+void TradeOffsAPresenter::scoreBoxKeyPress(int box, int key, int selStart, int selLength) {
+  m_judgment.scoreBoxKeyPress(box, key, selStart, selLength);
+  changed();
+}
+
+void TradeOffsAPresenter::setScoreText(int box, const std::string& text) {
+  m_judgment.setScoreText(box, text);
+  changed();
+}
+
+void TradeOffsAPresenter::tbScoreChanger_ButtonClick(int index, bool up) {
+  m_judgment.tbScoreChanger_ButtonClick(index, up);
+  changed();
+}
+
+void TradeOffsAPresenter::dragPoint(bool pointA, double x, double y) {
+  m_judgment.dragPoint(pointA, x, y);
+  changed();
+}
+
+void TradeOffsAPresenter::optPCVerbal_Click(int index) {
+  m_judgment.optPCVerbal_Click(index);
+  changed();
+}
+
+void TradeOffsAPresenter::cmdTradeOffEnter_Click() {
+  m_judgment.cmdTradeOffEnter_Click();
+  changed();
+}
+
+void TradeOffsAPresenter::cmdTradeOffClearAll_Click() {
+  m_judgment.cmdTradeOffClearAll_Click();
+  changed();
+}
+
+}  // namespace tnw
