@@ -2,6 +2,7 @@
 
 #include "common/number_format.h"
 #include "component/wizard_context.h"
+#include "tradeoffs/elided_label_widget.h"
 #include "tradeoffs/judgment_page.h"
 #include "tradeoffs/pc_graph_widget.h"
 #include "tradeoffs/score_entry.h"
@@ -31,7 +32,12 @@ QString qs(const std::string& s) { return QString::fromStdString(s); }
 
 void setCaption(QLabel* label, const std::string& text) {
   const QString t = qs(text);
-  if (label->text() != t) label->setText(t);
+  if (label->text() == t) return;
+  if (auto* elided = qobject_cast<ElidedLabelWidget*>(label)) {
+    elided->setFullText(t);
+  } else {
+    label->setText(t);
+  }
 }
 
 }  // namespace

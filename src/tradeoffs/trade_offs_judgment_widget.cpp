@@ -1,5 +1,6 @@
 #include "tradeoffs/trade_offs_judgment_widget.h"
 
+#include "tradeoffs/elided_label_widget.h"
 #include "tradeoffs/judgment_controls.h"
 #include "tradeoffs/pc_graph_widget.h"
 
@@ -52,6 +53,13 @@ QIcon arrowIcon(bool up, const QPalette& palette) {
 
 QLabel* namedLabel(const char* name, const QString& text, QWidget* parent) {
   auto* label = new QLabel(text, parent);
+  label->setObjectName(QString::fromLatin1(name));
+  return label;
+}
+
+// A label for an attribute's name, shortened with an ellipsis when the name is long.
+QLabel* elidedLabel(const char* name, const QString& text, QWidget* parent) {
+  auto* label = new ElidedLabelWidget(text, parent);
   label->setObjectName(QString::fromLatin1(name));
   return label;
 }
@@ -119,6 +127,7 @@ QWidget* TradeOffsJudgmentWidget::buildSelection() {
   second->setBuddy(m_c.lstTradeOffSecondC);
   const int rows = fontMetrics().height() * 4 + 8;
   for (QListWidget* list : {m_c.lstTradeOffFirstC, m_c.lstTradeOffSecondC}) {
+    list->setUniformItemSizes(true);
     list->setMinimumHeight(rows);
     list->setMaximumHeight(rows);
   }
@@ -166,13 +175,12 @@ QWidget* TradeOffsJudgmentWidget::buildNumerical() {
   frame->setObjectName(QStringLiteral("framePCNumericalC"));
   m_c.framePCNumericalC = frame;
   m_c.framePCGraph = new PcGraphWidget(frame);
-  m_c.labPCCriterion1 = namedLabel("labPCCriterion1", tr("Attribute 1"), frame);
-  m_c.labPCCriterion2 = namedLabel("labPCCriterion2", tr("Attribute 2"), frame);
+  m_c.labPCCriterion1 = elidedLabel("labPCCriterion1", tr("Attribute 1"), frame);
+  m_c.labPCCriterion2 = elidedLabel("labPCCriterion2", tr("Attribute 2"), frame);
   m_c.labPCBestT = namedLabel("labPCBestT", QString(), frame);
   m_c.labPCWorstT = namedLabel("labPCWorstT", QString(), frame);
   m_c.labPCCriterion1->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   for (QLabel* l : {m_c.labPCCriterion1, m_c.labPCCriterion2}) {
-    l->setWordWrap(true);
     QFont f = l->font();
     f.setBold(true);
     l->setFont(f);
@@ -226,12 +234,10 @@ QWidget* TradeOffsJudgmentWidget::buildScores() {
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setHorizontalSpacing(4);
   grid->setVerticalSpacing(6);
-  m_c.labScoreHead1 = namedLabel("labScoreHead1", tr("Attribute 1"), panel);
-  m_c.labScoreHead2 = namedLabel("labScoreHead2", tr("Attribute 2"), panel);
+  m_c.labScoreHead1 = elidedLabel("labScoreHead1", tr("Attribute 1"), panel);
+  m_c.labScoreHead2 = elidedLabel("labScoreHead2", tr("Attribute 2"), panel);
   for (QLabel* l : {m_c.labScoreHead1, m_c.labScoreHead2}) {
-    l->setWordWrap(true);
     l->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
-    l->setMaximumWidth(fontMetrics().horizontalAdvance(QLatin1Char('x')) * 18);
   }
   grid->addWidget(m_c.labScoreHead1, 0, 1, 1, 3);
   grid->addWidget(m_c.labScoreHead2, 0, 5, 1, 3);
