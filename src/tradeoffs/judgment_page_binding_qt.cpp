@@ -192,6 +192,8 @@ void JudgmentPageBindingQt::renderSelection() {
   setCaption(c.labPCCriterion2, s.labPCCriterion2.caption);
   setCaption(c.labScoreHead1, s.labPCCriterion1.caption);
   setCaption(c.labScoreHead2, s.labPCCriterion2.caption);
+  setCaption(c.verbalHead[0], s.labPCCriterion1.caption);
+  setCaption(c.verbalHead[1], s.labPCCriterion2.caption);
 }
 
 void JudgmentPageBindingQt::renderScores() {
@@ -201,6 +203,7 @@ void JudgmentPageBindingQt::renderScores() {
     QLineEdit* edit = c.scoreBox[b];
     const TextBoxState& box = s.scoreBoxes[b];
     edit->setEnabled(box.enabled);
+    setCaption(c.verbalScore[b], box.text);
     ShownBox& shown = m_shown[b];
     if (shown.text == box.text && shown.selStart == box.selStart &&
         shown.selLength == box.selLength) {

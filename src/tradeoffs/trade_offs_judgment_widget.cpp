@@ -305,9 +305,35 @@ QWidget* TradeOffsJudgmentWidget::buildVerbal() {
   m_c.optPCVerbal[3]->setChecked(true);
   grid->setColumnMinimumWidth(0, 12);
   grid->setColumnMinimumWidth(1, fontMetrics().horizontalAdvance(QStringLiteral("-8")) + 6);
-  grid->setColumnStretch(3, 1);
+  grid->setColumnMinimumWidth(3, 24);
+  grid->addWidget(buildVerbalAlternatives(), 1, 4, 7, 1, Qt::AlignTop);
+  grid->setColumnStretch(4, 2);
+  grid->setColumnStretch(5, 1);
   grid->setRowStretch(8, 1);
   return frame;
+}
+
+QWidget* TradeOffsJudgmentWidget::buildVerbalAlternatives() {
+  // The verbal scale hides the score boxes, so the two alternatives are repeated here.
+  auto* box = new QGroupBox(tr("The alternatives"), this);
+  box->setObjectName(QStringLiteral("framePCVerbalAlternatives"));
+  auto* grid = new QGridLayout(box);
+  for (int i = 0; i < 2; ++i) {
+    m_c.verbalHead[i] = elidedLabel(i == 0 ? "labVerbalHead1" : "labVerbalHead2",
+                                    tr("Attribute %1").arg(i + 1), box);
+    m_c.verbalHead[i]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    grid->addWidget(m_c.verbalHead[i], 0, i + 1);
+    grid->setColumnStretch(i + 1, 1);
+  }
+  grid->addWidget(namedLabel("lblVerbalRowA", QStringLiteral("A"), box), 1, 0);
+  grid->addWidget(namedLabel("lblVerbalRowB", QStringLiteral("B"), box), 2, 0);
+  const char* const names[4] = {"labVerbalA1", "labVerbalA2", "labVerbalB1", "labVerbalB2"};
+  for (int b = 0; b < 4; ++b) {
+    m_c.verbalScore[b] = namedLabel(names[b], QString(), box);
+    m_c.verbalScore[b]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    grid->addWidget(m_c.verbalScore[b], b < 2 ? 1 : 2, (b % 2) + 1);
+  }
+  return box;
 }
 
 }  // namespace tnw

@@ -54,6 +54,10 @@ class TradeOffsJudgmentWidget : public QWidget {
     QLabel* labTradeOffDiff1 = nullptr;
     QLabel* labTradeOffDiff2 = nullptr;
     QRadioButton* optPCVerbal[7] = {};
+    // The alternatives repeated beside the verbal scale: the two attributes' names and the
+    // scores in the order of scoreBox.
+    QLabel* verbalHead[2] = {};
+    QLabel* verbalScore[4] = {};
     QButtonGroup* verbalGroup = nullptr;
     QPushButton* cmdTradeOffClearAll = nullptr;
     QPushButton* cmdTradeOffEnter = nullptr;
@@ -74,6 +78,7 @@ class TradeOffsJudgmentWidget : public QWidget {
   QWidget* buildNumerical();
   QWidget* buildScores();
   QWidget* buildVerbal();
+  QWidget* buildVerbalAlternatives();
   QToolBar* buildStepToolbar(int box);
 
   Controls m_c;

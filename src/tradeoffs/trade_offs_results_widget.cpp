@@ -130,7 +130,7 @@ QWidget* TradeOffsResultsWidget::buildWeightEst() {
   chartColumn->addWidget(m_c.picWeightGraph, 1);
   auto* layout = new QHBoxLayout(panel);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(m_c.gridWeights, 4);
+  layout->addWidget(m_c.gridWeights, 3);
   layout->addLayout(chartColumn, 5);
   return panel;
 }
