@@ -16,5 +16,8 @@ int runValue(const std::vector<std::string>& args);
 // tnwizard direct MODEL SCENARIO.json: the direct method run headless, the result as JSON.
 int runDirect(const std::vector<std::string>& args);
 
+// tnwizard tradeoffs MODEL JUDGMENTS.json: judgments recorded and the regression run headless.
+int runTradeOffs(const std::vector<std::string>& args);
+
 // Exit status when a model file cannot be opened.
 inline constexpr int kExitCannotOpen = 2;

@@ -29,6 +29,7 @@ constexpr Command kCommands[] = {
     {"model", runModel},
     {"value", runValue},
     {"direct", runDirect},
+    {"tradeoffs", runTradeOffs},
 };
 
 }  // namespace
