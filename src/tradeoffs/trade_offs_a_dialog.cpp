@@ -14,6 +14,7 @@
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
@@ -66,6 +67,7 @@ TradeOffsADialog::TradeOffsADialog(WizardContext& context, UiServices& ui, Trade
   m_presenter->setChangedCallback([this] { render(); });
   m_presenter->Form_Load();
   render();
+  m_judgment->controls().scoreBox[0]->setFocus();
 }
 
 TradeOffsADialog::~TradeOffsADialog() {

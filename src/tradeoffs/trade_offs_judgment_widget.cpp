@@ -94,6 +94,9 @@ TradeOffsJudgmentWidget::TradeOffsJudgmentWidget(QWidget* parent) : QWidget(pare
   m_c.cmdTradeOffClearAll->setObjectName(QStringLiteral("cmdTradeOffClearAll"));
   m_c.cmdTradeOffEnter = new QPushButton(tr("&Enter"), this);
   m_c.cmdTradeOffEnter->setObjectName(QStringLiteral("cmdTradeOffEnter"));
+  // Enter in a score box has its own meaning; no button of the page is the default one.
+  m_c.cmdTradeOffClearAll->setAutoDefault(false);
+  m_c.cmdTradeOffEnter->setAutoDefault(false);
   auto* buttons = new QHBoxLayout;
   buttons->addStretch(1);
   buttons->addWidget(m_c.cmdTradeOffClearAll);

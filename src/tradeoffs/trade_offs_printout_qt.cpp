@@ -69,9 +69,11 @@ void TradeOffsPrintoutQt::render(QPainter& painter, const QRectF& page) const {
     if (height > 0) {
       painter.setFont(printFont(painter, kTextPoints, false));
       const QRectF area(page.left(), y, page.width(), height);
-      painter.setPen(QPen(Qt::gray, 0));
-      painter.drawRect(area);
+      // The chart clears its area first, so its border comes after it.
       chart(painter, area);
+      painter.setPen(QPen(Qt::gray, 0));
+      painter.setBrush(Qt::NoBrush);
+      painter.drawRect(area);
     }
   }
   painter.restore();
