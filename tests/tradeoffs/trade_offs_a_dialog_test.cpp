@@ -106,6 +106,8 @@ class TradeOffsADialogTest : public QObject {
   void helpOpensTheHostsHelpFileAtTheWizardTopic();
   void dragCursorsComeFromTheHostsIconsWhenPresent();
   void printWritesTheResultsPageAsVectorPdf();
+  void tabOrderFollowsTheLayout();
+  void mnemonicsAreUniqueOnEachPage();
 };
 
 void TradeOffsADialogTest::showsEveryNamedControlWithItsText() {
@@ -479,6 +481,66 @@ void TradeOffsADialogTest::printWritesTheResultsPageAsVectorPdf() {
   // Texts and lines are vectors: the print-out holds fonts and no bitmap.
   QVERIFY(pdf.contains("/Font"));
   QVERIFY(!pdf.contains("/Subtype /Image"));
+}
+
+void TradeOffsADialogTest::tabOrderFollowsTheLayout() {
+  auto d = open(3);
+  QApplication::setActiveWindow(d.get());
+  child<QRadioButton>(d.get(), "optPCAutomatic")->setFocus();
+  QStringList chain;
+  for (int i = 0; i < 13; ++i) {
+    chain << QApplication::focusWidget()->objectName();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  }
+  // The lists are disabled in automatic mode, and Print and Finish on this page.
+  const QStringList expected = {"optPCAutomatic",
+                                "tsComparisonApproaches",
+                                "txtTradeOffAFirstScore",
+                                "txtTradeOffASecondScore",
+                                "txtTradeOffBFirstScore",
+                                "txtTradeOffBSecondScore",
+                                "cmdTradeOffClearAll",
+                                "cmdTradeOffEnter",
+                                "cmdBack",
+                                "cmdNext",
+                                "cmdCancel",
+                                "cmdTNWizardHelp",
+                                "optPCAutomatic"};
+  QCOMPARE(chain, expected);
+  // In manual mode the lists follow the options.
+  QTest::mouseClick(child<QRadioButton>(d.get(), "optPCManual"), Qt::LeftButton);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("lstTradeOffFirstC"));
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("lstTradeOffSecondC"));
+}
+
+// The mnemonic letters of the visible, enabled buttons and buddied labels of a dialog.
+static QStringList mnemonics(QWidget* d) {
+  QStringList keys;
+  const auto add = [&keys](const QString& text) {
+    const qsizetype at = text.indexOf(QLatin1Char('&'));
+    if (at >= 0 && at + 1 < text.size()) keys << text.mid(at + 1, 1).toLower();
+  };
+  for (auto* b : d->findChildren<QAbstractButton*>()) {
+    if (b->isVisible() && b->isEnabled()) add(b->text());
+  }
+  for (auto* l : d->findChildren<QLabel*>()) {
+    if (l->isVisible() && l->buddy() != nullptr && l->buddy()->isEnabled()) add(l->text());
+  }
+  return keys;
+}
+
+void TradeOffsADialogTest::mnemonicsAreUniqueOnEachPage() {
+  auto d = open(3);
+  QTest::mouseClick(child<QRadioButton>(d.get(), "optPCManual"), Qt::LeftButton);
+  QStringList keys = mnemonics(d.get());
+  QVERIFY(keys.contains(QStringLiteral("f")) && keys.contains(QStringLiteral("e")));
+  QCOMPARE(keys.size(), QSet<QString>(keys.begin(), keys.end()).size());
+  clickButton(d.get(), "cmdNext");
+  keys = mnemonics(d.get());
+  QVERIFY(keys.contains(QStringLiteral("p")) && keys.contains(QStringLiteral("f")));
+  QCOMPARE(keys.size(), QSet<QString>(keys.begin(), keys.end()).size());
 }
 
 }  // namespace tnw
