@@ -13,6 +13,9 @@ int runModel(const std::vector<std::string>& args);
 // tnwizard value MODEL ATT SCORE...: single-attribute values with four decimals.
 int runValue(const std::vector<std::string>& args);
 
+// tnwizard show [MODEL]: the wizard on MODEL (or the built-in sample), events as JSON lines.
+int runShow(const std::vector<std::string>& args);
+
 // tnwizard direct MODEL SCENARIO.json: the direct method run headless, the result as JSON.
 int runDirect(const std::vector<std::string>& args);
 

@@ -26,6 +26,9 @@ struct Command {
 
 // Each sub-command lives in its own source file; add it here when it exists.
 constexpr Command kCommands[] = {
+#ifdef TNW_WITH_SHOW
+    {"show", runShow},
+#endif
     {"model", runModel},
     {"value", runValue},
     {"direct", runDirect},

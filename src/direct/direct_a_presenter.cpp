@@ -40,6 +40,7 @@ void DirectAPresenter::addControls() {
   c.add("cmdAdd", "&Add");
   c.add("cmdInsert", "&Insert");
   c.add("frameAttInfo", "Attribute 1's information");
+  c.add("lblNotice3", OrderingPage::kNotice);
   for (const char* name :
        {"labAttName", "labAttProperty", "txtAttDefinition", "lblRefAtt", "lblTargetAtt",
         "lblChartRefAtt", "lblChartTarAtt", "lblRefRangeLow", "lblRefRangeHigh", "lblTarRangeLow",

@@ -7,6 +7,9 @@
 
 namespace tnw {
 
+// The private MIME type under which views carry the payload of a dragged attribute button.
+inline constexpr const char* kDragMimeType = "application/x-tnwizard-attribute";
+
 // Where a dragged attribute button comes from.
 enum class DragSource {
   AttributeList,   // "A": an unplaced attribute of the list on the left

@@ -26,6 +26,11 @@ class JudgmentPage {
   // The status message sent when the target list is filled (leading blank kept).
   static constexpr const char* kIndicateMessage =
       " Indicate a value reference region on the two selected attributes.";
+  // The caption of the ratio frame and the labels around the two boxes.
+  static constexpr const char* kRatioFrameCaption = "Relative importance (weight ratio Wj/Wr)";
+  static constexpr const char* kFromLabel = "From:";
+  static constexpr const char* kToLabel = "To:";
+  static constexpr const char* kPerOneLabel = "/1";
   // The refusals of a target choice.
   static constexpr const char* kSameAttributeMessage =
       "Please choose different attributes to make pairwise comparisons!";

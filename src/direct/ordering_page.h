@@ -21,6 +21,17 @@ class OrderingPage {
   static constexpr std::uint32_t kBenefitFace = 0xC0C0FF;  // RGB 255, 192, 192
   static constexpr std::uint32_t kCostFace = 0xFFC0C0;     // RGB 192, 192, 255
 
+  // The page's fixed texts.
+  static constexpr const char* kAttributesLabel = "Attributes:";
+  static constexpr const char* kOrderLabel = "Initial importance order:";
+  static constexpr const char* kInstruction =
+      "Order relative importance of the attributes by dragging the attribute name buttons on the "
+      "left to the yellow boxes on the right.";
+  static constexpr const char* kNotice =
+      "    Notice that: (1) The attributes in the 1st group are the most important, the ones in "
+      "the 2nd group are less important relative to the 1st group, and so on. (2) The attributes "
+      "with red labels are benefit-oriented, while the ones with blue labels are cost-oriented.";
+
   // One attribute button of the list (cmdAttA(i)) or of the reference choice (cmdAttButtons(i)).
   struct AttributeButton {
     std::string caption;      // the trimmed attribute name

@@ -196,7 +196,7 @@ bool readAttributeTexts(Cursor& c, AttributeModel& m) {
       if (!c.string(&s)) return false;
     }
   }
-  return c.skip(2 * kMaxAttributes);
+  return c.skip(std::size_t{2} * kMaxAttributes);
 }
 
 bool readVariantsOver(Cursor& c, int count) {
@@ -232,10 +232,10 @@ bool readPoints(Cursor& c,
 }
 
 bool readAttributeScales(Cursor& c, AttributeModel& m) {
-  return c.skip(3 * 8 * kMaxAttributes) && readAll(c, m.AttScoreLow) &&
+  return c.skip(std::size_t{3} * 8 * kMaxAttributes) && readAll(c, m.AttScoreLow) &&
          readAll(c, m.AttScoreHigh) && c.skip(64) && readAll(c, m.NumPoints) &&
-         readPoints(c, m.PointScore) && readPoints(c, m.PointValue) && c.skip(2 * kMaxAttributes) &&
-         c.skip(992);
+         readPoints(c, m.PointScore) && readPoints(c, m.PointValue) &&
+         c.skip(std::size_t{2} * kMaxAttributes) && c.skip(992);
 }
 
 bool readPrevWeights(Cursor& c, AttributeModel& m) {

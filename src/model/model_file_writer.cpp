@@ -94,20 +94,20 @@ ModelFileImage ModelFileWriter::write(const AttributeModel& m) {
   for (const auto* texts : {&m.AttName, &m.AttDefinition, &m.AttOrientation}) {
     for (const std::string& s : *texts) out.string(s);
   }
-  out.zeros(2 * kMaxAttributes);
+  out.zeros(std::size_t{2} * kMaxAttributes);
   begin(5);
   out.emptyVariants(51 * 31);
   begin(6);
   out.zeros(12648);
   begin(7);
-  out.zeros(3 * 8 * kMaxAttributes);
+  out.zeros(std::size_t{3} * 8 * kMaxAttributes);
   out.all(m.AttScoreLow);
   out.all(m.AttScoreHigh);
   out.zeros(64);
   out.all(m.NumPoints);
   out.points(m.PointScore);
   out.points(m.PointValue);
-  out.zeros(2 * kMaxAttributes);
+  out.zeros(std::size_t{2} * kMaxAttributes);
   out.zeros(992);
   begin(8);
   out.string(m.PrevTNType);

@@ -44,6 +44,47 @@ bool allFinite(std::initializer_list<double> values) {
   return std::all_of(values.begin(), values.end(), [](double v) { return std::isfinite(v); });
 }
 
+using Points = std::array<double, kMaxPoints + 1>;
+
+// A cubic p0 + p1 d + p2 d^2 + p3 d^3 in d = score - base.
+struct Cubic {
+  double p0 = 0.0;
+  double p1 = 0.0;
+  double p2 = 0.0;
+  double p3 = 0.0;
+  double base = 0.0;
+};
+
+// The cubic of the interval that serves xEval, by Akima's rule (n >= 3); empty where the host
+// language would stop with a division by zero or an overflow.
+std::optional<Cubic> akimaCubic(const Points& x, const Points& y, int n, double xEval) {
+  const int k = findInterval(x, n, xEval);
+  auto real = [&](int j) {
+    const auto i = static_cast<std::size_t>(j);
+    return (y[i] - y[i + 1]) / (x[i] - x[i + 1]);
+  };
+  // Slopes of intervals k-2..k+2; those outside the data are extrapolated linearly.
+  auto slope = [&](int j) {
+    if (j == -1) return 2.0 * real(0) - real(1);
+    if (j == -2) return 2.0 * (2.0 * real(0) - real(1)) - real(0);
+    if (j == n - 1) return 2.0 * real(n - 2) - real(n - 3);
+    if (j == n) return 2.0 * (2.0 * real(n - 2) - real(n - 3)) - real(n - 2);
+    return real(j);
+  };
+  const double m0 = slope(k - 2);
+  const double m1 = slope(k - 1);
+  const double m2 = slope(k);
+  const double m3 = slope(k + 1);
+  const double m4 = slope(k + 2);
+  const double tLeft = akimaSlope(m0, m1, m2, m3);
+  const double tRight = akimaSlope(m1, m2, m3, m4);
+  const auto ki = static_cast<std::size_t>(k);
+  const double h = x[ki + 1] - x[ki];
+  if (!allFinite({m0, m1, m2, m3, m4, tLeft, tRight, h})) return std::nullopt;
+  return Cubic{y[ki], tLeft, (3.0 * m2 - 2.0 * tLeft - tRight) / h,
+               (tLeft + tRight - 2.0 * m2) / (h * h), x[ki]};
+}
+
 }  // namespace
 
 std::optional<GnsplValues> gnspl(std::span<const std::optional<double>> X,
@@ -54,62 +95,28 @@ std::optional<GnsplValues> gnspl(std::span<const std::optional<double>> X,
   const int n = std::min(N, available);
   if (n < 1) return R;
   // Local copies with Empty read as 0, as the host language's Variant arithmetic does.
-  std::array<double, kMaxPoints + 1> x{};
-  std::array<double, kMaxPoints + 1> y{};
+  Points x{};
+  Points y{};
   for (int i = 0; i < n; ++i) {
     x[static_cast<std::size_t>(i)] = X[static_cast<std::size_t>(i)].value_or(0.0);
     y[static_cast<std::size_t>(i)] = Y[static_cast<std::size_t>(i)].value_or(0.0);
   }
-  double p0 = y[0];
-  double p1 = 0.0;
-  double p2 = 0.0;
-  double p3 = 0.0;
-  double d = 0.0;
+  std::optional<Cubic> c = Cubic{y[0], 0.0, 0.0, 0.0, x[0]};
   if (n == 2) {
-    p1 = (y[0] - y[1]) / (x[0] - x[1]);
-    d = XEval - x[0];
+    c->p1 = (y[0] - y[1]) / (x[0] - x[1]);
   } else if (n >= 3) {
-    const int k = findInterval(x, n, XEval);
-    auto real = [&](int j) {
-      const auto i = static_cast<std::size_t>(j);
-      return (y[i] - y[i + 1]) / (x[i] - x[i + 1]);
-    };
-    // Slopes of intervals k-2..k+2; those outside the data are extrapolated linearly.
-    const double mBefore1 = 2.0 * real(0) - real(1);
-    const double mBefore2 = 2.0 * mBefore1 - real(0);
-    const double mAfter1 = 2.0 * real(n - 2) - real(n - 3);
-    const double mAfter2 = 2.0 * mAfter1 - real(n - 2);
-    auto slope = [&](int j) {
-      if (j == -2) return mBefore2;
-      if (j == -1) return mBefore1;
-      if (j == n - 1) return mAfter1;
-      if (j == n) return mAfter2;
-      return real(j);
-    };
-    const double m0 = slope(k - 2);
-    const double m1 = slope(k - 1);
-    const double m2 = slope(k);
-    const double m3 = slope(k + 1);
-    const double m4 = slope(k + 2);
-    const double tLeft = akimaSlope(m0, m1, m2, m3);
-    const double tRight = akimaSlope(m1, m2, m3, m4);
-    const auto ki = static_cast<std::size_t>(k);
-    const double h = x[ki + 1] - x[ki];
-    p0 = y[ki];
-    p1 = tLeft;
-    p2 = (3.0 * m2 - 2.0 * tLeft - tRight) / h;
-    p3 = (tLeft + tRight - 2.0 * m2) / (h * h);
-    d = XEval - x[ki];
-    if (!allFinite({m0, m1, m2, m3, m4, tLeft, tRight, h})) return std::nullopt;
+    c = akimaCubic(x, y, n, XEval);
+    if (!c) return std::nullopt;
   }
-  const double value = p0 + p1 * d + p2 * d * d + p3 * d * d * d;
-  if (!allFinite({p0, p1, p2, p3, d, value})) return std::nullopt;
+  const double d = XEval - c->base;
+  const double value = c->p0 + c->p1 * d + c->p2 * d * d + c->p3 * d * d * d;
+  if (!allFinite({c->p0, c->p1, c->p2, c->p3, d, value})) return std::nullopt;
   R[4] = value;
   if (Flag) {
-    R[0] = p0;
-    R[1] = p1;
-    R[2] = p2;
-    R[3] = p3;
+    R[0] = c->p0;
+    R[1] = c->p1;
+    R[2] = c->p2;
+    R[3] = c->p3;
   }
   return R;
 }

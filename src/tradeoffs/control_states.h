@@ -5,6 +5,9 @@
 #include <vector>
 
 namespace tnw {
+// The direct method has classes of the same names (TextBoxState, JudgmentPage) in the same
+// library; the inline namespace keeps the two apart for the linker.
+inline namespace tradeoffs {
 
 // The state of a command button as a view shows it.
 struct ButtonState {
@@ -48,6 +51,7 @@ struct PanelPoint {
   double y = 0.0;
 };
 
+}  // namespace tradeoffs
 }  // namespace tnw
 
 namespace tnw {

@@ -16,6 +16,9 @@ namespace tnw {
 struct WizardContext;
 class UiServices;
 
+// Kept apart from the direct method's JudgmentPage (see control_states.h).
+inline namespace tradeoffs {
+
 // The judgment page of the trade-off dialog: the pair of attributes, the random alternatives A
 // and B, score entry and checks, the verbal scale, and Enter recording judgments into the store
 // the regression reads. Messages go through the UI services; the view renders controls().
@@ -121,4 +124,5 @@ class JudgmentPage {
   float m_highSecond = 0.0f;
 };
 
+}  // namespace tradeoffs
 }  // namespace tnw

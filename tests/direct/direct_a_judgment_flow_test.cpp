@@ -205,20 +205,25 @@ TEST_F(JudgmentFlowTest, ResultsShowTheGridAndFinishExportsWithTheCrossedSums) {
   EXPECT_EQ(events.unloads[0].fIndex, 7);
 }
 
-TEST_F(JudgmentFlowTest, LowerOneOneUpperTwoTwoExportAQuarterOneAndFiveEighths) {
-  DirectAPresenter& p = toJudgments();
-  judge(0, "2", "2");
-  judge(3, "0.5", "1");
+TEST_F(DirectAPresenterTest, LowerOneOneUpperTwoTwoExportAQuarterOneAndFiveEighths) {
+  context = test::makeContext(2);
+  DirectAPresenter& p = load();
+  place(0, 1);
+  place(1, 2);
   p.cmdNext_Click();
+  p.cmdAttButtons_Click(1);
+  p.cmdNext_Click();
+  judge(0, "2", "2");
+  p.cmdNext_Click();
+  ASSERT_EQ(p.WizardStep(), 3);
   context.LowerWeights = {1, 1};
   context.UpperWeights = {2, 2};
-  context.model.NumAtt = 2;
-  DirectExport::Weights w;
-  ASSERT_EQ(DirectExport::compute(context.LowerWeights, context.UpperWeights, 2, w),
-            DirectExport::Outcome::Exported);
-  EXPECT_EQ(w.WeightsL, (std::vector<double>{0.25, 0.25}));
-  EXPECT_EQ(w.WeightsH, (std::vector<double>{1, 1}));
-  EXPECT_EQ(w.Weights, (std::vector<double>{0.625, 0.625}));
+  p.cmdFinish_Click();
+  ASSERT_EQ(events.exports.size(), 1u);
+  EXPECT_EQ(events.exports[0].weightsL, (std::vector<double>{0.25, 0.25}));
+  EXPECT_EQ(events.exports[0].weightsH, (std::vector<double>{1, 1}));
+  EXPECT_EQ(events.exports[0].weights, (std::vector<double>{0.625, 0.625}));
+  EXPECT_EQ(p.exported().Weights, events.exports[0].weights);
 }
 
 TEST_F(JudgmentFlowTest, EqualBoundsExportTheBoundsDividedByTheirSum) {

@@ -23,6 +23,7 @@ TEST_F(DirectAPresenterTest, LoadShowsStepZeroAndSendsTheOrderMessage) {
   EXPECT_EQ(p.control("labAttName").caption, "Att1");
   EXPECT_EQ(p.control("labAttProperty").caption, "Benefit-oriented");
   EXPECT_EQ(p.control("txtAttDefinition").caption, "Definition 1");
+  EXPECT_EQ(p.control("lblNotice3").caption.substr(0, 17), "    Notice that: ");
   EXPECT_GT(changes, 0);
 }
 

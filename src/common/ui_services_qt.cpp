@@ -1,0 +1,77 @@
+#include "common/ui_services_qt.h"
+
+// Qt
+#include <QApplication>
+#include <QGuiApplication>
+#include <QMessageBox>
+#include <QScreen>
+
+namespace tnw {
+
+namespace {
+
+QMessageBox::Icon toQtIcon(MessageIcon icon) {
+  switch (icon) {
+    case MessageIcon::Information:
+      return QMessageBox::Information;
+    case MessageIcon::Exclamation:
+      return QMessageBox::Warning;
+    case MessageIcon::Critical:
+      return QMessageBox::Critical;
+    case MessageIcon::Question:
+      break;
+  }
+  return QMessageBox::Question;
+}
+
+}  // namespace
+
+UiServicesQt::~UiServicesQt() {
+  if (m_busy && QGuiApplication::instance() != nullptr) QGuiApplication::restoreOverrideCursor();
+}
+
+void UiServicesQt::messageBox(const std::string& text, MessageIcon icon, const std::string& title) {
+  QMessageBox box(toQtIcon(icon), QString::fromStdString(title), QString::fromStdString(text),
+                  QMessageBox::Ok, QApplication::activeModalWidget());
+  box.setObjectName(QStringLiteral("NorixMessageBox"));
+  box.setTextFormat(Qt::PlainText);
+  // A busy pointer must not hide that the box waits for the user.
+  const bool busy = m_busy;
+  if (busy) setBusy(false);
+  box.exec();
+  if (busy) setBusy(true);
+}
+
+void UiServicesQt::beep() { QApplication::beep(); }
+
+void UiServicesQt::setBusy(bool busy) {
+  if (busy == m_busy || QGuiApplication::instance() == nullptr) return;
+  m_busy = busy;
+  if (busy) {
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  } else {
+    QGuiApplication::restoreOverrideCursor();
+  }
+}
+
+void UiServicesQt::showHelp(const std::string& helpFile, int context) {
+  if (m_helpHandler) {
+    m_helpHandler(helpFile, context);
+    return;
+  }
+  messageBox(defaultHelpText(helpFile, context), MessageIcon::Information, "NORIX");
+}
+
+std::string UiServicesQt::defaultHelpText(const std::string& helpFile, int context) {
+  return "No help viewer is installed. The help file \"" + helpFile + "\" would open at topic " +
+         std::to_string(context) + ".";
+}
+
+ScreenSize UiServicesQt::screenSize() const {
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  if (screen == nullptr) return {1024, 768};
+  const QSize size = screen->geometry().size();
+  return {size.width(), size.height()};
+}
+
+}  // namespace tnw

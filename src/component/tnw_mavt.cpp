@@ -1,0 +1,91 @@
+#include "component/tnw_mavt.h"
+
+#include "common/ui_services_qt.h"
+#include "component/wizard_component.h"
+#include "component/wizard_dialog_factory_qt.h"
+#include "model/model_file_reader.h"
+
+namespace tnw {
+
+// Everything a wizard object owns. It forwards the events to the host's listener and counts
+// how deep it is inside them, so that a host destroying the object from inside an event does
+// not pull the data and dialogs from under the frames still to return.
+struct TNW_MAVT::Impl : TnwMavtEvents {
+  explicit Impl(UiServices* hostUi)
+      : ownUi(hostUi == nullptr ? std::make_unique<UiServicesQt>() : nullptr),
+        ui(hostUi == nullptr ? *ownUi : *hostUi),
+        factory(ui),
+        component(factory, ui,
+                  [](const std::string& path, AttributeModel& model, UiServices& services) {
+                    OpenRelatedFileForTNW(path, model, services);
+                  }) {
+    component.setEvents(this);
+  }
+
+  void UnloadTNWizard(std::int16_t fIndex, bool WeightsDone) override {
+    Depth d(depth);
+    if (host) host->UnloadTNWizard(fIndex, WeightsDone);
+  }
+  void ExportDirectAW(const std::string& TNType, std::int16_t RefAttID,
+                      std::vector<double>& Weights, std::vector<double>& WeightsH,
+                      std::vector<double>& WeightsL) override {
+    Depth d(depth);
+    if (host) host->ExportDirectAW(TNType, RefAttID, Weights, WeightsH, WeightsL);
+  }
+  void ExportTradeOffsW(const std::string& TNType, std::vector<double>& Weights,
+                        std::vector<double>& WeightsH, std::vector<double>& WeightsL) override {
+    Depth d(depth);
+    if (host) host->ExportTradeOffsW(TNType, Weights, WeightsH, WeightsL);
+  }
+  void SendMasseges(const std::string& Msg) override {
+    Depth d(depth);
+    if (host) host->SendMasseges(Msg);
+  }
+
+  struct Depth {
+    explicit Depth(int& d) : depth(d) { ++depth; }
+    ~Depth() { --depth; }
+    Depth(const Depth&) = delete;
+    Depth& operator=(const Depth&) = delete;
+    int& depth;
+  };
+
+  std::unique_ptr<UiServicesQt> ownUi;
+  UiServices& ui;
+  WizardDialogFactoryQt factory;
+  WizardComponent component;
+  TnwMavtEvents* host = nullptr;
+  int depth = 0;
+};
+
+TNW_MAVT::TNW_MAVT() : m_impl(std::make_unique<Impl>(nullptr)) {}
+
+TNW_MAVT::TNW_MAVT(UiServices& ui) : m_impl(std::make_unique<Impl>(&ui)) {}
+
+TNW_MAVT::~TNW_MAVT() {
+  if (m_impl->depth == 0) return;
+  // Destroyed from inside one of its own events: the host gets no more events, and the rest
+  // goes once control is back in the event loop.
+  m_impl->host = nullptr;
+  Impl* impl = m_impl.release();
+  WizardDialogFactoryQt::runLater([impl] { delete impl; });
+}
+
+void TNW_MAVT::setEvents(TnwMavtEvents* events) { m_impl->host = events; }
+
+void TNW_MAVT::setHelpHandler(HelpHandler handler) {
+  if (m_impl->ownUi) m_impl->ownUi->setHelpHandler(std::move(handler));
+}
+
+void TNW_MAVT::GetCurFileData(std::string& NorixDir, std::int16_t FileIndex,
+                              const std::string& PathAndFileName) {
+  m_impl->component.GetCurFileData(NorixDir, FileIndex, PathAndFileName);
+}
+
+void TNW_MAVT::ShowTNWizard() { m_impl->component.ShowTNWizard(); }
+
+void TNW_MAVT::UnloadTNWizard() { m_impl->component.UnloadTNWizard(); }
+
+const WizardContext& TNW_MAVT::context() const { return m_impl->component.context(); }
+
+}  // namespace tnw

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "common/ui_services.h"
+#include "component/wizard_component.h"
+#include "component/wizard_dialog_factory.h"
+
+// Std
+#include <memory>
+
+namespace tnw {
+
+class MessageWindow;
+
+// What the automation server builds each component object from: the dialogs, the UI services
+// and the reader of the host's model file. The DLL is linked with one backend: the Qt dialogs
+// where a Windows Qt is available, the scripted dialogs of the test build otherwise.
+class DialogBackend {
+ public:
+  virtual ~DialogBackend() = default;
+
+  // Makes and releases the component's dialogs.
+  virtual WizardDialogFactory& factory() = 0;
+  // Message boxes, beep, busy pointer, help and screen size.
+  virtual UiServices& ui() = 0;
+  // Reads the host's model file for GetCurFileData.
+  virtual WizardComponent::ModelReader modelReader() = 0;
+};
+
+// The backend this DLL was built with, acting from window's message loop; null if none can be
+// made. Defined by the backend's own source file.
+std::unique_ptr<DialogBackend> makeDialogBackend(MessageWindow& window);
+
+}  // namespace tnw

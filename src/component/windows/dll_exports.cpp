@@ -1,0 +1,35 @@
+// The four entry points of an in-process COM server, and DllMain.
+#include "component/windows/class_factory.h"
+#include "component/windows/server_module.h"
+#include "component/windows/server_registration.h"
+#include "component/windows/tnwizard_mavt_h.h"
+
+// Windows
+#include <windows.h>
+
+extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
+  if (reason == DLL_PROCESS_ATTACH) {
+    tnw::ServerModule::setInstance(instance);
+    DisableThreadLibraryCalls(instance);
+  }
+  return TRUE;
+}
+
+extern "C" HRESULT STDAPICALLTYPE DllGetClassObject(REFCLSID clsid, REFIID iid, void** object) {
+  if (!object) return E_POINTER;
+  *object = nullptr;
+  if (!IsEqualCLSID(clsid, CLSID_TNW_MAVT)) return CLASS_E_CLASSNOTAVAILABLE;
+  return tnw::ClassFactory::instance().QueryInterface(iid, object);
+}
+
+extern "C" HRESULT STDAPICALLTYPE DllCanUnloadNow() {
+  return tnw::ServerModule::canUnload() ? S_OK : S_FALSE;
+}
+
+extern "C" HRESULT STDAPICALLTYPE DllRegisterServer() {
+  return tnw::ServerRegistration::registerServer();
+}
+
+extern "C" HRESULT STDAPICALLTYPE DllUnregisterServer() {
+  return tnw::ServerRegistration::unregisterServer();
+}

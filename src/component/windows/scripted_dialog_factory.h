@@ -1,0 +1,54 @@
+#pragma once
+
+#include "common/ui_services.h"
+#include "component/wizard_dialog_factory.h"
+
+// Std
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace tnw {
+
+class MessageWindow;
+class ScriptedScenario;
+class ScriptedTrace;
+
+// Makes the scripted test dialogs and releases them from the message loop, never inside one of
+// their own handlers.
+class ScriptedDialogFactory : public WizardDialogFactory {
+ public:
+  // A factory whose dialogs play scenario, show messages through ui and act from window.
+  ScriptedDialogFactory(ScriptedScenario& scenario, UiServices& ui, MessageWindow& window,
+                        const ScriptedTrace& trace);
+  // Destroys the dialogs released and not destroyed yet.
+  ~ScriptedDialogFactory() override;
+
+  // A new, loaded frmTNWSelMethod.
+  std::unique_ptr<WizardDialog> createSelMethod(WizardContext& context,
+                                                SelMethodEvents& events) override;
+  // A new frmDirectA.
+  std::unique_ptr<WizardDialog> createDirectA(WizardContext& context,
+                                              DirectAEvents& events) override;
+  // A new frmTradeOffsA.
+  std::unique_ptr<WizardDialog> createTradeOffsA(WizardContext& context,
+                                                 TradeOffsAEvents& events) override;
+  // Traces "<name> released" and destroys the dialog from the message loop.
+  void release(std::unique_ptr<WizardDialog> dialog) override;
+
+ private:
+  std::string nextName(const std::string& form);
+  void destroyReleased();
+
+  ScriptedScenario& m_scenario;
+  UiServices& m_ui;
+  MessageWindow& m_window;
+  const ScriptedTrace& m_trace;
+  std::map<std::string, int> m_created;
+  std::vector<std::unique_ptr<WizardDialog>> m_released;
+  // Lets a queued destruction find out that the factory is gone.
+  std::shared_ptr<ScriptedDialogFactory*> m_self;
+};
+
+}  // namespace tnw

@@ -1,0 +1,39 @@
+#pragma once
+
+// Std
+#include <deque>
+#include <string>
+
+// nlohmann
+#include <nlohmann/json.hpp>
+
+namespace tnw {
+
+class ScriptedTrace;
+
+// What the scripted test dialogs do, read from the JSON file TNW_SCRIPTED_SCENARIO names:
+//   {"selMethod": ["Direct" | "TradeOffs" | "Next" | "Cancel" | "Help", ...],
+//    "direct":    [run, ...],
+//    "tradeOffs": [run, ...]}
+// The selection dialog takes the next "selMethod" entry each time it is shown; each direct or
+// trade-off dialog made takes the next run of its list. A dialog with nothing left waits, as a
+// user who does nothing.
+class ScriptedScenario {
+ public:
+  // Reads the scenario; a missing or unreadable file gives an empty one (traced).
+  explicit ScriptedScenario(const ScriptedTrace& trace);
+
+  // The selection dialog's next action; empty when none is left.
+  std::string nextSelMethodAction();
+  // The next direct-method run; null when none is left.
+  nlohmann::json nextDirectRun();
+  // The next trade-off run; null when none is left.
+  nlohmann::json nextTradeOffsRun();
+
+ private:
+  std::deque<std::string> m_selMethod;
+  std::deque<nlohmann::json> m_direct;
+  std::deque<nlohmann::json> m_tradeOffs;
+};
+
+}  // namespace tnw

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "component/windows/scripted_dialog.h"
+#include "selmethod/sel_method_presenter.h"
+
+namespace tnw {
+
+class ScriptedScenario;
+struct WizardContext;
+
+// frmTNWSelMethod in the scripted test build: the method-selection presenter, loaded on
+// creation, driven by the scenario's "selMethod" actions each time the dialog is shown.
+class ScriptedSelMethodDialog : public ScriptedDialog {
+ public:
+  // A loaded selection dialog (loading sends its status text through events).
+  ScriptedSelMethodDialog(std::string name, WizardContext& context, SelMethodEvents& events,
+                          UiServices& ui, ScriptedScenario& scenario, MessageWindow& window,
+                          const ScriptedTrace& trace);
+
+ protected:
+  // Activates the dialog and plays the next action: "Direct" or "TradeOffs" selects that item
+  // and presses Next, "Next" presses Next as preselected, "Cancel" presses Cancel, "Help"
+  // presses Help and goes on with the next action.
+  void act() override;
+
+ private:
+  SelMethodPresenter m_presenter;
+  ScriptedScenario& m_scenario;
+};
+
+}  // namespace tnw

@@ -1,0 +1,25 @@
+#include "component/windows/scripted_trace.h"
+
+// Windows
+#include <windows.h>
+
+namespace tnw {
+
+ScriptedTrace::ScriptedTrace() {
+  wchar_t buffer[MAX_PATH] = {};
+  const DWORD length = GetEnvironmentVariableW(L"TNW_SCRIPTED_TRACE", buffer, MAX_PATH);
+  if (length > 0 && length < MAX_PATH) m_path.assign(buffer, length);
+}
+
+void ScriptedTrace::write(const std::string& line) const {
+  if (m_path.empty()) return;
+  HANDLE file = CreateFileW(m_path.c_str(), FILE_APPEND_DATA, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                            nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return;
+  const std::string text = line + "\n";
+  DWORD written = 0;
+  WriteFile(file, text.data(), DWORD(text.size()), &written, nullptr);
+  CloseHandle(file);
+}
+
+}  // namespace tnw

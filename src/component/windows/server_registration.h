@@ -1,0 +1,25 @@
+#pragma once
+
+// Windows
+#include <windows.h>
+
+namespace tnw {
+
+// The registry entries of the server: the class TNW_MAVT under CLSID with its in-process server
+// (apartment-threaded), the ProgID "TNWizard_MAVT.TNW_MAVT", and the type library with its
+// interfaces. Both directions are idempotent: registering again rewrites the same entries,
+// unregistering what is not there succeeds.
+class ServerRegistration {
+ public:
+  // The ProgID hosts create the component by.
+  static constexpr const wchar_t* kProgId = L"TNWizard_MAVT.TNW_MAVT";
+  // The class's display name.
+  static constexpr const wchar_t* kClassName = L"TNW_MAVT";
+
+  // DllRegisterServer: writes every entry; on failure removes what it wrote.
+  static HRESULT registerServer();
+  // DllUnregisterServer: removes every entry.
+  static HRESULT unregisterServer();
+};
+
+}  // namespace tnw

@@ -1,0 +1,62 @@
+#include "component/wizard_dialog_factory_qt.h"
+
+#include "common/ui_services.h"
+#include "component/wizard_dialog_qt.h"
+#include "direct/direct_a_dialog.h"
+#include "selmethod/sel_method_dialog.h"
+
+// Qt
+#include <QApplication>
+#include <QTimer>
+#include <QtGlobal>
+
+namespace tnw {
+
+WizardDialogFactoryQt::WizardDialogFactoryQt(UiServices& ui) : m_ui(ui) {}
+
+bool WizardDialogFactoryQt::haveApplication() const {
+  // Widgets made without a QApplication would abort the host's process.
+  if (qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr) return true;
+  qWarning("TNW_MAVT: the wizard needs a QApplication; no dialog is shown");
+  return false;
+}
+
+std::unique_ptr<WizardDialog> WizardDialogFactoryQt::createSelMethod(WizardContext& context,
+                                                                     SelMethodEvents& events) {
+  if (!haveApplication()) return nullptr;
+  return std::make_unique<SelMethodDialog>(context, m_ui, events);
+}
+
+std::unique_ptr<WizardDialog> WizardDialogFactoryQt::createDirectA(WizardContext& context,
+                                                                   DirectAEvents& events) {
+  if (!haveApplication()) return nullptr;
+  return std::make_unique<DirectADialog>(context, m_ui, events);
+}
+
+std::unique_ptr<WizardDialog> WizardDialogFactoryQt::createTradeOffsA(WizardContext& context,
+                                                                      TradeOffsAEvents& events) {
+  static_cast<void>(context);
+  static_cast<void>(events);
+  if (!haveApplication()) return nullptr;
+  m_ui.messageBox(kNotAvailable, MessageIcon::Information, "NORIX");
+  return nullptr;
+}
+
+void WizardDialogFactoryQt::release(std::unique_ptr<WizardDialog> dialog) {
+  if (!dialog) return;
+  auto* widget = dynamic_cast<WizardDialogQt*>(dialog.get());
+  if (widget == nullptr) return;  // not one of ours: destroyed here by the unique_ptr
+  static_cast<void>(dialog.release());
+  widget->deleteLater();
+}
+
+void WizardDialogFactoryQt::runLater(std::function<void()> work) {
+  QCoreApplication* app = QCoreApplication::instance();
+  if (app == nullptr) {
+    work();
+    return;
+  }
+  QTimer::singleShot(0, app, std::move(work));
+}
+
+}  // namespace tnw

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "component/wizard_dialog.h"
+
+// Qt
+#include <QDialog>
+
+namespace tnw {
+
+// The base of the wizard's Qt dialogs: a QDialog that the component can show modeless or modal
+// (without a nested event loop), hide, measure and move. The close box and Escape do what the
+// dialog's Cancel does; the dialog never closes itself.
+class WizardDialogQt : public QDialog, public WizardDialog {
+  Q_OBJECT
+
+ public:
+  // A top-level dialog without an owner, as the component shows its dialogs.
+  explicit WizardDialogQt(QWidget* parent = nullptr);
+
+  // Shows the dialog modeless and brings it to the front.
+  void showModeless() override;
+  // Shows the dialog application-modal and returns at once.
+  void showModal() override;
+  // Shows or hides the dialog, keeping its modality.
+  void setDialogVisible(bool visible) override;
+  // Whether the dialog is visible.
+  bool dialogVisible() const override;
+  // The outer size, window frame included once the dialog has one.
+  ScreenSize dialogSize() const override;
+  // Moves the outer top-left corner.
+  void moveDialog(int left, int top) override;
+
+  // Escape: the same as the close box.
+  void reject() override;
+
+ protected:
+  // What the close box and Escape do; the dialogs run their Cancel handler.
+  virtual void closeRequested() = 0;
+  // Runs each time the dialog becomes the active window.
+  virtual void activated() {}
+
+  void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void showWithModality(Qt::WindowModality modality);
+};
+
+}  // namespace tnw

@@ -1,0 +1,56 @@
+#pragma once
+
+// Qt
+#include <QColor>
+#include <QPoint>
+#include <QPushButton>
+#include <QString>
+
+namespace tnw {
+
+// An attribute's button (cmdAttA, cmdAttB, cmdAttButtons, cmdAttBtn): a flat push button in the
+// attribute's orientation colour that shows the attribute's name and, when draggable, starts a
+// drag carrying its tag ("A3", "B3") under the private attribute MIME type.
+class AttributeButtonWidget : public QPushButton {
+  Q_OBJECT
+
+ public:
+  // A button named objectName with the control-array index in its "index" property.
+  AttributeButtonWidget(const QString& objectName, int index, QWidget* parent = nullptr);
+
+  // The control-array index of the button.
+  int index() const { return m_index; }
+  // Sets the tag the button carries ("A" or "B" followed by the attribute index).
+  void setTag(const QString& tag);
+  // The tag the button carries.
+  QString tag() const { return m_tag; }
+  // The attribute the button stands for (the number after the tag's first letter), -1 if none.
+  int attribute() const;
+  // Whether pressing and moving the mouse starts a drag.
+  void setDraggable(bool draggable) { m_draggable = draggable; }
+  // Sets the face colour (light red for benefit-, light blue for cost-oriented attributes).
+  void setFaceColour(const QColor& colour);
+  // The face colour.
+  QColor faceColour() const { return m_face; }
+  // Shows the button as the chosen one (a heavier frame), or not.
+  void setMarked(bool marked);
+
+  QSize sizeHint() const override;
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+
+ private:
+  void applyStyle();
+
+  int m_index = 0;
+  QString m_tag;
+  bool m_draggable = false;
+  QColor m_face{255, 192, 192};
+  bool m_marked = false;
+  QPoint m_pressPos;
+  bool m_pressed = false;
+};
+
+}  // namespace tnw

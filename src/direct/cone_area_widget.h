@@ -1,0 +1,75 @@
+#pragma once
+
+// Qt
+#include <QPointF>
+#include <QPolygonF>
+#include <QWidget>
+
+// Std
+#include <array>
+
+class QFrame;
+
+namespace tnw {
+
+// The square drawing area of the judgment page (picTradeOffsRange): paints the preference cone
+// it is given and carries the two draggable handles (picHandle). It computes nothing: positions
+// come in and go out in the area's own units (side S, y from the top edge), and the widget only
+// maps them to its pixels, so it may be drawn at any size.
+class ConeAreaWidget : public QWidget {
+  Q_OBJECT
+
+ public:
+  // An empty area with both handles at the bottom-left corner.
+  explicit ConeAreaWidget(QWidget* parent = nullptr);
+
+  // Sets the side S of the area in its own units (the unit the handle positions are given in).
+  void setAreaSide(double side);
+  // The side S of the area in its own units.
+  double areaSide() const { return m_side; }
+  // Places handle 0 or 1 (its centre) at a point given in area units.
+  void setHandlePosition(int index, QPointF areaPoint);
+  // The centre of handle 0 or 1 in area units.
+  QPointF handlePosition(int index) const;
+  // Sets the triangle to fill (area units); an empty polygon clears the drawing.
+  void setCone(const QPolygonF& areaPolygon);
+  // The triangle being drawn, in area units.
+  const QPolygonF& cone() const { return m_cone; }
+  // Shows or hides both handles.
+  void setHandlesVisible(bool visible);
+  // The handle widget 0 or 1 (for tests and accessibility).
+  QFrame* handle(int index) const;
+  // Maps a point in area units to the widget's pixels and back.
+  QPointF toPixels(QPointF areaPoint) const;
+  QPointF toArea(QPointF pixelPoint) const;
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+  bool hasHeightForWidth() const override { return true; }
+  int heightForWidth(int width) const override { return width; }
+
+ signals:
+  // A handle is being dragged to a new centre (area units, kept inside the area).
+  void handleDragged(int index, QPointF areaPoint);
+  // The mouse let go of a handle.
+  void handleReleased(int index);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void layoutHandles();
+  double scale() const;
+  QRectF squareRect() const;
+
+  double m_side = 100.0;
+  std::array<QPointF, 2> m_handlePos{};
+  std::array<QFrame*, 2> m_handles{};
+  QPolygonF m_cone;
+  int m_dragging = -1;
+  QPointF m_grabOffset;
+};
+
+}  // namespace tnw

@@ -1,0 +1,265 @@
+#include "direct/direct_a_dialog.h"
+
+#include "direct/cone_area_widget.h"
+#include "direct/direct_judgment_page_widget.h"
+#include "direct/direct_order_page_widget.h"
+#include "direct/direct_reference_page_widget.h"
+#include "direct/direct_results_page_widget.h"
+#include "direct/orientation_images_qt.h"
+#include "direct/ratio_box_filter_qt.h"
+
+// Qt
+#include <QComboBox>
+#include <QFrame>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QKeySequence>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QShortcut>
+#include <QStackedWidget>
+#include <QTextEdit>
+#include <QVBoxLayout>
+
+namespace tnw {
+namespace {
+
+QPushButton* makeButton(const char* name, QWidget* parent) {
+  auto* button = new QPushButton(parent);
+  button->setObjectName(QString::fromUtf8(name));
+  button->setAutoDefault(false);
+  return button;
+}
+
+QLabel* makeLabel(const char* name, QWidget* parent) {
+  auto* label = new QLabel(parent);
+  label->setObjectName(QString::fromUtf8(name));
+  label->setTextFormat(Qt::PlainText);
+  return label;
+}
+
+}  // namespace
+
+DirectADialog::DirectADialog(WizardContext& context, UiServices& ui, DirectAEvents& events,
+                             QWidget* parent)
+    : WizardDialogQt(parent), m_context(context), m_presenter(context, ui, events) {
+  setObjectName(QStringLiteral("frmDirectA"));
+  setWindowTitle(QString::fromUtf8(DirectAPresenter::kDesignCaption));
+  setSizeGripEnabled(true);
+
+  m_stack = new QStackedWidget(this);
+  m_orderPage = new DirectOrderPageWidget(m_stack);
+  m_referencePage = new DirectReferencePageWidget(m_stack);
+  m_judgmentPage = new DirectJudgmentPageWidget(m_stack);
+  m_resultsPage = new DirectResultsPageWidget(m_stack);
+  for (QWidget* page :
+       {static_cast<QWidget*>(m_orderPage), static_cast<QWidget*>(m_referencePage),
+        static_cast<QWidget*>(m_judgmentPage), static_cast<QWidget*>(m_resultsPage)}) {
+    m_stack->addWidget(page);
+  }
+  auto* line = new QFrame(this);
+  line->setFrameShape(QFrame::HLine);
+  line->setFrameShadow(QFrame::Sunken);
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(buildHeader());
+  layout->addWidget(m_stack, 1);
+  layout->addWidget(line);
+  layout->addLayout(buildButtons());
+
+  m_ratioFilter = new RatioBoxFilter(
+      m_presenter, m_judgmentPage->lowerBox(), m_judgmentPage->upperBox(),
+      [this] { applyFocusRequest(); }, this);
+  connectOrderPage();
+  connectReferencePage();
+  connectJudgmentPage();
+  connectButtons();
+  m_timer.setObjectName(QStringLiteral("Timer1"));
+  connect(&m_timer, &QTimer::timeout, this, [this] { m_presenter.Timer1_Timer(); });
+
+  m_presenter.setChangeListener([this] { render(); });
+  m_presenter.Form_Load();
+  render();
+  resize(sizeHint().expandedTo(QSize(860, 600)));
+}
+
+DirectADialog::~DirectADialog() {
+  // The presenter outlives the widgets' last signals only if it stops calling back first.
+  m_presenter.setChangeListener({});
+  m_timer.stop();
+}
+
+QWidget* DirectADialog::buildHeader() {
+  m_header = new QWidget(this);
+  m_header->setObjectName(QStringLiteral("picRefHeader"));
+  auto* caption = new QLabel(tr("Reference attribute (Wr):"), m_header);
+  m_refImage = makeLabel("imgRefAtt", m_header);
+  m_refImage->setFixedSize(32, 32);
+  QLabel* name = makeLabel("lblRefAtt", m_header);
+  QFont bold = name->font();
+  bold.setBold(true);
+  name->setFont(bold);
+  m_refRange = new QWidget(m_header);
+  auto* range = new QHBoxLayout(m_refRange);
+  range->setContentsMargins(0, 0, 0, 0);
+  range->addWidget(new QLabel(tr("Score range:"), m_refRange));
+  range->addWidget(makeLabel("lblRefRangeLow", m_refRange));
+  range->addWidget(new QLabel(tr("to"), m_refRange));
+  range->addWidget(makeLabel("lblRefRangeHigh", m_refRange));
+  auto* row = new QHBoxLayout(m_header);
+  row->setContentsMargins(0, 0, 0, 4);
+  row->addWidget(caption);
+  row->addWidget(m_refImage);
+  row->addWidget(name, 1);
+  row->addWidget(m_refRange);
+  return m_header;
+}
+
+QLayout* DirectADialog::buildButtons() {
+  m_cmdBack = makeButton("cmdBack", this);
+  m_cmdNext = makeButton("cmdNext", this);
+  m_cmdFinish = makeButton("cmdFinish", this);
+  m_cmdCancel = makeButton("cmdCancel", this);
+  m_cmdHelp = makeButton("cmdHelp", this);
+  m_cmdNext->setDefault(true);
+  auto* buttons = new QHBoxLayout;
+  buttons->addWidget(m_cmdHelp);
+  buttons->addStretch(1);
+  buttons->addWidget(m_cmdBack);
+  buttons->addWidget(m_cmdNext);
+  buttons->addSpacing(8);
+  buttons->addWidget(m_cmdFinish);
+  buttons->addWidget(m_cmdCancel);
+  return buttons;
+}
+
+void DirectADialog::connectOrderPage() {
+  DirectOrderPageWidget* page = m_orderPage;
+  DirectAPresenter& p = m_presenter;
+  connect(
+      page, &DirectOrderPageWidget::droppedOnGroup, this,
+      [&p](int group, const QByteArray& tag) { p.picOrder_DragDrop(group, tag.toStdString()); });
+  connect(page, &DirectOrderPageWidget::droppedOnPlaced, this,
+          [&p](int att, const QByteArray& tag) { p.cmdAttB_DragDrop(att, tag.toStdString()); });
+  connect(page, &DirectOrderPageWidget::draggedOverList, this,
+          [&p](const QByteArray& tag) { p.lblAttName_DragOver(tag.toStdString()); });
+  connect(page, &DirectOrderPageWidget::groupClicked, this,
+          [&p](int group) { p.picOrder_Click(group); });
+  connect(page, &DirectOrderPageWidget::placedClicked, this,
+          [&p](int att) { p.cmdAttB_Click(att); });
+  connect(page, &DirectOrderPageWidget::attributeInfoRequested, this,
+          [&p](int att) { p.optAttInfo_Click(att); });
+  connect(page, &DirectOrderPageWidget::addClicked, this, [&p] { p.cmdAdd_Click(); });
+  connect(page, &DirectOrderPageWidget::insertClicked, this, [&p] { p.cmdInsert_Click(); });
+}
+
+void DirectADialog::connectReferencePage() {
+  connect(m_referencePage, &DirectReferencePageWidget::attributeClicked, this,
+          [this](int i) { m_presenter.cmdAttButtons_Click(i); });
+}
+
+void DirectADialog::connectJudgmentPage() {
+  DirectJudgmentPageWidget* page = m_judgmentPage;
+  connect(page->targetList(), &QComboBox::activated, this,
+          [this](int i) { m_presenter.imgcmbTargetAtt_Click(i); });
+  connect(page->coneArea(), &ConeAreaWidget::handleDragged, this, [this](int index, QPointF pt) {
+    m_presenter.picHandle_Drag(index, static_cast<float>(pt.x()), static_cast<float>(pt.y()));
+  });
+  connect(page->enterButton(), &QPushButton::clicked, this,
+          [this] { m_presenter.cmdEnter_Click(); });
+  connect(page->restartButton(), &QPushButton::clicked, this,
+          [this] { m_presenter.cmdReStart_Click(); });
+}
+
+void DirectADialog::connectButtons() {
+  connect(m_cmdBack, &QPushButton::clicked, this, [this] { m_presenter.cmdBack_Click(); });
+  connect(m_cmdNext, &QPushButton::clicked, this, [this] { m_presenter.cmdNext_Click(); });
+  connect(m_cmdFinish, &QPushButton::clicked, this, [this] { m_presenter.cmdFinish_Click(); });
+  connect(m_cmdCancel, &QPushButton::clicked, this, [this] { m_presenter.cmdCancel_Click(); });
+  connect(m_cmdHelp, &QPushButton::clicked, this, [this] { m_presenter.cmdHelp_Click(); });
+  auto* help = new QShortcut(QKeySequence::HelpContents, this);
+  connect(help, &QShortcut::activated, this, [this] { m_presenter.cmdHelp_Click(); });
+}
+
+void DirectADialog::closeRequested() { m_presenter.cmdCancel_Click(); }
+
+void DirectADialog::render() {
+  // A render can set off another change (a focus move runs a check); that one renders after.
+  if (m_rendering) {
+    m_renderAgain = true;
+    return;
+  }
+  m_rendering = true;
+  do {
+    m_renderAgain = false;
+    const int step = m_presenter.WizardStep();
+    setWindowTitle(QString::fromStdString(m_presenter.caption()));
+    m_orderPage->render(m_presenter);
+    if (step >= 1) m_referencePage->render(m_presenter, m_context);
+    if (step >= 2) m_judgmentPage->render(m_presenter, m_context);
+    if (step == 3) m_resultsPage->render(m_presenter.grid());
+    renderControls();
+    renderHeader();
+    if (m_stack->currentIndex() != step) m_stack->setCurrentIndex(step);
+    const int interval = m_presenter.timerInterval();
+    if (interval <= 0) {
+      m_timer.stop();
+    } else if (!m_timer.isActive() || m_timer.interval() != interval) {
+      m_timer.start(interval);
+    }
+  } while (m_renderAgain);
+  m_rendering = false;
+}
+
+void DirectADialog::renderControls() {
+  const ControlRegistry& controls = m_presenter.controls();
+  for (const std::string& name : controls.names()) {
+    if (name == "frmDirectA" || name == "picIndicator") continue;
+    QWidget* w = findChild<QWidget*>(QString::fromStdString(name));
+    if (w == nullptr) continue;
+    const ControlState& state = controls.control(name);
+    const QString caption = QString::fromStdString(state.caption);
+    if (auto* button = qobject_cast<QAbstractButton*>(w)) {
+      if (button->text() != caption) button->setText(caption);
+      button->setVisible(state.visible);
+    } else if (name.rfind("img", 0) == 0) {
+      if (w->property("image").toString() != caption) {
+        w->setProperty("image", caption);
+        if (auto* label = qobject_cast<QLabel*>(w))
+          label->setPixmap(orientationPixmap(caption, 32));
+      }
+    } else if (auto* label = qobject_cast<QLabel*>(w)) {
+      if (label->text() != caption) label->setText(caption);
+    } else if (auto* text = qobject_cast<QTextEdit*>(w)) {
+      if (text->toPlainText() != caption) text->setPlainText(caption);
+    } else if (auto* box = qobject_cast<QGroupBox*>(w)) {
+      box->setTitle(caption);
+    }
+    w->setEnabled(state.enabled);
+  }
+}
+
+void DirectADialog::renderHeader() {
+  const int step = m_presenter.WizardStep();
+  m_header->setVisible(step == 1 || step == 2);
+  m_refImage->setVisible(step == 2);
+  m_refRange->setVisible(step == 2);
+}
+
+void DirectADialog::applyFocusRequest() {
+  if (m_presenter.WizardStep() != 2) return;
+  const std::string& name = m_presenter.judgment().focus();
+  if (name.empty()) return;
+  QWidget* target = findChild<QWidget*>(QString::fromStdString(name));
+  if (target == nullptr || target == focusWidget() || !target->isVisible()) return;
+  m_ratioFilter->setRestoringFocus(true);
+  target->setFocus(Qt::OtherFocusReason);
+  m_ratioFilter->setRestoringFocus(false);
+  if (auto* edit = qobject_cast<QLineEdit*>(target)) {
+    const auto box =
+        edit == m_judgmentPage->lowerBox() ? JudgmentPage::Box::Lower : JudgmentPage::Box::Upper;
+    RatioBoxFilter::showBoxState(edit, m_presenter.judgment().box(box));
+  }
+}
+
+}  // namespace tnw

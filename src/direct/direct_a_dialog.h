@@ -1,0 +1,77 @@
+#pragma once
+
+#include "component/wizard_dialog_qt.h"
+#include "direct/direct_a_presenter.h"
+
+// Qt
+#include <QTimer>
+
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QStackedWidget;
+
+namespace tnw {
+
+class DirectJudgmentPageWidget;
+class DirectOrderPageWidget;
+class DirectReferencePageWidget;
+class DirectResultsPageWidget;
+class RatioBoxFilter;
+
+// frmDirectA: the direct method's four steps as a Qt dialog over DirectAPresenter. The dialog
+// holds the widgets, hands every user action to one presenter operation and renders the
+// presenter's state after each change. Every control's objectName is its given name.
+class DirectADialog : public WizardDialogQt {
+  Q_OBJECT
+
+ public:
+  // Builds and loads the dialog: the presenter's Form_Load runs here, so the load message
+  // reaches events before the constructor returns.
+  DirectADialog(WizardContext& context, UiServices& ui, DirectAEvents& events,
+                QWidget* parent = nullptr);
+  ~DirectADialog() override;
+
+  // The presenter behind the dialog.
+  const DirectAPresenter& presenter() const { return m_presenter; }
+  // Timer1, which blinks the indicator and the status lamps.
+  const QTimer& timer() const { return m_timer; }
+
+ protected:
+  // The close box and Escape do what Cancel does.
+  void closeRequested() override;
+
+ private:
+  QWidget* buildHeader();
+  QLayout* buildButtons();
+  void connectOrderPage();
+  void connectReferencePage();
+  void connectJudgmentPage();
+  void connectButtons();
+  void render();
+  void renderControls();
+  void renderHeader();
+  void applyFocusRequest();
+
+  WizardContext& m_context;
+  DirectAPresenter m_presenter;
+  QTimer m_timer;
+  QStackedWidget* m_stack = nullptr;
+  QWidget* m_header = nullptr;
+  QLabel* m_refImage = nullptr;
+  QWidget* m_refRange = nullptr;
+  DirectOrderPageWidget* m_orderPage = nullptr;
+  DirectReferencePageWidget* m_referencePage = nullptr;
+  DirectJudgmentPageWidget* m_judgmentPage = nullptr;
+  DirectResultsPageWidget* m_resultsPage = nullptr;
+  RatioBoxFilter* m_ratioFilter = nullptr;
+  QPushButton* m_cmdBack = nullptr;
+  QPushButton* m_cmdNext = nullptr;
+  QPushButton* m_cmdFinish = nullptr;
+  QPushButton* m_cmdCancel = nullptr;
+  QPushButton* m_cmdHelp = nullptr;
+  bool m_rendering = false;
+  bool m_renderAgain = false;
+};
+
+}  // namespace tnw

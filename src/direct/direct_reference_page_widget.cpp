@@ -1,0 +1,103 @@
+#include "direct/direct_reference_page_widget.h"
+
+#include "direct/attribute_button_widget.h"
+#include "direct/direct_a_presenter.h"
+#include "direct/direct_view_colours_qt.h"
+#include "direct/indicator_widget.h"
+
+// Qt
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace tnw {
+
+DirectReferencePageWidget::DirectReferencePageWidget(QWidget* parent) : QWidget(parent) {
+  setObjectName(QStringLiteral("picStep1"));
+  auto* instruction = new QLabel(
+      tr("Click the attribute that the other attributes are to be compared with."), this);
+  instruction->setObjectName(QStringLiteral("lblRefInstruction"));
+  instruction->setWordWrap(true);
+
+  auto* frame = new QGroupBox(tr("Importance order:"), this);
+  frame->setObjectName(QStringLiteral("picOrderFrame"));
+  m_order = new FinalOrderWidget(
+      {QStringLiteral("picOFrame"), QStringLiteral("picOP"), QStringLiteral("picO"),
+       QStringLiteral("lblOID"), QStringLiteral("cmdAttButtons"), QStringLiteral("vsrO")},
+      frame);
+  auto* frameLayout = new QVBoxLayout(frame);
+  frameLayout->addWidget(m_order);
+  connect(m_order, &FinalOrderWidget::attributeClicked, this,
+          &DirectReferencePageWidget::attributeClicked);
+
+  m_indicator = new IndicatorWidget(this);
+  m_indicator->hide();
+
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(instruction);
+  layout->addWidget(frame, 1);
+}
+
+void DirectReferencePageWidget::setAttributes(
+    const QVector<FinalOrderWidget::AttributeFace>& attributes) {
+  // The indicator lives on the chosen button; take it back before the buttons go.
+  m_indicator->setParent(this);
+  m_indicator->hide();
+  m_reference = -1;
+  m_order->setAttributes(attributes);
+}
+
+void DirectReferencePageWidget::setOrder(int groupCount, const QVector<int>& groupOf) {
+  m_order->setOrder(groupCount, groupOf);
+}
+
+void DirectReferencePageWidget::setReference(int i) {
+  if (AttributeButtonWidget* old = m_order->button(m_reference)) old->setMarked(false);
+  m_reference = i;
+  AttributeButtonWidget* chosen = m_order->button(i);
+  if (chosen == nullptr) {
+    m_indicator->setParent(this);
+    m_indicator->hide();
+    return;
+  }
+  chosen->setMarked(true);
+  m_indicator->setParent(chosen);
+  m_indicator->move(6, (chosen->sizeHint().height() - m_indicator->height()) / 2);
+  m_indicator->show();
+}
+
+void DirectReferencePageWidget::setIndicatorColour(const QColor& colour) {
+  m_indicator->setFillColour(colour);
+}
+
+void DirectReferencePageWidget::render(const DirectAPresenter& presenter,
+                                       const WizardContext& context) {
+  const int n = static_cast<int>(presenter.ordering().attributeButtons().size());
+  QVector<FinalOrderWidget::AttributeFace> faces;
+  for (int i = 0; i < n; ++i) {
+    const auto b = presenter.ordering().referenceButton(i);
+    faces.append({QString::fromStdString(b.caption), colourFromBgr(b.faceColor)});
+  }
+  const bool rebuilt = faces != m_faces;
+  if (rebuilt) {
+    m_faces = faces;
+    setAttributes(faces);
+  }
+  QVector<int> groupOf(n, 0);
+  for (int k = 1; k <= context.FinalGroupCount; ++k) {
+    for (const int i : presenter.finalGroup(k)) {
+      if (i >= 0 && i < n) groupOf[i] = k;
+    }
+  }
+  if (rebuilt || groupOf != m_groupOf || context.FinalGroupCount != m_order->groupCount()) {
+    m_groupOf = groupOf;
+    setOrder(context.FinalGroupCount, groupOf);
+  }
+  const int ref = presenter.control("picIndicator").visible ? presenter.indicatorAttribute() : -1;
+  if (ref != m_reference) setReference(ref);
+  setIndicatorColour(colourFromBgr(presenter.lamps().indicatorColor()));
+}
+
+}  // namespace tnw

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "direct/final_order_widget.h"
+
+// Qt
+#include <QWidget>
+
+class QLabel;
+
+namespace tnw {
+
+class DirectAPresenter;
+class IndicatorWidget;
+struct WizardContext;
+
+// Step 1 of the direct method: the final importance order with one button per attribute, the
+// reference attribute's name and the blinking indicator beside its button.
+class DirectReferencePageWidget : public QWidget {
+  Q_OBJECT
+
+ public:
+  // An empty page.
+  explicit DirectReferencePageWidget(QWidget* parent = nullptr);
+
+  // Builds the attribute buttons (cmdAttButtons).
+  void setAttributes(const QVector<FinalOrderWidget::AttributeFace>& attributes);
+  // Lays the buttons out in the final order (DisplayFinalOrder).
+  void setOrder(int groupCount, const QVector<int>& groupOf);
+  // Marks attribute i's button as the reference and puts the indicator on it (-1: none).
+  void setReference(int i);
+  // Sets the indicator's fill colour.
+  void setIndicatorColour(const QColor& colour);
+  // Shows the presenter's step 1: the final order, the reference and the indicator.
+  void render(const DirectAPresenter& presenter, const WizardContext& context);
+  // The order view.
+  FinalOrderWidget* orderView() const { return m_order; }
+  // The indicator.
+  IndicatorWidget* indicator() const { return m_indicator; }
+
+ signals:
+  // The button of attribute i was clicked (cmdAttButtons_Click).
+  void attributeClicked(int i);
+
+ private:
+  FinalOrderWidget* m_order = nullptr;
+  QVector<FinalOrderWidget::AttributeFace> m_faces;
+  QVector<int> m_groupOf;
+  IndicatorWidget* m_indicator = nullptr;
+  int m_reference = -1;
+};
+
+}  // namespace tnw

@@ -1,0 +1,91 @@
+#include "direct/direct_results_page_widget.h"
+
+#include "direct/results_grid.h"
+
+// Qt
+#include <QHeaderView>
+#include <QLabel>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+// Std
+#include <algorithm>
+
+namespace tnw {
+
+DirectResultsPageWidget::DirectResultsPageWidget(QWidget* parent) : QWidget(parent) {
+  setObjectName(QStringLiteral("picStep3"));
+  auto* caption = new QLabel(tr("Weights of the attributes derived from your judgments:"), this);
+  caption->setWordWrap(true);
+  m_grid = new QTableWidget(this);
+  m_grid->setObjectName(QStringLiteral("gridTN"));
+  m_grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  m_grid->setSelectionBehavior(QAbstractItemView::SelectRows);
+  m_grid->setAlternatingRowColors(true);
+  m_grid->verticalHeader()->hide();
+  m_grid->horizontalHeader()->setStretchLastSection(true);
+  m_grid->setWordWrap(false);
+  caption->setBuddy(m_grid);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(caption);
+  layout->addWidget(m_grid, 1);
+}
+
+void DirectResultsPageWidget::setTable(const QStringList& headers,
+                                       const QVector<QStringList>& rows) {
+  m_grid->clear();
+  m_grid->setColumnCount(static_cast<int>(headers.size()));
+  m_grid->setHorizontalHeaderLabels(headers);
+  m_grid->setRowCount(static_cast<int>(rows.size()));
+  for (int r = 0; r < rows.size(); ++r) {
+    for (int c = 0; c < rows[r].size() && c < headers.size(); ++c) {
+      auto* item = new QTableWidgetItem(rows[r][c]);
+      // Numbers line up on the right; the name reads from the left.
+      item->setTextAlignment(c == 1 ? (Qt::AlignLeft | Qt::AlignVCenter)
+                                    : (Qt::AlignRight | Qt::AlignVCenter));
+      m_grid->setItem(r, c, item);
+    }
+  }
+  applyColumnWidths();
+}
+
+void DirectResultsPageWidget::applyColumnWidths() {
+  const QFontMetrics fm = m_grid->fontMetrics();
+  const auto widths = ResultsGrid::columnWidths(fm.horizontalAdvance(QStringLiteral("Weights")),
+                                                fm.horizontalAdvance(QStringLiteral("Likelihood")),
+                                                m_grid->viewport()->width());
+  m_grid->resizeColumnsToContents();
+  // The grid's own widths are a floor; no text is ever cut by them.
+  for (int c = 0; c < m_grid->columnCount() && c < static_cast<int>(widths.size()); ++c) {
+    const int contents = m_grid->columnWidth(c) + 12;
+    m_grid->setColumnWidth(c, std::max(contents, widths[static_cast<std::size_t>(c)]));
+  }
+}
+
+void DirectResultsPageWidget::render(const ResultsGrid& grid) {
+  QString signature;
+  for (int r = 0; r < grid.rows(); ++r) {
+    for (int c = 0; c < ResultsGrid::kColumns; ++c) {
+      signature += QString::fromStdString(grid.cell(r, c)) + QLatin1Char('\t');
+    }
+  }
+  if (grid.rows() == m_shownRows && signature == m_signature) return;
+  m_shownRows = grid.rows();
+  m_signature = signature;
+  QStringList headers;
+  for (int c = 0; c < ResultsGrid::kColumns; ++c) {
+    headers.append(QString::fromStdString(grid.cell(0, c)));
+  }
+  QVector<QStringList> rows;
+  for (int r = 1; r < grid.rows(); ++r) {
+    QStringList row;
+    for (int c = 0; c < ResultsGrid::kColumns; ++c) {
+      row.append(QString::fromStdString(grid.cell(r, c)));
+    }
+    rows.append(row);
+  }
+  setTable(headers, rows);
+}
+
+}  // namespace tnw

@@ -1,0 +1,70 @@
+#include "direct/group_box_widget.h"
+
+#include "direct/flow_layout_qt.h"
+
+// Qt
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPushButton>
+
+namespace tnw {
+namespace {
+
+const QColor kBoxColour(255, 255, 160);
+const QColor kSelectedFrame(200, 0, 0);
+
+}  // namespace
+
+GroupBoxWidget::GroupBoxWidget(const QString& objectName, int index, QWidget* parent)
+    : QFrame(parent), m_index(index) {
+  setObjectName(objectName);
+  setProperty("index", index);
+  setFrameShape(QFrame::Box);
+  setAutoFillBackground(true);
+  QPalette pal = palette();
+  pal.setColor(QPalette::Window, kBoxColour);
+  pal.setColor(QPalette::WindowText, Qt::black);
+  setPalette(pal);
+  m_layout = new FlowLayout(this, 4);
+  m_layout->setContentsMargins(6, 6, 6, 6);
+  QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Minimum);
+  policy.setHeightForWidth(true);
+  setSizePolicy(policy);
+  setMinimumHeight(minimumSizeHint().height());
+}
+
+void GroupBoxWidget::setGroupNumber(int group) {
+  m_group = group;
+  setProperty("tag", group);
+}
+
+void GroupBoxWidget::setSelected(bool selected) {
+  if (m_selected == selected) return;
+  m_selected = selected;
+  update();
+}
+
+QSize GroupBoxWidget::minimumSizeHint() const {
+  // An empty box is as tall as a row of buttons, so that it is an easy drop target.
+  QPushButton probe(QStringLiteral("Xg"));
+  const int row = probe.sizeHint().height();
+  return {row * 3, row + 12};
+}
+
+void GroupBoxWidget::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
+    emit clicked();
+  }
+  QFrame::mouseReleaseEvent(event);
+}
+
+void GroupBoxWidget::paintEvent(QPaintEvent* event) {
+  QFrame::paintEvent(event);
+  if (!m_selected) return;
+  QPainter p(this);
+  p.setPen(QPen(kSelectedFrame, 3));
+  p.setBrush(Qt::NoBrush);
+  p.drawRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5));
+}
+
+}  // namespace tnw

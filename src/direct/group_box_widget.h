@@ -1,0 +1,49 @@
+#pragma once
+
+// Qt
+#include <QFrame>
+
+namespace tnw {
+
+class FlowLayout;
+
+// One importance group's yellow box (picOrder, picO, picOrderGrp): holds the buttons of the
+// group's attributes in rows, can be framed as the selected group and reports clicks.
+class GroupBoxWidget : public QFrame {
+  Q_OBJECT
+
+ public:
+  // A box named objectName with the control-array index in its "index" property.
+  GroupBoxWidget(const QString& objectName, int index, QWidget* parent = nullptr);
+
+  // The control-array index of the box.
+  int index() const { return m_index; }
+  // Sets the group number the box stands for (its tag).
+  void setGroupNumber(int group);
+  // The group number the box stands for.
+  int groupNumber() const { return m_group; }
+  // Frames the box as the selected group (Drow_Rectangle), or removes the frame.
+  void setSelected(bool selected);
+  // Whether the box is framed as the selected group.
+  bool isSelected() const { return m_selected; }
+  // The layout the attribute buttons go into.
+  FlowLayout* buttonLayout() const { return m_layout; }
+
+  QSize minimumSizeHint() const override;
+
+ signals:
+  // The box was clicked.
+  void clicked();
+
+ protected:
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  int m_index = 0;
+  int m_group = 0;
+  bool m_selected = false;
+  FlowLayout* m_layout = nullptr;
+};
+
+}  // namespace tnw

@@ -1,0 +1,32 @@
+#pragma once
+
+// Qt
+#include <QColor>
+#include <QWidget>
+
+namespace tnw {
+
+// The indicator of step 1 (picIndicator): a small round lamp beside the reference attribute's
+// button, filled with the colour it is given.
+class IndicatorWidget : public QWidget {
+  Q_OBJECT
+
+ public:
+  // A red indicator.
+  explicit IndicatorWidget(QWidget* parent = nullptr);
+
+  // Sets the fill colour.
+  void setFillColour(const QColor& colour);
+  // The fill colour.
+  QColor fillColour() const { return m_colour; }
+
+  QSize sizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QColor m_colour{255, 0, 0};
+};
+
+}  // namespace tnw

@@ -1,0 +1,227 @@
+#include "common/recording_ui_services.h"
+#include "component/tnw_mavt.h"
+#include "component/wizard_context.h"
+#include "component/wizard_dialog_factory_qt.h"
+
+// Qt
+#include <QApplication>
+#include <QListWidget>
+#include <QPushButton>
+#include <QtTest>
+
+// Std
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace tnw {
+namespace {
+
+// A host that records the events as text and may act on them.
+class Host : public TnwMavtEvents {
+ public:
+  void UnloadTNWizard(std::int16_t fIndex, bool WeightsDone) override {
+    log.push_back("UnloadTNWizard " + std::to_string(fIndex) + (WeightsDone ? " true" : " false"));
+    if (onUnload) onUnload();
+  }
+  void SendMasseges(const std::string& Msg) override { log.push_back("SendMasseges " + Msg); }
+
+  std::vector<std::string> log;
+  std::function<void()> onUnload;
+};
+
+QWidget* topLevel(const char* name) {
+  for (QWidget* w : QApplication::topLevelWidgets()) {
+    if (w->objectName() == QLatin1String(name)) return w;
+  }
+  return nullptr;
+}
+
+int countTopLevel(const char* name) {
+  int n = 0;
+  for (QWidget* w : QApplication::topLevelWidgets()) {
+    if (w->objectName() == QLatin1String(name)) ++n;
+  }
+  return n;
+}
+
+}  // namespace
+
+class TnwMavtDialogTest : public QObject {
+  Q_OBJECT
+
+ private:
+  // A wizard on the sample model, shown.
+  std::unique_ptr<TNW_MAVT> showWizard() {
+    auto wizard = std::make_unique<TNW_MAVT>(m_ui);
+    wizard->setEvents(&m_host);
+    std::string dir = "/opt/norix";
+    wizard->GetCurFileData(dir, 3, TNW_SAMPLE_MODEL);
+    wizard->ShowTNWizard();
+    return wizard;
+  }
+  static QWidget* selMethod() { return topLevel("frmTNWSelMethod"); }
+  static QPushButton* button(QWidget* dialog, const char* name) {
+    return dialog->findChild<QPushButton*>(QLatin1String(name));
+  }
+
+  RecordingUiServices m_ui;
+  Host m_host;
+
+ private slots:
+  void init() {
+    m_ui = RecordingUiServices{};
+    m_ui.setScreenSize({1280, 1024});
+    m_host = Host{};
+  }
+
+  void cleanup() {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY2(QApplication::topLevelWidgets().isEmpty(), "a top-level widget leaked");
+  }
+
+  void getCurFileDataReadsTheModelFile() {
+    TNW_MAVT wizard(m_ui);
+    std::string dir = "/opt/norix";
+    wizard.GetCurFileData(dir, 3, TNW_SAMPLE_MODEL);
+    QCOMPARE(wizard.context().model.NumAtt, 6);
+    QCOMPARE(wizard.context().NorixDir, std::string("/opt/norix"));
+    QCOMPARE(wizard.context().FileIndex, 3);
+    QVERIFY(m_ui.messages().empty());
+  }
+
+  void aModelThatCannotBeOpenedIsReportedOnce() {
+    TNW_MAVT wizard(m_ui);
+    std::string dir = "/opt/norix";
+    wizard.GetCurFileData(dir, 3, "/nonexistent/model.nrx");
+    QCOMPARE(m_ui.messages().size(), std::size_t{1});
+    QCOMPARE(m_ui.messages()[0].text,
+             std::string("There are problems in accessing the relevant data."));
+    QCOMPARE(m_ui.messages()[0].title, std::string("NORIX"));
+    QVERIFY(m_ui.messages()[0].icon == MessageIcon::Information);
+  }
+
+  void showTNWizardShowsTheSelectionDialogCentred() {
+    auto wizard = showWizard();
+    QWidget* d = selMethod();
+    QVERIFY(d != nullptr);
+    QVERIFY(QTest::qWaitForWindowExposed(d));
+    QVERIFY(!d->isModal());
+    // Centred with the size the dialog had when it was made, before the window got its frame.
+    const QRect frame = d->frameGeometry();
+    QCOMPARE(frame.left(), (1280 - d->width()) / 2);
+    QCOMPARE(frame.top(), (1024 - d->height()) / 2);
+    QCOMPARE(m_host.log, (std::vector<std::string>{
+                             "SendMasseges Select a method to make value judgments between the "
+                             "attributes."}));
+  }
+
+  void showTNWizardTwiceShowsOneDialog() {
+    auto wizard = showWizard();
+    selMethod()->hide();
+    wizard->ShowTNWizard();
+    QCOMPARE(countTopLevel("frmTNWSelMethod"), 1);
+    QVERIFY(selMethod()->isVisible());
+    QCOMPARE(m_host.log.size(), std::size_t{1});
+  }
+
+  void cancelReachesTheHostWhichUnloadsTheWizard() {
+    auto wizard = showWizard();
+    m_host.onUnload = [&] { wizard->UnloadTNWizard(); };
+    QWidget* d = selMethod();
+    QVERIFY(QTest::qWaitForWindowExposed(d));
+    QTest::mouseClick(button(d, "cmdCancel"), Qt::LeftButton);
+    QCOMPARE(m_host.log.back(), std::string("UnloadTNWizard 3 false"));
+    QVERIFY(!d->isVisible());
+    QPointer<QWidget> guard(d);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(guard.isNull());
+  }
+
+  void unloadTNWizardWithNothingShownDoesNothing() {
+    TNW_MAVT wizard(m_ui);
+    wizard.UnloadTNWizard();
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+    QVERIFY(m_ui.messages().empty());
+  }
+
+  void showAfterUnloadMakesAFreshSelectionDialog() {
+    auto wizard = showWizard();
+    QPointer<QWidget> first(selMethod());
+    wizard->UnloadTNWizard();
+    wizard->ShowTNWizard();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(first.isNull());
+    QVERIFY(selMethod() != nullptr);
+    QVERIFY(selMethod()->isVisible());
+  }
+
+  void aMethodWithoutItsDialogTellsTheUserAndStaysOnSelection() {
+    auto wizard = showWizard();
+    QWidget* d = selMethod();
+    auto* list = d->findChild<QListWidget*>(QStringLiteral("lstMethods"));
+    list->setCurrentRow(1);
+    QTest::mouseClick(button(d, "cmdNext"), Qt::LeftButton);
+    QCOMPARE(m_ui.messages().size(), std::size_t{1});
+    QCOMPARE(m_ui.messages()[0].text, std::string(WizardDialogFactoryQt::kNotAvailable));
+    QCOMPARE(m_ui.messages()[0].title, std::string("NORIX"));
+    QVERIFY(d->isVisible());
+    QCOMPARE(topLevel("frmTradeOffsA"), nullptr);
+  }
+
+  void helpGoesToTheHostsHelpHandler() {
+    TNW_MAVT wizard;
+    std::string file;
+    int context = 0;
+    wizard.setHelpHandler([&](const std::string& f, int c) {
+      file = f;
+      context = c;
+    });
+    std::string dir = "C:\\NORIX";
+    wizard.GetCurFileData(dir, 1, TNW_SAMPLE_MODEL);
+    wizard.ShowTNWizard();
+    QTest::mouseClick(button(selMethod(), "cmdHelp"), Qt::LeftButton);
+    QCOMPARE(file, std::string("C:\\NORIX\\NORIX.HLP"));
+    QCOMPARE(context, 4005025);
+    wizard.UnloadTNWizard();
+  }
+
+  void twoWizardsKeepTheirOwnDialogs() {
+    auto a = showWizard();
+    auto b = showWizard();
+    QCOMPARE(countTopLevel("frmTNWSelMethod"), 2);
+    a->UnloadTNWizard();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(countTopLevel("frmTNWSelMethod"), 1);
+    QVERIFY(selMethod()->isVisible());
+  }
+
+  void destroyingTheWizardFromInsideItsOwnEventIsSafe() {
+    auto* wizard = new TNW_MAVT(m_ui);
+    wizard->setEvents(&m_host);
+    std::string dir = "/opt/norix";
+    wizard->GetCurFileData(dir, 3, TNW_SAMPLE_MODEL);
+    wizard->ShowTNWizard();
+    m_host.onUnload = [&wizard] {
+      delete wizard;
+      wizard = nullptr;
+    };
+    QTest::mouseClick(button(selMethod(), "cmdCancel"), Qt::LeftButton);
+    QCOMPARE(wizard, nullptr);
+    QCOMPARE(m_host.log.back(), std::string("UnloadTNWizard 3 false"));
+    // The object's data and dialogs go once control is back in the event loop.
+    QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
+  }
+
+  void destroyingTheWizardReleasesItsDialogs() {
+    showWizard().reset();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(selMethod(), nullptr);
+  }
+};
+
+}  // namespace tnw
+
+QTEST_MAIN(tnw::TnwMavtDialogTest)
+#include "tnw_mavt_dialog_test.moc"

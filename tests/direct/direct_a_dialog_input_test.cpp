@@ -1,0 +1,254 @@
+// Ratio entry, pasting, help, keyboard use, layout and resumption on the real frmDirectA.
+
+#include "common/recording_ui_services.h"
+#include "direct/attribute_button_widget.h"
+#include "direct/direct_a_dialog.h"
+#include "direct_a_dialog_helpers.h"
+#include "direct_test_models.h"
+#include "model/model_file_reader.h"
+#include "recording_direct_a_events.h"
+
+// Qt
+#include <QClipboard>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTest>
+
+// Std
+#include <memory>
+
+namespace tnw {
+
+using test::control;
+
+class DirectADialogInputTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void cleanup();
+  void failedLowerBoundShowsTheMessageBeepsAndSelectsTheText();
+  void failedUpperBoundShowsItsOwnMessage();
+  void enterInTheUpperBoxChecksTheLowerBound();
+  void onlyDigitsAndOnePeriodReachTheBox();
+  void ctrlVAndShiftInsertChangeNothing();
+  void mnemonicsPressTheWizardButtons();
+  void helpOpensTheHostsHelpFileAtItsContext();
+  void closeBoxCancels();
+  void noTextIsClippedOnAnyStep();
+  void resumesFromTheSampleWithAnEarlierResult();
+
+ private:
+  void open(WizardContext context);
+  void reachJudgments();
+  void typeInto(QLineEdit* box, const QString& text);
+  QPushButton* button(const char* name) const { return control<QPushButton>(m_dialog.get(), name); }
+  QLineEdit* lowerBox() const { return control<QLineEdit>(m_dialog.get(), "txtWRLower"); }
+  QLineEdit* upperBox() const { return control<QLineEdit>(m_dialog.get(), "txtWRUpper"); }
+
+  WizardContext m_context;
+  RecordingUiServices m_ui;
+  test::RecordingDirectAEvents m_events;
+  std::unique_ptr<DirectADialog> m_dialog;
+};
+
+void DirectADialogInputTest::cleanup() {
+  m_dialog.reset();
+  m_events = {};
+  m_ui.clearMessages();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  QVERIFY2(QApplication::topLevelWidgets().isEmpty(), "a top-level widget leaked");
+}
+
+void DirectADialogInputTest::open(WizardContext context) {
+  m_context = std::move(context);
+  m_dialog = std::make_unique<DirectADialog>(m_context, m_ui, m_events);
+  m_dialog->show();
+  QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
+  m_dialog->activateWindow();
+  QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
+}
+
+// Two attributes: the reference 0 in group 1, the target 1 in group 2 (starting at 0.80).
+void DirectADialogInputTest::reachJudgments() {
+  open(test::makeContext(2));
+  QVERIFY(test::dragAndDrop(test::orderBox(m_dialog.get(), 1), QStringLiteral("A0")));
+  QVERIFY(test::dragAndDrop(test::orderBox(m_dialog.get(), 2), QStringLiteral("A1")));
+  QTest::mouseClick(button("cmdNext"), Qt::LeftButton);
+  QTest::mouseClick(control<QPushButton>(m_dialog.get(), "cmdAttButtons", 0), Qt::LeftButton);
+  QTest::mouseClick(button("cmdNext"), Qt::LeftButton);
+  QCOMPARE(m_dialog->presenter().WizardStep(), 2);
+  QCOMPARE(lowerBox()->text(), QStringLiteral("0.80"));
+}
+
+void DirectADialogInputTest::typeInto(QLineEdit* box, const QString& text) {
+  box->setFocus(Qt::MouseFocusReason);
+  QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClicks(box, text);
+}
+
+void DirectADialogInputTest::failedLowerBoundShowsTheMessageBeepsAndSelectsTheText() {
+  reachJudgments();
+  typeInto(upperBox(), QStringLiteral("1"));
+  typeInto(lowerBox(), QStringLiteral("2"));
+  const int beeps = m_ui.beeps();
+  m_ui.clearMessages();
+  QTest::keyClick(lowerBox(), Qt::Key_Tab);
+  QCOMPARE(m_ui.messages().size(), std::size_t{1});
+  QCOMPARE(m_ui.messages()[0].text,
+           "The weight ratio you entered should be greater than zero and less than or equal to "
+           "1!");
+  QCOMPARE(m_ui.messages()[0].title, "NORIX");
+  QVERIFY(m_ui.messages()[0].icon == MessageIcon::Exclamation);
+  QCOMPARE(m_ui.beeps(), beeps + 1);
+  QTRY_COMPARE(QApplication::focusWidget(), static_cast<QWidget*>(lowerBox()));
+  QCOMPARE(lowerBox()->selectedText(), QStringLiteral("2"));
+  QVERIFY(!control<QPushButton>(m_dialog.get(), "cmdEnter")->isEnabled() ||
+          m_dialog->presenter().judgment().validity() == 0);
+}
+
+void DirectADialogInputTest::failedUpperBoundShowsItsOwnMessage() {
+  reachJudgments();
+  typeInto(lowerBox(), QStringLiteral("0.5"));
+  typeInto(upperBox(), QStringLiteral("0.25"));
+  m_ui.clearMessages();
+  QTest::keyClick(upperBox(), Qt::Key_Tab);
+  QCOMPARE(m_ui.messages().size(), std::size_t{1});
+  QCOMPARE(m_ui.messages()[0].text,
+           "The weight ratio you entered should be greater than or equal to 0.5!");
+  QTRY_COMPARE(QApplication::focusWidget(), static_cast<QWidget*>(upperBox()));
+  QCOMPARE(upperBox()->selectedText(), QStringLiteral("0.25"));
+}
+
+void DirectADialogInputTest::enterInTheUpperBoxChecksTheLowerBound() {
+  reachJudgments();
+  typeInto(upperBox(), QStringLiteral("0"));
+  m_ui.clearMessages();
+  QTest::keyClick(upperBox(), Qt::Key_Return);
+  // The lower bound 0.80 is now above the upper bound 0: the lower check fails.
+  QCOMPARE(m_ui.messages().size(), std::size_t{1});
+  QCOMPARE(m_ui.messages()[0].text,
+           "The weight ratio you entered should be greater than zero and less than or equal to "
+           "0!");
+  QTRY_COMPARE(QApplication::focusWidget(), static_cast<QWidget*>(lowerBox()));
+}
+
+void DirectADialogInputTest::onlyDigitsAndOnePeriodReachTheBox() {
+  reachJudgments();
+  typeInto(lowerBox(), QStringLiteral("a1-.5x."));
+  QCOMPARE(lowerBox()->text(), QStringLiteral("1.5"));
+  QTest::keyClick(lowerBox(), Qt::Key_Backspace);
+  QCOMPARE(lowerBox()->text(), QStringLiteral("1."));
+}
+
+void DirectADialogInputTest::ctrlVAndShiftInsertChangeNothing() {
+  reachJudgments();
+  QGuiApplication::clipboard()->setText(QStringLiteral("9"));
+  lowerBox()->setFocus(Qt::MouseFocusReason);
+  lowerBox()->setCursorPosition(0);
+  QTest::keyClick(lowerBox(), Qt::Key_V, Qt::ControlModifier);
+  QCOMPARE(lowerBox()->text(), QStringLiteral("0.80"));
+  QTest::keyClick(lowerBox(), Qt::Key_Insert, Qt::ShiftModifier);
+  QCOMPARE(lowerBox()->text(), QStringLiteral("0.80"));
+  QTest::mouseClick(lowerBox(), Qt::MiddleButton);
+  QCOMPARE(lowerBox()->text(), QStringLiteral("0.80"));
+  QCOMPARE(lowerBox()->contextMenuPolicy(), Qt::NoContextMenu);
+  QVERIFY(!lowerBox()->acceptDrops());
+}
+
+void DirectADialogInputTest::mnemonicsPressTheWizardButtons() {
+  open(test::makeContext(3));
+  QVERIFY(test::dragAndDrop(test::orderBox(m_dialog.get(), 1), QStringLiteral("A0")));
+  QVERIFY(test::dragAndDrop(test::orderBox(m_dialog.get(), 1), QStringLiteral("A1")));
+  QVERIFY(test::dragAndDrop(test::orderBox(m_dialog.get(), 2), QStringLiteral("A2")));
+  // A mnemonic presses its button as a click of the platform does, a moment later.
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::AltModifier);
+  QTRY_COMPARE(m_dialog->presenter().ordering().order().GroupCount(), 3);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_N, Qt::AltModifier);
+  QTRY_COMPARE(m_dialog->presenter().WizardStep(), 1);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_B, Qt::AltModifier);
+  QTRY_COMPARE(m_dialog->presenter().WizardStep(), 0);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_C, Qt::AltModifier);
+  QTRY_COMPARE(m_events.log.back(), std::string("UnloadTNWizard"));
+}
+
+void DirectADialogInputTest::helpOpensTheHostsHelpFileAtItsContext() {
+  open(test::makeContext(2));
+  QTest::mouseClick(button("cmdHelp"), Qt::LeftButton);
+  QCOMPARE(m_ui.helpFile(), std::string("C:\\NORIX\\NORIX.HLP"));
+  QCOMPARE(m_ui.helpContext(), 4005025);
+}
+
+void DirectADialogInputTest::closeBoxCancels() {
+  open(test::makeContext(2));
+  m_dialog->close();
+  QCOMPARE(m_events.log.back(), std::string("UnloadTNWizard"));
+  QVERIFY(!m_events.unloads.back().weightsDone);
+  QVERIFY(m_events.exports.empty());
+  QVERIFY(m_dialog->isVisible());
+}
+
+void DirectADialogInputTest::noTextIsClippedOnAnyStep() {
+  WizardContext context;
+  context.NorixDir = "/opt/norix";
+  QVERIFY(OpenRelatedFileForTNW(TNW_SAMPLE_MODEL, context.model, m_ui).complete);
+  open(std::move(context));
+  QVERIFY2(test::clippedTexts(m_dialog.get()).isEmpty(),
+           qPrintable(test::clippedTexts(m_dialog.get()).join(QLatin1Char('\n'))));
+  for (int j = 0; j < 6; ++j) {
+    QVERIFY(test::dragAndDrop(test::orderBox(m_dialog.get(), j < 2 ? 1 : 2),
+                              QStringLiteral("A%1").arg(j)));
+  }
+  QVERIFY2(test::clippedTexts(m_dialog.get()).isEmpty(),
+           qPrintable(test::clippedTexts(m_dialog.get()).join(QLatin1Char('\n'))));
+  QTest::mouseClick(button("cmdNext"), Qt::LeftButton);
+  QTest::mouseClick(control<QPushButton>(m_dialog.get(), "cmdAttButtons", 0), Qt::LeftButton);
+  QVERIFY2(test::clippedTexts(m_dialog.get()).isEmpty(),
+           qPrintable(test::clippedTexts(m_dialog.get()).join(QLatin1Char('\n'))));
+  QTest::mouseClick(button("cmdNext"), Qt::LeftButton);
+  QVERIFY2(test::clippedTexts(m_dialog.get()).isEmpty(),
+           qPrintable(test::clippedTexts(m_dialog.get()).join(QLatin1Char('\n'))));
+}
+
+void DirectADialogInputTest::resumesFromTheSampleWithAnEarlierResult() {
+  WizardContext context;
+  context.FileIndex = 3;
+  QVERIFY(OpenRelatedFileForTNW(TNW_SAMPLE_MODEL_PREVIOUS, context.model, m_ui).complete);
+  QCOMPARE(context.model.PrevTNType, std::string("MAVT_DIRECT"));
+  open(std::move(context));
+  // The earlier order is shown at once and Next may be pressed.
+  QVERIFY(button("cmdNext")->isEnabled());
+  for (int j = 0; j < 6; ++j) {
+    QVERIFY(!control<AttributeButtonWidget>(m_dialog.get(), "cmdAttA", j)->isVisible());
+  }
+  QCOMPARE(m_dialog->findChildren<AttributeButtonWidget*>(QStringLiteral("cmdAttB")).size(), 6);
+  // The earlier reference is chosen again.
+  QTest::mouseClick(button("cmdNext"), Qt::LeftButton);
+  QCOMPARE(control<QLabel>(m_dialog.get(), "lblRefAtt")->text(), QStringLiteral("Safety rating"));
+  QCOMPARE(control<QWidget>(m_dialog.get(), "picIndicator")->parentWidget(),
+           control<QWidget>(m_dialog.get(), "cmdAttButtons", 2));
+  QVERIFY(button("cmdNext")->isEnabled());
+  // Every target is judged already: Next and Finish are enabled on entry.
+  QTest::mouseClick(button("cmdNext"), Qt::LeftButton);
+  QCOMPARE(m_dialog->presenter().WizardStep(), 2);
+  QVERIFY(button("cmdNext")->isEnabled());
+  QVERIFY(button("cmdFinish")->isEnabled());
+  auto* combo = control<QComboBox>(m_dialog.get(), "imgcmbTargetAtt");
+  QCOMPARE(combo->itemText(0), QStringLiteral(" \u00A4 Purchase price"));
+  QCOMPARE(combo->itemText(2), QStringLiteral("Safety rating"));
+  m_events.log.clear();
+  QTest::mouseClick(button("cmdFinish"), Qt::LeftButton);
+  QCOMPARE(m_events.log, (std::vector<std::string>{"ExportDirectAW", "UnloadTNWizard"}));
+  QCOMPARE(m_events.exports.back().refAtt, std::int16_t{2});
+  QCOMPARE(m_events.unloads.back().fIndex, std::int16_t{3});
+  // The earlier intervals against the reference: 0.22 / 0.20 low, 0.30 / 0.26 high.
+  QCOMPARE(m_context.LowerWeights[0], 0.22 / 0.2);
+  QCOMPARE(m_context.UpperWeights[0], 0.3 / 0.26);
+}
+
+}  // namespace tnw
+
+QTEST_MAIN(tnw::DirectADialogInputTest)
+#include "direct_a_dialog_input_test.moc"

@@ -1,0 +1,77 @@
+// A host that embeds the installed wizard: shows it headless, presses Cancel on the selection
+// dialog and checks that the events arrive as documented.
+
+#include <common/recording_ui_services.h>
+#include <common/ui_services_qt.h>
+#include <component/tnw_mavt.h>
+
+#include <QApplication>
+#include <QPushButton>
+#include <QTimer>
+#include <cstdio>
+#include <string>
+#include <vector>
+
+namespace {
+
+class Host : public tnw::TnwMavtEvents {
+ public:
+  explicit Host(tnw::TNW_MAVT& wizard) : m_wizard(wizard) {}
+  void SendMasseges(const std::string& Msg) override { messages.push_back(Msg); }
+  void UnloadTNWizard(std::int16_t fIndex, bool WeightsDone) override {
+    unloadIndex = fIndex;
+    unloadDone = WeightsDone;
+    m_wizard.UnloadTNWizard();
+    QCoreApplication::exit(0);
+  }
+
+  std::vector<std::string> messages;
+  int unloadIndex = -1;
+  bool unloadDone = true;
+
+ private:
+  tnw::TNW_MAVT& m_wizard;
+};
+
+int fail(const char* what) {
+  std::fprintf(stderr, "consumer: %s\n", what);
+  return 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc != 2) return fail("usage: consumer MODEL");
+  QApplication app(argc, argv);
+  // The UI library links on its own as well.
+  const tnw::UiServicesQt qtServices;
+  if (qtServices.screenSize().width <= 0) return fail("no screen size");
+
+  tnw::RecordingUiServices ui;
+  tnw::TNW_MAVT wizard(ui);
+  Host host(wizard);
+  wizard.setEvents(&host);
+  std::string dir = "/opt/norix";
+  wizard.GetCurFileData(dir, 5, argv[1]);
+  if (!ui.messages().empty()) return fail("the model could not be read");
+  wizard.ShowTNWizard();
+
+  QTimer::singleShot(0, [] {
+    for (QWidget* w : QApplication::topLevelWidgets()) {
+      if (w->objectName() != QLatin1String("frmTNWSelMethod")) continue;
+      if (auto* cancel = w->findChild<QPushButton*>(QStringLiteral("cmdCancel"))) cancel->click();
+    }
+  });
+  QTimer::singleShot(10000, [] { QCoreApplication::exit(3); });
+  const int status = QApplication::exec();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+
+  if (status != 0) return fail("no UnloadTNWizard event arrived");
+  if (host.messages.size() != 1 ||
+      host.messages[0] != "Select a method to make value judgments between the attributes.")
+    return fail("unexpected status texts");
+  if (host.unloadIndex != 5 || host.unloadDone) return fail("unexpected UnloadTNWizard values");
+  if (!QApplication::topLevelWidgets().isEmpty()) return fail("a dialog was not released");
+  std::puts("consumer: received SendMasseges and UnloadTNWizard(5, false)");
+  return 0;
+}
