@@ -11,7 +11,11 @@ class QLineEdit;
 
 namespace tnw {
 
+// The trade-off judgment page shares its name with the direct method's; it lives in the inline
+// namespace tradeoffs and is named with it here.
+inline namespace tradeoffs {
 class JudgmentPage;
+}
 class TradeOffsAPresenter;
 class TradeOffsJudgmentWidget;
 struct WizardContext;
@@ -48,7 +52,7 @@ class JudgmentPageBindingQt : public QObject {
 
   TradeOffsJudgmentWidget& m_widget;
   TradeOffsAPresenter& m_presenter;
-  const JudgmentPage& m_page;
+  const tradeoffs::JudgmentPage& m_page;
   const WizardContext& m_context;
   std::vector<std::string> m_listItems;
   // The text and selection last written into each score box.

@@ -6,6 +6,7 @@
 #include "tradeoffs/pc_graph_widget.h"
 #include "tradeoffs/pc_point_widget.h"
 #include "tradeoffs/results_page_binding_qt.h"
+#include "tradeoffs/trade_offs_a_presenter.h"
 #include "tradeoffs/trade_offs_judgment_widget.h"
 #include "tradeoffs/trade_offs_printout_qt.h"
 #include "tradeoffs/trade_offs_results_widget.h"
@@ -74,6 +75,10 @@ TradeOffsADialog::~TradeOffsADialog() {
   // The presenter may outlive the widgets by a moment; it must not render into them.
   m_presenter->setChangedCallback({});
 }
+
+const TradeOffsAPresenter& TradeOffsADialog::presenter() const { return *m_presenter; }
+
+TradeOffsAPresenter& TradeOffsADialog::presenter() { return *m_presenter; }
 
 QString TradeOffsADialog::hostDirectory(const WizardContext& context) {
   return QString::fromStdString(context.NorixDir);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "component/wizard_dialog_qt.h"
-#include "tradeoffs/trade_offs_a_presenter.h"
 
 // Std
 #include <memory>
@@ -18,6 +17,7 @@ class JudgmentPageBindingQt;
 class RandomSource;
 class ResultsPageBindingQt;
 class TradeOffsAEvents;
+class TradeOffsAPresenter;
 class TradeOffsJudgmentWidget;
 class TradeOffsPrintoutQt;
 class TradeOffsResultsWidget;
@@ -26,7 +26,8 @@ struct WizardContext;
 
 // frmTradeOffsA, the trade-off method's dialog, as a Qt view over TradeOffsAPresenter: the
 // judgment page and the results page in the wizard frame with Back, Next, Finish, Cancel, Help
-// and Print. Every control's objectName is its given name.
+// and Print. Every control's objectName is its given name. This header names the presenter only
+// by declaration, so it can be included beside the direct method's headers.
 class TradeOffsADialog : public WizardDialogQt {
   Q_OBJECT
 
@@ -38,8 +39,8 @@ class TradeOffsADialog : public WizardDialogQt {
   ~TradeOffsADialog() override;
 
   // The presenter behind the dialog.
-  const TradeOffsAPresenter& presenter() const { return *m_presenter; }
-  TradeOffsAPresenter& presenter() { return *m_presenter; }
+  const TradeOffsAPresenter& presenter() const;
+  TradeOffsAPresenter& presenter();
   // The judgment page (step 1) and the results page (step 2).
   TradeOffsJudgmentWidget* judgmentPage() const { return m_judgment; }
   TradeOffsResultsWidget* resultsPage() const { return m_results; }

@@ -4,6 +4,7 @@
 #include "component/wizard_context.h"
 #include "trade_off_fixtures.h"
 #include "tradeoffs/trade_offs_a_dialog.h"
+#include "tradeoffs/trade_offs_a_presenter.h"
 #include "tradeoffs/trade_offs_a_events.h"
 
 // Qt
