@@ -5,6 +5,7 @@
 #include "direct/direct_order_page_widget.h"
 #include "direct/direct_reference_page_widget.h"
 #include "direct/direct_results_page_widget.h"
+#include "direct/drag_payload.h"
 #include "direct/orientation_images_qt.h"
 #include "direct/ratio_box_filter_qt.h"
 
@@ -17,8 +18,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QStackedWidget>
+#include <QTableWidget>
 #include <QTextEdit>
 #include <QVBoxLayout>
 
@@ -80,13 +83,24 @@ DirectADialog::DirectADialog(WizardContext& context, UiServices& ui, DirectAEven
   m_presenter.setChangeListener([this] { render(); });
   m_presenter.Form_Load();
   render();
-  resize(sizeHint().expandedTo(QSize(860, 600)));
+  focusStep(0);
+  resize(initialSize());
 }
 
 DirectADialog::~DirectADialog() {
   // The presenter outlives the widgets' last signals only if it stops calling back first.
   m_presenter.setChangeListener({});
   m_timer.stop();
+}
+
+QSize DirectADialog::initialSize() const {
+  QSize size = sizeHint().expandedTo(QSize(860, 600));
+  // On a small screen (or at a large scale) the dialog starts as large as fits; the lists
+  // scroll, so every step stays usable down to the layout's minimum.
+  if (const QScreen* s = screen()) {
+    size = size.boundedTo(s->availableGeometry().size() * 0.92);
+  }
+  return size.expandedTo(minimumSizeHint());
 }
 
 QWidget* DirectADialog::buildHeader() {
@@ -149,6 +163,12 @@ void DirectADialog::connectOrderPage() {
           [&p](int att) { p.cmdAttB_Click(att); });
   connect(page, &DirectOrderPageWidget::attributeInfoRequested, this,
           [&p](int att) { p.optAttInfo_Click(att); });
+  connect(page, &DirectOrderPageWidget::placeRequested, this, [this](int att) {
+    const int group = m_presenter.ordering().order().SelectedGroup();
+    m_presenter.picOrder_DragDrop(group, encodeDragPayload({DragSource::AttributeList, att}));
+    // The next attribute is ready for the next key press; with none left, Next is.
+    if (!m_orderPage->focusFirstListed()) m_cmdNext->setFocus(Qt::OtherFocusReason);
+  });
   connect(page, &DirectOrderPageWidget::addClicked, this, [&p] { p.cmdAdd_Click(); });
   connect(page, &DirectOrderPageWidget::insertClicked, this, [&p] { p.cmdInsert_Click(); });
 }
@@ -200,7 +220,10 @@ void DirectADialog::render() {
     if (step == 3) m_resultsPage->render(m_presenter.grid());
     renderControls();
     renderHeader();
-    if (m_stack->currentIndex() != step) m_stack->setCurrentIndex(step);
+    if (m_stack->currentIndex() != step) {
+      m_stack->setCurrentIndex(step);
+      focusStep(step);
+    }
     const int interval = m_presenter.timerInterval();
     if (interval <= 0) {
       m_timer.stop();
@@ -226,7 +249,7 @@ void DirectADialog::renderControls() {
       if (w->property("image").toString() != caption) {
         w->setProperty("image", caption);
         if (auto* label = qobject_cast<QLabel*>(w))
-          label->setPixmap(orientationPixmap(caption, 32));
+          label->setPixmap(orientationPixmap(caption, 32, label->devicePixelRatioF()));
       }
     } else if (auto* label = qobject_cast<QLabel*>(w)) {
       if (label->text() != caption) label->setText(caption);
@@ -244,6 +267,26 @@ void DirectADialog::renderHeader() {
   m_header->setVisible(step == 1 || step == 2);
   m_refImage->setVisible(step == 2);
   m_refRange->setVisible(step == 2);
+}
+
+void DirectADialog::focusStep(int step) {
+  QWidget* first = nullptr;
+  switch (step) {
+    case 0:
+      if (m_orderPage->focusFirstListed()) return;
+      first = m_cmdNext;
+      break;
+    case 1:
+      first = m_referencePage->firstButton();
+      break;
+    case 2:
+      first = m_judgmentPage->targetList();
+      break;
+    default:
+      first = m_resultsPage->grid();
+      break;
+  }
+  if (first != nullptr && first->isEnabled()) first->setFocus(Qt::OtherFocusReason);
 }
 
 void DirectADialog::applyFocusRequest() {

@@ -42,6 +42,7 @@ class DirectADialog : public WizardDialogQt {
   void closeRequested() override;
 
  private:
+  QSize initialSize() const;
   QWidget* buildHeader();
   QLayout* buildButtons();
   void connectOrderPage();
@@ -52,6 +53,7 @@ class DirectADialog : public WizardDialogQt {
   void renderControls();
   void renderHeader();
   void applyFocusRequest();
+  void focusStep(int step);
 
   WizardContext& m_context;
   DirectAPresenter m_presenter;

@@ -69,6 +69,12 @@ DirectJudgmentPageWidget::DirectJudgmentPageWidget(QWidget* parent) : QWidget(pa
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addLayout(left, 1);
   layout->addWidget(buildTabs(), 1);
+
+  setTabOrder(m_targetList, m_lower);
+  setTabOrder(m_lower, m_upper);
+  setTabOrder(m_upper, m_enter);
+  setTabOrder(m_enter, m_restart);
+  setTabOrder(m_restart, m_tabs);
 }
 
 QWidget* DirectJudgmentPageWidget::buildTargetFrame() {

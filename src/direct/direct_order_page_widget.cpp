@@ -5,11 +5,13 @@
 #include "direct/clickable_label_widget.h"
 #include "direct/direct_a_presenter.h"
 #include "direct/direct_view_colours_qt.h"
+#include "direct/drag_payload.h"
 #include "direct/flow_layout_qt.h"
 #include "direct/group_box_widget.h"
 
 // Qt
 #include <QButtonGroup>
+#include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -162,15 +164,16 @@ void DirectOrderPageWidget::setAttributes(const QVector<AttributeFace>& attribut
     row->setContentsMargins(0, 0, 0, 0);
     AttributeRow r;
     r.option = new QRadioButton(rowWidget);
+    // The keyboard reaches an attribute's information through its button (see eventFilter).
+    r.option->setFocusPolicy(Qt::NoFocus);
     r.option->setObjectName(QStringLiteral("optAttInfo"));
     r.option->setProperty("index", j);
     r.option->setAccessibleName(tr("Show the information of %1").arg(attributes[j].name));
     options->addButton(r.option, j);
     r.button = new AttributeButtonWidget(QStringLiteral("cmdAttA"), j, rowWidget);
     r.button->setText(attributes[j].name);
-    r.button->setToolTip(attributes[j].name);
     r.button->setFaceColour(attributes[j].face);
-    r.button->setTag(QStringLiteral("A%1").arg(j));
+    r.button->setTag(QString::fromStdString(encodeDragPayload({DragSource::AttributeList, j})));
     r.button->setDraggable(true);
     r.label = new ClickableLabelWidget(QStringLiteral("lblAttName"), j, rowWidget);
     r.label->setText(attributes[j].name);
@@ -186,7 +189,10 @@ void DirectOrderPageWidget::setAttributes(const QVector<AttributeFace>& attribut
     connect(r.option, &QRadioButton::clicked, this, [this, j] { emit attributeInfoRequested(j); });
     connect(r.label, &ClickableLabelWidget::clicked, this,
             [this, j] { emit attributeInfoRequested(j); });
-    connect(r.button, &QPushButton::clicked, this, [this, j] { emit attributeInfoRequested(j); });
+    connect(r.button, &QPushButton::clicked, this, [this, j] { emit placeRequested(j); });
+    r.button->installEventFilter(this);
+    r.button->setToolTip(tr("%1: drag it to a yellow box, or press it to put it in the framed box")
+                             .arg(attributes[j].name));
     m_attLayout->insertWidget(j, rowWidget);
     m_attRows.append(r);
   }
@@ -211,6 +217,8 @@ DirectOrderPageWidget::GroupRow& DirectOrderPageWidget::groupRow(int index) {
     r.number->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     r.number->setMinimumWidth(r.number->fontMetrics().horizontalAdvance(QStringLiteral("88")) + 6);
     r.box = new GroupBoxWidget(QStringLiteral("picOrder"), i, rowWidget);
+    r.box->setFocusable(true);
+    r.box->setAccessibleName(tr("Importance group"));
     row->addWidget(r.number, 0, Qt::AlignTop);
     row->addWidget(r.box, 1);
     m_dropFilter->watch(r.box);
@@ -246,7 +254,8 @@ void DirectOrderPageWidget::setGroups(const QVector<GroupView>& groups, int fram
     row.box->parentWidget()->show();
     for (const auto& [placement, attribute] : groups[i].placed) {
       AttributeButtonWidget* b = placedButton(placement);
-      b->setTag(QStringLiteral("B%1").arg(attribute));
+      b->setTag(
+          QString::fromStdString(encodeDragPayload({DragSource::PlacedAttribute, attribute})));
       if (attribute >= 0 && attribute < m_faces.size()) {
         b->setText(m_faces[attribute].name);
         b->setToolTip(m_faces[attribute].name);
@@ -344,6 +353,25 @@ void DirectOrderPageWidget::render(const DirectAPresenter& presenter) {
   };
   showAttributeInfo(page.selectedInfo(), caption("frameAttInfo"), caption("labAttName"),
                     caption("labAttProperty"), caption("txtAttDefinition"));
+}
+
+bool DirectOrderPageWidget::focusFirstListed() {
+  for (const AttributeRow& row : m_attRows) {
+    if (row.button->isVisibleTo(this)) {
+      row.button->setFocus(Qt::OtherFocusReason);
+      return true;
+    }
+  }
+  return false;
+}
+
+bool DirectOrderPageWidget::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::FocusIn) {
+    if (auto* button = qobject_cast<AttributeButtonWidget*>(watched)) {
+      emit attributeInfoRequested(button->index());
+    }
+  }
+  return QWidget::eventFilter(watched, event);
 }
 
 }  // namespace tnw

@@ -57,6 +57,8 @@ class DirectOrderPageWidget : public QWidget {
                          const QString& definition);
   // Shows the presenter's step 0: attribute list, groups, placed buttons, information.
   void render(const DirectAPresenter& presenter);
+  // Gives the focus to the first attribute button still listed, or returns false.
+  bool focusFirstListed();
   // The group box showing group number group, or null.
   GroupBoxWidget* boxOfGroup(int group) const;
 
@@ -71,8 +73,11 @@ class DirectOrderPageWidget : public QWidget {
   void groupClicked(int group);
   // A placed button was clicked (cmdAttB_Click).
   void placedClicked(int attribute);
-  // An attribute's name label or option was clicked.
+  // An attribute's name label or option was clicked, or its button took the focus.
   void attributeInfoRequested(int attribute);
+  // An unplaced attribute's button was pressed (click, Space): it goes to the selected group,
+  // as if it had been dropped on that group's box.
+  void placeRequested(int attribute);
   // Add or Insert was pressed.
   void addClicked();
   void insertClicked();
@@ -98,6 +103,7 @@ class DirectOrderPageWidget : public QWidget {
   AttributeButtonWidget* placedButton(int placement);
   void onDropped(QWidget* target, const QByteArray& payload);
   void onDragOver(QWidget* target, const QByteArray& payload);
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
   AttributeDropFilter* m_dropFilter = nullptr;
   QScrollArea* m_attScroll = nullptr;

@@ -100,4 +100,16 @@ void DirectReferencePageWidget::render(const DirectAPresenter& presenter,
   setIndicatorColour(colourFromBgr(presenter.lamps().indicatorColor()));
 }
 
+QWidget* DirectReferencePageWidget::firstButton() const {
+  QWidget* first = nullptr;
+  int best = 0;
+  for (int i = 0; i < m_groupOf.size(); ++i) {
+    if (m_groupOf[i] >= 1 && (first == nullptr || m_groupOf[i] < best)) {
+      first = m_order->button(i);
+      best = m_groupOf[i];
+    }
+  }
+  return first;
+}
+
 }  // namespace tnw

@@ -32,6 +32,8 @@ class DirectReferencePageWidget : public QWidget {
   void setIndicatorColour(const QColor& colour);
   // Shows the presenter's step 1: the final order, the reference and the indicator.
   void render(const DirectAPresenter& presenter, const WizardContext& context);
+  // The first attribute button in the order (the most important group's first), or null.
+  QWidget* firstButton() const;
   // The order view.
   FinalOrderWidget* orderView() const { return m_order; }
   // The indicator.

@@ -23,7 +23,7 @@ DirectResultsPageWidget::DirectResultsPageWidget(QWidget* parent) : QWidget(pare
   m_grid->setSelectionBehavior(QAbstractItemView::SelectRows);
   m_grid->setAlternatingRowColors(true);
   m_grid->verticalHeader()->hide();
-  m_grid->horizontalHeader()->setStretchLastSection(true);
+  m_grid->horizontalHeader()->setStretchLastSection(false);
   m_grid->setWordWrap(false);
   caption->setBuddy(m_grid);
   auto* layout = new QVBoxLayout(this);
@@ -41,13 +41,15 @@ void DirectResultsPageWidget::setTable(const QStringList& headers,
   for (int r = 0; r < rows.size(); ++r) {
     for (int c = 0; c < rows[r].size() && c < headers.size(); ++c) {
       auto* item = new QTableWidgetItem(rows[r][c]);
-      // Numbers line up on the right; the name reads from the left.
-      item->setTextAlignment(c == 1 ? (Qt::AlignLeft | Qt::AlignVCenter)
-                                    : (Qt::AlignRight | Qt::AlignVCenter));
+      // Names read from the left, the range pairs are centred, numbers line up on the right.
+      const Qt::Alignment h = c == 1 ? Qt::AlignLeft : (c == 4 ? Qt::AlignHCenter : Qt::AlignRight);
+      item->setTextAlignment(h | Qt::AlignVCenter);
       m_grid->setItem(r, c, item);
     }
   }
   applyColumnWidths();
+  // The name column takes what is left of the grid's width.
+  m_grid->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
 }
 
 void DirectResultsPageWidget::applyColumnWidths() {

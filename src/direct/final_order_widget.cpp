@@ -2,6 +2,7 @@
 
 #include "direct/attribute_button_widget.h"
 #include "direct/clickable_label_widget.h"
+#include "direct/drag_payload.h"
 #include "direct/flow_layout_qt.h"
 #include "direct/group_box_widget.h"
 
@@ -34,7 +35,7 @@ void FinalOrderWidget::setAttributes(const QVector<AttributeFace>& attributes) {
     b->setText(attributes[i].name);
     b->setToolTip(attributes[i].name);
     b->setFaceColour(attributes[i].face);
-    b->setTag(QStringLiteral("A%1").arg(i));
+    b->setTag(QString::fromStdString(encodeDragPayload({DragSource::AttributeList, i})));
     b->hide();
     connect(b, &QPushButton::clicked, this, [this, i] { emit attributeClicked(i); });
     m_buttons.append(b);

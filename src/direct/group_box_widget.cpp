@@ -3,6 +3,7 @@
 #include "direct/flow_layout_qt.h"
 
 // Qt
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
@@ -51,6 +52,29 @@ QSize GroupBoxWidget::minimumSizeHint() const {
   return {row * 3, row + 12};
 }
 
+void GroupBoxWidget::setFocusable(bool focusable) {
+  setFocusPolicy(focusable ? Qt::StrongFocus : Qt::NoFocus);
+}
+
+void GroupBoxWidget::keyPressEvent(QKeyEvent* event) {
+  const int key = event->key();
+  if (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter) {
+    emit clicked();
+    return;
+  }
+  QFrame::keyPressEvent(event);
+}
+
+void GroupBoxWidget::focusInEvent(QFocusEvent* event) {
+  QFrame::focusInEvent(event);
+  update();
+}
+
+void GroupBoxWidget::focusOutEvent(QFocusEvent* event) {
+  QFrame::focusOutEvent(event);
+  update();
+}
+
 void GroupBoxWidget::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
     emit clicked();
@@ -60,8 +84,12 @@ void GroupBoxWidget::mouseReleaseEvent(QMouseEvent* event) {
 
 void GroupBoxWidget::paintEvent(QPaintEvent* event) {
   QFrame::paintEvent(event);
-  if (!m_selected) return;
   QPainter p(this);
+  if (hasFocus()) {
+    p.setPen(QPen(palette().color(QPalette::Highlight), 1, Qt::DashLine));
+    p.drawRect(rect().adjusted(5, 5, -6, -6));
+  }
+  if (!m_selected) return;
   p.setPen(QPen(kSelectedFrame, 3));
   p.setBrush(Qt::NoBrush);
   p.drawRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5));

@@ -13,8 +13,11 @@ class GroupBoxWidget : public QFrame {
   Q_OBJECT
 
  public:
-  // A box named objectName with the control-array index in its "index" property.
+  // A box named objectName with the control-array index in its "index" property; a
+  // focusable box is clicked by Space or Enter as well.
   GroupBoxWidget(const QString& objectName, int index, QWidget* parent = nullptr);
+  // Lets the box take the focus (the ordering page's boxes can be chosen by keyboard).
+  void setFocusable(bool focusable);
 
   // The control-array index of the box.
   int index() const { return m_index; }
@@ -37,6 +40,9 @@ class GroupBoxWidget : public QFrame {
 
  protected:
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:

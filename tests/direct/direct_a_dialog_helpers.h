@@ -24,17 +24,25 @@ T* control(const QWidget* root, const char* name, int index = -1) {
   return nullptr;
 }
 
-// The shown group box of the ordering page whose tag is `group`.
-inline GroupBoxWidget* orderBox(const QWidget* root, int group) {
-  for (GroupBoxWidget* box : root->findChildren<GroupBoxWidget*>(QStringLiteral("picOrder"))) {
-    if (box->groupNumber() == group && box->isVisibleTo(root)) return box;
+// The shown group box of the ordering page whose tag is `group`. Found by name and tag only,
+// so that it also finds the boxes of a dialog made inside the component's shared library.
+inline QWidget* orderBox(const QWidget* root, int group) {
+  for (QWidget* box : root->findChildren<QWidget*>(QStringLiteral("picOrder"))) {
+    if (box->property("tag").toInt() == group && box->isVisibleTo(root)) return box;
   }
   return nullptr;
+}
+
+// Whether the group box of `group` carries the selection frame (dialogs of this binary only).
+inline bool orderBoxSelected(const QWidget* root, int group) {
+  const auto* box = qobject_cast<const GroupBoxWidget*>(orderBox(root, group));
+  return box != nullptr && box->isSelected();
 }
 
 // Drags a button with `tag` onto target as the platform would deliver it: enter, move, drop.
 // Returns whether the drop was accepted.
 inline bool dragAndDrop(QWidget* target, const QString& tag) {
+  if (target == nullptr) return false;
   QMimeData mime;
   mime.setData(AttributeDropFilter::mimeType(), tag.toUtf8());
   const QPoint pos = target->rect().center();

@@ -35,6 +35,7 @@ class DirectADialogInputTest : public QObject {
   void onlyDigitsAndOnePeriodReachTheBox();
   void ctrlVAndShiftInsertChangeNothing();
   void mnemonicsPressTheWizardButtons();
+  void theWholeMethodCanBeDoneWithTheKeyboard();
   void helpOpensTheHostsHelpFileAtItsContext();
   void closeBoxCancels();
   void noTextIsClippedOnAnyStep();
@@ -172,6 +173,61 @@ void DirectADialogInputTest::mnemonicsPressTheWizardButtons() {
   QTRY_COMPARE(m_dialog->presenter().WizardStep(), 0);
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_C, Qt::AltModifier);
   QTRY_COMPARE(m_events.log.back(), std::string("UnloadTNWizard"));
+}
+
+void DirectADialogInputTest::theWholeMethodCanBeDoneWithTheKeyboard() {
+  open(test::makeContext(4));
+  const auto key = [](Qt::Key k, Qt::KeyboardModifiers m = Qt::NoModifier) {
+    QTest::keyClick(QApplication::focusWidget(), k, m);
+  };
+  // Step 0: the first attribute has the focus and its information shows.
+  QCOMPARE(QApplication::focusWidget(), control<QWidget>(m_dialog.get(), "cmdAttA", 0));
+  QCOMPARE(control<QLabel>(m_dialog.get(), "labAttName")->text(), QStringLiteral("Att1"));
+  // Space puts the focused attribute in the framed group and moves on to the next one.
+  key(Qt::Key_Space);
+  QCOMPARE(QApplication::focusWidget(), control<QWidget>(m_dialog.get(), "cmdAttA", 1));
+  QCOMPARE(control<QLabel>(m_dialog.get(), "labAttName")->text(), QStringLiteral("Att2"));
+  key(Qt::Key_Space);
+  // Insert puts an empty group above the framed one; the next two go there.
+  key(Qt::Key_I, Qt::AltModifier);
+  QTRY_COMPARE(m_dialog->presenter().ordering().order().GroupCount(), 3);
+  QCOMPARE(QApplication::focusWidget(), control<QWidget>(m_dialog.get(), "cmdAttA", 2));
+  key(Qt::Key_Space);
+  key(Qt::Key_Space);
+  const ImportanceOrder& order = m_dialog->presenter().ordering().order();
+  QCOMPARE(order.AttGroup(0), 2);
+  QCOMPARE(order.AttGroup(1), 2);
+  QCOMPARE(order.AttGroup(2), 1);
+  QCOMPARE(order.AttGroup(3), 1);
+  QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(button("cmdNext")));
+  key(Qt::Key_N, Qt::AltModifier);
+  QTRY_COMPARE(m_dialog->presenter().WizardStep(), 1);
+  // Step 1: the most important group's first button has the focus.
+  QCOMPARE(QApplication::focusWidget(), control<QWidget>(m_dialog.get(), "cmdAttButtons", 2));
+  key(Qt::Key_Space);
+  QCOMPARE(control<QLabel>(m_dialog.get(), "lblRefAtt")->text(), QStringLiteral("Att3"));
+  key(Qt::Key_N, Qt::AltModifier);
+  QTRY_COMPARE(m_dialog->presenter().WizardStep(), 2);
+  // Step 2: the target list has the focus; Tab leads through both boxes to Enter.
+  QCOMPARE(QApplication::focusWidget(), control<QWidget>(m_dialog.get(), "imgcmbTargetAtt"));
+  key(Qt::Key_Tab);
+  QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(lowerBox()));
+  QTest::keyClicks(lowerBox(), QStringLiteral("0.5"));
+  key(Qt::Key_Tab);
+  QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(upperBox()));
+  QTest::keyClicks(upperBox(), QStringLiteral("0.7"));
+  key(Qt::Key_Tab);
+  QCOMPARE(QApplication::focusWidget(), control<QWidget>(m_dialog.get(), "cmdEnter"));
+  QCOMPARE(lowerBox()->text(), QStringLiteral("0.50"));
+  QCOMPARE(upperBox()->text(), QStringLiteral("0.70"));
+  key(Qt::Key_Space);
+  QVERIFY(button("cmdNext")->isEnabled());
+  key(Qt::Key_N, Qt::AltModifier);
+  QTRY_COMPARE(m_dialog->presenter().WizardStep(), 3);
+  key(Qt::Key_F, Qt::AltModifier);
+  QTRY_COMPARE(m_events.log.back(), std::string("UnloadTNWizard"));
+  QCOMPARE(m_events.exports.size(), std::size_t{1});
+  QVERIFY(m_events.unloads.back().weightsDone);
 }
 
 void DirectADialogInputTest::helpOpensTheHostsHelpFileAtItsContext() {

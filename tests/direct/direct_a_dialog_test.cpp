@@ -74,7 +74,7 @@ void DirectADialogTest::placeAll(const QVector<int>& groupOf) {
     while (m_dialog->presenter().ordering().order().GroupCount() < groupOf[j]) {
       QTest::mouseClick(button("cmdAdd"), Qt::LeftButton);
     }
-    GroupBoxWidget* box = test::orderBox(m_dialog.get(), groupOf[j]);
+    QWidget* box = test::orderBox(m_dialog.get(), groupOf[j]);
     QVERIFY(box != nullptr);
     QVERIFY(test::dragAndDrop(box, QStringLiteral("A%1").arg(j)));
   }
@@ -113,7 +113,7 @@ void DirectADialogTest::loadShowsStepZeroAndSendsTheOrderMessage() {
     QCOMPARE(b->text(), QStringLiteral("Att%1").arg(j + 1));
     QCOMPARE(b->faceColour(), QColor(255, 192, 192));
   }
-  QVERIFY(test::orderBox(m_dialog.get(), 1)->isSelected());
+  QVERIFY(test::orderBoxSelected(m_dialog.get(), 1));
   QVERIFY(test::orderBox(m_dialog.get(), 2) != nullptr);
   QCOMPARE(control<QLabel>(m_dialog.get(), "lblNotice3")->text().left(17),
            QStringLiteral("    Notice that: "));
@@ -129,10 +129,10 @@ void DirectADialogTest::fullDirectMethodThroughTheWidgets() {
   }
   // Select group 2 and insert an empty group before it: groups 2 and 3 move down.
   QTest::mouseClick(test::orderBox(m_dialog.get(), 2), Qt::LeftButton);
-  QVERIFY(test::orderBox(m_dialog.get(), 2)->isSelected());
+  QVERIFY(test::orderBoxSelected(m_dialog.get(), 2));
   QTest::mouseClick(button("cmdInsert"), Qt::LeftButton);
   QCOMPARE(m_dialog->presenter().ordering().order().GroupCount(), 4);
-  GroupBoxWidget* moved = test::orderBox(m_dialog.get(), 3);
+  QWidget* moved = test::orderBox(m_dialog.get(), 3);
   QCOMPARE(moved->findChildren<AttributeButtonWidget*>(QStringLiteral("cmdAttB")).size(), 1);
   QCOMPARE(moved->findChildren<AttributeButtonWidget*>(QStringLiteral("cmdAttB"))[0]->tag(),
            QStringLiteral("B2"));
@@ -192,6 +192,12 @@ void DirectADialogTest::fullDirectMethodThroughTheWidgets() {
   test::mouseDrag(lowerHandle, lowerHandle->rect().center(),
                   lowerHandle->mapFrom(cone, cone->toPixels(QPointF(0.0, s)).toPoint()));
   QVERIFY(lights->lampLit(1));
+  // The lit lamp of an invalid judgment blinks between yellow and white.
+  QCOMPARE(m_dialog->timer().interval(), 300);
+  const QColor before = lights->lampColour(1);
+  QTRY_VERIFY(lights->lampColour(1) != before);
+  QVERIFY(lights->lampColour(1) == QColor(Qt::yellow) ||
+          lights->lampColour(1) == QColor(Qt::white));
   QCOMPARE(control<QLineEdit>(m_dialog.get(), "txtWRUpper")->text(), upperText);
   // Both handles below the diagonal: ratios 0.5 and 0.7, consistent.
   test::mouseDrag(
@@ -247,7 +253,7 @@ void DirectADialogTest::dropOnAPlacedButtonMovesIntoItsGroup() {
   QCOMPARE(m_dialog->presenter().ordering().order().AttGroup(0), 2);
   QVERIFY(test::orderBox(m_dialog.get(), 1)->findChildren<AttributeButtonWidget*>().isEmpty());
   QCOMPARE(test::orderBox(m_dialog.get(), 2)->findChildren<AttributeButtonWidget*>().size(), 3);
-  QVERIFY(test::orderBox(m_dialog.get(), 2)->isSelected());
+  QVERIFY(test::orderBoxSelected(m_dialog.get(), 2));
   // A foreign drag is refused.
   QMimeData text;
   text.setText(QStringLiteral("A1"));
