@@ -4,6 +4,7 @@
 #include "component/wizard_dialog_qt.h"
 #include "direct/direct_a_dialog.h"
 #include "selmethod/sel_method_dialog.h"
+#include "tradeoffs/trade_offs_a_dialog.h"
 
 // Qt
 #include <QApplication>
@@ -35,11 +36,8 @@ std::unique_ptr<WizardDialog> WizardDialogFactoryQt::createDirectA(WizardContext
 
 std::unique_ptr<WizardDialog> WizardDialogFactoryQt::createTradeOffsA(WizardContext& context,
                                                                       TradeOffsAEvents& events) {
-  static_cast<void>(context);
-  static_cast<void>(events);
   if (!haveApplication()) return nullptr;
-  m_ui.messageBox(kNotAvailable, MessageIcon::Information, "NORIX");
-  return nullptr;
+  return std::make_unique<TradeOffsADialog>(context, m_ui, events);
 }
 
 void WizardDialogFactoryQt::release(std::unique_ptr<WizardDialog> dialog) {

@@ -10,8 +10,7 @@ namespace tnw {
 class UiServices;
 
 // Makes the wizard's Qt dialogs and releases them with deleteLater, so a dialog released from
-// inside one of its own handlers lives until control is back in the event loop. A method whose
-// dialog is not part of this build is refused with a message, and the user stays on selection.
+// inside one of its own handlers lives until control is back in the event loop.
 class WizardDialogFactoryQt : public WizardDialogFactory {
  public:
   // A factory whose dialogs show their messages, beeps, pointer and help through ui.
@@ -23,7 +22,7 @@ class WizardDialogFactoryQt : public WizardDialogFactory {
   // A new frmDirectA, loaded; null without a QApplication.
   std::unique_ptr<WizardDialog> createDirectA(WizardContext& context,
                                               DirectAEvents& events) override;
-  // A new frmTradeOffsA; null (after telling the user) while this build has no such dialog.
+  // A new frmTradeOffsA; null without a QApplication.
   std::unique_ptr<WizardDialog> createTradeOffsA(WizardContext& context,
                                                  TradeOffsAEvents& events) override;
   // Hides nothing and destroys the dialog once control is back in the event loop.
@@ -31,9 +30,6 @@ class WizardDialogFactoryQt : public WizardDialogFactory {
 
   // Runs work once control is back in the event loop (at once without an application).
   static void runLater(std::function<void()> work);
-
-  // The message shown when a method's dialog is not part of this build.
-  static constexpr const char* kNotAvailable = "This method is not available yet.";
 
  private:
   bool haveApplication() const;

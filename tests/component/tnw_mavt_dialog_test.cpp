@@ -26,8 +26,14 @@ class Host : public TnwMavtEvents {
     if (onUnload) onUnload();
   }
   void SendMasseges(const std::string& Msg) override { log.push_back("SendMasseges " + Msg); }
+  void ExportTradeOffsW(const std::string& TNType, std::vector<double>& Weights,
+                        std::vector<double>&, std::vector<double>&) override {
+    log.push_back("ExportTradeOffsW " + TNType);
+    exports.push_back(Weights);
+  }
 
   std::vector<std::string> log;
+  std::vector<std::vector<double>> exports;
   std::function<void()> onUnload;
 };
 
@@ -157,17 +163,34 @@ class TnwMavtDialogTest : public QObject {
     QVERIFY(selMethod()->isVisible());
   }
 
-  void aMethodWithoutItsDialogTellsTheUserAndStaysOnSelection() {
+  void tradeOffsRunsToTheExportTheHostReceives() {
     auto wizard = showWizard();
+    m_host.onUnload = [&] { wizard->UnloadTNWizard(); };
     QWidget* d = selMethod();
     auto* list = d->findChild<QListWidget*>(QStringLiteral("lstMethods"));
     list->setCurrentRow(1);
     QTest::mouseClick(button(d, "cmdNext"), Qt::LeftButton);
-    QCOMPARE(m_ui.messages().size(), std::size_t{1});
-    QCOMPARE(m_ui.messages()[0].text, std::string(WizardDialogFactoryQt::kNotAvailable));
-    QCOMPARE(m_ui.messages()[0].title, std::string("NORIX"));
-    QVERIFY(d->isVisible());
-    QCOMPARE(topLevel("frmTradeOffsA"), nullptr);
+    QWidget* t = topLevel("frmTradeOffsA");
+    QVERIFY(t != nullptr);
+    QVERIFY(QTest::qWaitForWindowExposed(t));
+    QVERIFY(t->isModal());
+    QVERIFY(!d->isVisible());
+    QVERIFY(m_ui.messages().empty());
+    QCOMPARE(m_host.log.back(), std::string("SendMasseges  Give your preference between the two "
+                                            "selected criteria."));
+    // Six attributes: thirty trade-offs on the random alternatives as drawn, then the results.
+    auto* enter = button(t, "cmdTradeOffEnter");
+    for (int i = 0; i < 30; ++i) QTest::mouseClick(enter, Qt::LeftButton);
+    QTest::mouseClick(button(t, "cmdNext"), Qt::LeftButton);
+    QVERIFY(button(t, "cmdFinish")->isEnabled());
+    m_host.log.clear();
+    QTest::mouseClick(button(t, "cmdFinish"), Qt::LeftButton);
+    QCOMPARE(m_host.log.size(), std::size_t{2});
+    QCOMPARE(m_host.log[0], std::string("ExportTradeOffsW MAVT_TRADEOFFS"));
+    QCOMPARE(m_host.log[1], std::string("UnloadTNWizard 3 true"));
+    QCOMPARE(m_host.exports.size(), std::size_t{1});
+    QCOMPARE(m_host.exports[0].size(), std::size_t{6});
+    QVERIFY(!t->isVisible());
   }
 
   void helpGoesToTheHostsHelpHandler() {

@@ -1,0 +1,33 @@
+#include "tradeoffs/elided_label_widget.h"
+
+// Qt
+#include <QPainter>
+#include <QStyle>
+
+namespace tnw {
+
+ElidedLabelWidget::ElidedLabelWidget(const QString& text, QWidget* parent) : QLabel(parent) {
+  setFullText(text);
+  setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+}
+
+void ElidedLabelWidget::setFullText(const QString& text) {
+  if (this->text() == text) return;
+  setText(text);
+  setToolTip(text);
+}
+
+QSize ElidedLabelWidget::minimumSizeHint() const {
+  return {fontMetrics().horizontalAdvance(QStringLiteral("Mmmm\u2026")),
+          QLabel::minimumSizeHint().height()};
+}
+
+void ElidedLabelWidget::paintEvent(QPaintEvent*) {
+  QPainter p(this);
+  const QRect r = contentsRect();
+  const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, r.width());
+  style()->drawItemText(&p, r, static_cast<int>(alignment()), palette(), isEnabled(), shown,
+                        foregroundRole());
+}
+
+}  // namespace tnw

@@ -1,0 +1,27 @@
+#pragma once
+
+// Qt
+#include <QLabel>
+
+namespace tnw {
+
+// A one-line label that shortens its text with an ellipsis when it is narrower than the text
+// (an attribute's name can be long); the whole text stays available as text() and tooltip.
+class ElidedLabelWidget : public QLabel {
+  Q_OBJECT
+
+ public:
+  // Creates the label with its text.
+  explicit ElidedLabelWidget(const QString& text, QWidget* parent = nullptr);
+
+  // Sets the text and its tooltip.
+  void setFullText(const QString& text);
+
+  // Small enough that a long name never widens the dialog.
+  QSize minimumSizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+}  // namespace tnw

@@ -1,0 +1,42 @@
+#pragma once
+
+// Qt
+#include <QObject>
+
+class QTableWidget;
+
+namespace tnw {
+
+class ResultsPage;
+class TradeOffsAPresenter;
+class TradeOffsResultsWidget;
+struct GridState;
+
+// Connects the controls of the results page widget to the trade-off presenter: the tabs and
+// the chart toolbar's keys go to the presenter, and render() shows the results page's grids,
+// comment, tab and chart. The chart is drawn by the page's own chart routines on a Qt drawing
+// surface.
+class ResultsPageBindingQt : public QObject {
+  Q_OBJECT
+
+ public:
+  // Binds the widget to the presenter.
+  ResultsPageBindingQt(TradeOffsResultsWidget& widget, TradeOffsAPresenter& presenter,
+                       QObject* parent = nullptr);
+
+  // Shows the page's current state in the widgets.
+  void render();
+
+  // Writes a grid's cells (row 0 the headings) into a table widget, changing only what differs.
+  static void renderGrid(QTableWidget& table, const GridState& grid);
+
+ private:
+  void chooseChart(const char* key);
+
+  TradeOffsResultsWidget& m_widget;
+  TradeOffsAPresenter& m_presenter;
+  const ResultsPage& m_page;
+  bool m_rendering = false;
+};
+
+}  // namespace tnw

@@ -1,0 +1,185 @@
+#include "tradeoffs/trade_offs_a_dialog.h"
+
+#include "component/wizard_context.h"
+#include "tradeoffs/clock_random_source.h"
+#include "tradeoffs/judgment_page_binding_qt.h"
+#include "tradeoffs/pc_graph_widget.h"
+#include "tradeoffs/pc_point_widget.h"
+#include "tradeoffs/results_page_binding_qt.h"
+#include "tradeoffs/trade_offs_a_presenter.h"
+#include "tradeoffs/trade_offs_judgment_widget.h"
+#include "tradeoffs/trade_offs_printout_qt.h"
+#include "tradeoffs/trade_offs_results_widget.h"
+
+// Qt
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QTableWidget>
+#include <QTextEdit>
+#include <QVBoxLayout>
+
+namespace tnw {
+
+namespace {
+
+QPushButton* namedButton(const char* name, const QString& text, QWidget* parent) {
+  auto* b = new QPushButton(text, parent);
+  b->setObjectName(QString::fromLatin1(name));
+  b->setAutoDefault(false);
+  return b;
+}
+
+void renderButton(QPushButton* button, const ButtonState& state) {
+  const QString caption = QString::fromStdString(state.caption);
+  if (button->text() != caption) button->setText(caption);
+  button->setEnabled(state.enabled);
+  button->setVisible(state.visible);
+}
+
+}  // namespace
+
+TradeOffsADialog::TradeOffsADialog(WizardContext& context, UiServices& ui, TradeOffsAEvents& events,
+                                   RandomSource* random)
+    : m_context(context) {
+  if (random == nullptr) {
+    m_ownRandom = std::make_unique<ClockRandomSource>();
+    random = m_ownRandom.get();
+  }
+  m_presenter = std::make_unique<TradeOffsAPresenter>(context, ui, events, *random);
+  setObjectName(QStringLiteral("frmTradeOffsA"));
+  setWindowTitle(QString::fromLatin1(TradeOffsAPresenter::kCaption));
+  buildFrame();
+  m_judgmentBinding = new JudgmentPageBindingQt(*m_judgment, *m_presenter, context, this);
+  m_resultsBinding = new ResultsPageBindingQt(*m_results, *m_presenter, this);
+  connectFrame();
+  const QString dir = hostDirectory(context);
+  m_judgment->controls().framePCGraph->setDragCursor(
+      PcGraphWidget::PointA,
+      PcPointWidget::loadDragCursor(dir, QStringLiteral("adrag.ico"), QStringLiteral("A")));
+  m_judgment->controls().framePCGraph->setDragCursor(
+      PcGraphWidget::PointB,
+      PcPointWidget::loadDragCursor(dir, QStringLiteral("bdrag.ico"), QStringLiteral("B")));
+  m_presenter->setChangedCallback([this] { render(); });
+  m_presenter->Form_Load();
+  render();
+  m_judgment->controls().scoreBox[0]->setFocus();
+}
+
+TradeOffsADialog::~TradeOffsADialog() {
+  // The presenter may outlive the widgets by a moment; it must not render into them.
+  m_presenter->setChangedCallback({});
+}
+
+const TradeOffsAPresenter& TradeOffsADialog::presenter() const { return *m_presenter; }
+
+TradeOffsAPresenter& TradeOffsADialog::presenter() { return *m_presenter; }
+
+QString TradeOffsADialog::hostDirectory(const WizardContext& context) {
+  return QString::fromStdString(context.NorixDir);
+}
+
+void TradeOffsADialog::buildFrame() {
+  m_instruction = new QLabel(this);
+  m_instruction->setObjectName(QStringLiteral("lblInstruction"));
+  m_instruction->setWordWrap(true);
+  QFont f = m_instruction->font();
+  f.setBold(true);
+  m_instruction->setFont(f);
+
+  m_judgment = new TradeOffsJudgmentWidget(this);
+  m_results = new TradeOffsResultsWidget(this);
+  m_pages = new QStackedWidget(this);
+  m_pages->setObjectName(QStringLiteral("pages"));
+  m_pages->addWidget(m_judgment);
+  m_pages->addWidget(m_results);
+
+  auto* line = new QFrame(this);
+  line->setFrameShape(QFrame::HLine);
+  line->setFrameShadow(QFrame::Sunken);
+
+  m_cmdPrint = namedButton("cmdPrint", tr("&Print"), this);
+  m_cmdBack = namedButton("cmdBack", tr("< &Back"), this);
+  m_cmdNext = namedButton("cmdNext", tr("&Next >"), this);
+  m_cmdFinish = namedButton("cmdFinish", tr("&Finish"), this);
+  m_cmdCancel = namedButton("cmdCancel", tr("&Cancel"), this);
+  m_cmdHelp = namedButton("cmdTNWizardHelp", tr("&Help"), this);
+  auto* buttons = new QHBoxLayout;
+  buttons->addWidget(m_cmdPrint);
+  buttons->addStretch(1);
+  buttons->addWidget(m_cmdBack);
+  buttons->addWidget(m_cmdNext);
+  buttons->addWidget(m_cmdFinish);
+  buttons->addSpacing(12);
+  buttons->addWidget(m_cmdCancel);
+  buttons->addWidget(m_cmdHelp);
+
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(m_instruction);
+  layout->addWidget(m_pages, 1);
+  layout->addWidget(line);
+  layout->addLayout(buttons);
+}
+
+void TradeOffsADialog::connectFrame() {
+  TradeOffsAPresenter* p = m_presenter.get();
+  connect(m_cmdNext, &QPushButton::clicked, this, [p] { p->cmdNext_Click(); });
+  connect(m_cmdBack, &QPushButton::clicked, this, [p] { p->cmdBack_Click(); });
+  connect(m_cmdFinish, &QPushButton::clicked, this, [p] { p->cmdFinish_Click(); });
+  connect(m_cmdCancel, &QPushButton::clicked, this, [p] { p->cmdCancel_Click(); });
+  connect(m_cmdHelp, &QPushButton::clicked, this, [p] { p->cmdTNWizardHelp_Click(); });
+  connect(m_cmdPrint, &QPushButton::clicked, this, [this] { print(); });
+}
+
+void TradeOffsADialog::closeRequested() { m_presenter->cmdCancel_Click(); }
+
+void TradeOffsADialog::render() {
+  const TradeOffsAPresenter& p = *m_presenter;
+  const QString instruction = QString::fromStdString(p.lblInstruction().caption);
+  if (m_instruction->text() != instruction) m_instruction->setText(instruction);
+  m_instruction->setVisible(p.step() == 1);
+  QWidget* page = p.step() == 2 ? static_cast<QWidget*>(m_results) : m_judgment;
+  if (m_pages->currentWidget() != page) m_pages->setCurrentWidget(page);
+  renderButton(m_cmdBack, p.cmdBack());
+  renderButton(m_cmdNext, p.cmdNext());
+  renderButton(m_cmdFinish, p.cmdFinish());
+  renderButton(m_cmdCancel, p.cmdCancel());
+  renderButton(m_cmdHelp, p.cmdTNWizardHelp());
+  renderButton(m_cmdPrint, p.cmdPrint());
+  // There is nothing to print before the results page is filled.
+  m_cmdPrint->setEnabled(p.cmdPrint().enabled && p.step() == 2);
+  if (p.step() == 1) {
+    m_judgmentBinding->render();
+  } else {
+    m_resultsBinding->render();
+  }
+}
+
+TradeOffsPrintoutQt TradeOffsADialog::printout() const {
+  const auto& c = m_results->controls();
+  TradeOffsPrintoutQt out;
+  out.title = tr("%1: trade-off results").arg(windowTitle());
+  out.weights = TradeOffsPrintoutQt::fromGrid(*c.gridWeights);
+  out.regression = TradeOffsPrintoutQt::fromGrid(*c.gridOverallRegression);
+  out.comment = c.txtComments->toPlainText();
+  out.chart = c.picWeightGraph->painter();
+  return out;
+}
+
+void TradeOffsADialog::printResults(QPagedPaintDevice& device) const { printout().print(device); }
+
+void TradeOffsADialog::print() {
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setDocName(windowTitle());
+  QPrintDialog dialog(&printer, this);
+  dialog.setWindowTitle(tr("Print the results"));
+  if (dialog.exec() != QDialog::Accepted) return;
+  printResults(printer);
+}
+
+}  // namespace tnw

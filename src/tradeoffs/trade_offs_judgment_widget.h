@@ -1,0 +1,87 @@
+#pragma once
+
+// Qt
+#include <QWidget>
+
+class QAction;
+class QButtonGroup;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QPushButton;
+class QRadioButton;
+class QStackedWidget;
+class QTabBar;
+class QToolBar;
+
+namespace tnw {
+
+class PcGraphWidget;
+
+// The judgment page of frmTradeOffsA: the choice of the two attributes, the counters, the
+// numerical approach (the panel framePCGraph with A and B, the four score boxes with their step
+// toolbars and the differences) and the verbal approach (seven degrees of preference), with
+// Clear All and Enter. It only lays the controls out; the dialog connects and fills them.
+class TradeOffsJudgmentWidget : public QWidget {
+  Q_OBJECT
+
+ public:
+  // The page's controls, each named by its objectName.
+  struct Controls {
+    QRadioButton* optPCAutomatic = nullptr;
+    QRadioButton* optPCManual = nullptr;
+    QListWidget* lstTradeOffFirstC = nullptr;
+    QListWidget* lstTradeOffSecondC = nullptr;
+    QLabel* labPCThisNum = nullptr;
+    QLabel* labPCNeccesaryNum = nullptr;
+    QTabBar* tsComparisonApproaches = nullptr;
+    QStackedWidget* approaches = nullptr;
+    QWidget* framePCNumericalC = nullptr;
+    QWidget* framePCVerbalC = nullptr;
+    PcGraphWidget* framePCGraph = nullptr;
+    QLabel* labPCCriterion1 = nullptr;
+    QLabel* labPCCriterion2 = nullptr;
+    QLabel* labPCBestT = nullptr;
+    QLabel* labPCWorstT = nullptr;
+    QLabel* labScoreHead1 = nullptr;
+    QLabel* labScoreHead2 = nullptr;
+    // Score boxes in the order (1) A first, (2) A second, (3) B first, (4) B second.
+    QLineEdit* scoreBox[4] = {};
+    // The step toolbars tbScoreChanger(0..3), one per score box, and their Up/Down buttons.
+    QToolBar* tbScoreChanger[4] = {};
+    QAction* stepUp[4] = {};
+    QAction* stepDown[4] = {};
+    QLabel* labTradeOffDiff1 = nullptr;
+    QLabel* labTradeOffDiff2 = nullptr;
+    QRadioButton* optPCVerbal[7] = {};
+    // The alternatives repeated beside the verbal scale: the two attributes' names and the
+    // scores in the order of scoreBox.
+    QLabel* verbalHead[2] = {};
+    QLabel* verbalScore[4] = {};
+    QButtonGroup* verbalGroup = nullptr;
+    QPushButton* cmdTradeOffClearAll = nullptr;
+    QPushButton* cmdTradeOffEnter = nullptr;
+  };
+
+  // Builds the page with every control.
+  explicit TradeOffsJudgmentWidget(QWidget* parent = nullptr);
+
+  // The page's controls.
+  const Controls& controls() const { return m_c; }
+
+  // The score boxes' objectNames, in the order of Controls::scoreBox.
+  static const char* scoreBoxName(int box);
+
+ private:
+  QWidget* buildSelection();
+  QWidget* buildCounters();
+  QWidget* buildNumerical();
+  QWidget* buildScores();
+  QWidget* buildVerbal();
+  QWidget* buildVerbalAlternatives();
+  QToolBar* buildStepToolbar(int box);
+
+  Controls m_c;
+};
+
+}  // namespace tnw

@@ -1,0 +1,193 @@
+#include "graphs/drawing_surface_qt.h"
+
+#include "graphs/chart_export_qt.h"
+#include "graphs/graphs.h"
+#include "graphs/palette.h"
+
+// Qt
+#include <QApplication>
+#include <QFontMetricsF>
+#include <QPrinter>
+#include <QTemporaryDir>
+#include <QtTest>
+
+// Std
+#include <cmath>
+#include <limits>
+
+namespace tnw {
+
+namespace {
+
+// The chart frame's user coordinates.
+void chartScale(DrawingSurface& s) { s.setScale(-15, 120, 140, -30); }
+
+ChartData threeItems() {
+  ChartData d;
+  d.title = "Attribute Weights and Their Ranges";
+  d.n = 3;
+  d.names = {"Price", "Comfort", "Safety"};
+  d.seriesCount = 3;
+  d.data = {{0.5, 0.3, 0.4}, {0.3, 0.1, 0.2}, {0.45, 0.35, 0.4}};
+  d.legend = {"High Est.", "Low Est.", "Close Est."};
+  return d;
+}
+
+int countColour(const QImage& image, QRgb colour) {
+  int n = 0;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) n += image.pixel(x, y) == colour ? 1 : 0;
+  }
+  return n;
+}
+
+}  // namespace
+
+class DrawingSurfaceQtTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void cleanup() { QVERIFY(QApplication::topLevelWidgets().isEmpty()); }
+
+  void paletteIsTheClassicSixteenColours() {
+    QCOMPARE(DrawingSurfaceQt::paletteColour(0), QColor(0, 0, 0));
+    QCOMPARE(DrawingSurfaceQt::paletteColour(9), QColor(0, 0, 255));
+    QCOMPARE(DrawingSurfaceQt::paletteColour(10), QColor(0, 255, 0));
+    QCOMPARE(DrawingSurfaceQt::paletteColour(12), QColor(255, 0, 0));
+    QCOMPARE(DrawingSurfaceQt::paletteColour(13), QColor(255, 0, 255));
+    QCOMPARE(DrawingSurfaceQt::paletteColour(15), QColor(255, 255, 255));
+    QCOMPARE(DrawingSurfaceQt::paletteColour(16), QColor(0, 0, 0));
+  }
+
+  void scaleMapsTheCornersOntoTheArea() {
+    QImage image(310, 300, QImage::Format_RGB32);
+    QPainter p(&image);
+    DrawingSurfaceQt s(p, QRectF(10, 0, 310, 300));
+    chartScale(s);
+    QCOMPARE(s.toDevice(-15, 120), QPointF(10, 0));
+    QCOMPARE(s.toDevice(140, -30), QPointF(320, 300));
+    QCOMPARE(s.toDevice(0, 0), QPointF(40, 240));
+  }
+
+  void textIsMeasuredInUserUnitsWithTheHeightSignedAsTheAxis() {
+    QImage image(310, 300, QImage::Format_RGB32);
+    QPainter p(&image);
+    DrawingSurfaceQt s(p, QRectF(0, 0, 310, 300));
+    chartScale(s);
+    const QFontMetricsF fm(p.font(), &image);
+    QCOMPARE(s.textWidth("0.0000"), fm.horizontalAdvance(QStringLiteral("0.0000")) / 2.0);
+    QCOMPARE(s.textHeight("X"), -fm.height() / 2.0);
+    // Print goes to the start of the next line: y moves down by one text height.
+    s.setCurrentX(50);
+    s.setCurrentY(105);
+    s.print("Title");
+    s.setCurrentX(50);
+    s.print("Next");
+    QVERIFY(countColour(image, qRgb(0, 0, 0)) > 0);
+  }
+
+  void dottedLinesLeaveGapsAndWidthsFollowTheSetting() {
+    QImage image(310, 300, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    {
+      QPainter p(&image);
+      DrawingSurfaceQt s(p, QRectF(0, 0, 310, 300));
+      chartScale(s);
+      s.setLineStyle(LineStyle::Dot);
+      s.line(0, 50, 100, 50, 9);
+      s.setLineStyle(LineStyle::Solid);
+      s.setLineWidth(2);
+      s.line(0, 20, 100, 20, 12);
+    }
+    const int blue = countColour(image, qRgb(0, 0, 255));
+    QVERIFY(blue > 40);
+    QVERIFY(blue < 200);  // a solid 1-pixel line of 200 pixels would fill the row
+    QVERIFY(countColour(image, qRgb(255, 0, 0)) >= 2 * 190);
+  }
+
+  void nonFiniteCoordinatesDrawNothing() {
+    QImage image(100, 100, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    {
+      QPainter p(&image);
+      DrawingSurfaceQt s(p, QRectF(0, 0, 100, 100));
+      chartScale(s);
+      const double nan = std::numeric_limits<double>::quiet_NaN();
+      s.line(0, nan, 100, 0, 0);
+      s.fillBox(0, 0, std::numeric_limits<double>::infinity(), 10, 0);
+      s.setCurrentY(nan);
+      s.print("x");
+    }
+    QCOMPARE(countColour(image, qRgb(0, 0, 0)), 0);
+  }
+
+  void chartsDrawIntoAnImageInTheirColours() {
+    const ChartData d = threeItems();
+    Graphs g;
+    g.GridColour = 9;
+    g.DrawFrame = true;
+    const auto draw = [&](void (Graphs::*routine)(DrawingSurface&, const ChartData&) const) {
+      return ChartExportQt::toImage(
+          [&](QPainter& p, const QRectF& area) {
+            DrawingSurfaceQt s(p, area);
+            (g.*routine)(s, d);
+          },
+          QSize(465, 450));
+    };
+    const QImage a = draw(&Graphs::Display_HLCGraphAMain);
+    const QImage b = draw(&Graphs::Display_HLCGraphBMain);
+    QVERIFY(countColour(a, qRgb(255, 0, 255)) > 0);
+    QVERIFY(countColour(a, qRgb(255, 0, 0)) > 0);
+    QCOMPARE(countColour(b, qRgb(255, 0, 255)), 0);
+    QVERIFY(countColour(b, qRgb(0, 255, 0)) > 0);
+  }
+
+  void chartsWriteSvgWithTextAndLinesAsVectors() {
+    const ChartData d = threeItems();
+    Graphs g;
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("chart.svg"));
+    QVERIFY(ChartExportQt::toSvg(
+        [&](QPainter& p, const QRectF& area) {
+          DrawingSurfaceQt s(p, area);
+          g.Display_VBarGraphMain(s, d);
+        },
+        path, QSize(465, 450), QStringLiteral("Weights")));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray svg = file.readAll();
+    QVERIFY(svg.contains("<svg"));
+    QVERIFY(svg.contains("Comfort"));
+    QVERIFY(svg.contains("<polyline") || svg.contains("<path") || svg.contains("<line"));
+    QVERIFY(!svg.contains("<image"));
+  }
+
+  void chartsPrintOnAPdfPage() {
+    const ChartData d = threeItems();
+    Graphs g;
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("chart.pdf"));
+    {
+      QPrinter printer(QPrinter::HighResolution);
+      printer.setOutputFormat(QPrinter::PdfFormat);
+      printer.setOutputFileName(path);
+      ChartExportQt::toPage(
+          [&](QPainter& p, const QRectF& area) {
+            DrawingSurfaceQt s(p, area);
+            g.Display_HLCGraphAMain(s, d);
+          },
+          printer);
+    }
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray pdf = file.readAll();
+    QVERIFY(pdf.startsWith("%PDF"));
+    QVERIFY(pdf.contains("/Font"));
+    QVERIFY(!pdf.contains("/Subtype /Image"));
+  }
+};
+
+}  // namespace tnw
+
+QTEST_MAIN(tnw::DrawingSurfaceQtTest)
+#include "drawing_surface_qt_test.moc"
