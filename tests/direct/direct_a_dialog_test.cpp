@@ -38,6 +38,7 @@ class DirectADialogTest : public QObject {
   void thirtyOneAttributesScrollInBothLists();
   void cancelOnEveryStepExportsNothing();
   void backOnStepZeroReturnsToMethodSelection();
+  void backFromTheReferenceKeepsTheOrderAndNextReordersAgain();
 
  private:
   void open(int n);
@@ -312,6 +313,29 @@ void DirectADialogTest::backOnStepZeroReturnsToMethodSelection() {
   m_events.log.clear();
   QTest::mouseClick(button("cmdBack"), Qt::LeftButton);
   QCOMPARE(m_events.log, (std::vector<std::string>{"ShowTNWSelMethod", "UnloadDirectA"}));
+}
+
+void DirectADialogTest::backFromTheReferenceKeepsTheOrderAndNextReordersAgain() {
+  open(3);
+  placeAll({1, 2, 2});
+  QTest::mouseClick(button("cmdNext"), Qt::LeftButton);
+  QTest::mouseClick(control<QPushButton>(m_dialog.get(), "cmdAttButtons", 1), Qt::LeftButton);
+  QVERIFY(m_dialog->timer().isActive());
+  QTest::mouseClick(button("cmdBack"), Qt::LeftButton);
+  QCOMPARE(m_dialog->presenter().WizardStep(), 0);
+  QVERIFY(!m_dialog->timer().isActive());
+  QVERIFY(button("cmdNext")->isEnabled());
+  QCOMPARE(test::orderBox(m_dialog.get(), 2)->findChildren<AttributeButtonWidget*>().size(), 2);
+  // Attribute 2 joins attribute 0; the reference step shows two groups of the new order.
+  QVERIFY(test::dragAndDrop(test::orderBox(m_dialog.get(), 1), QStringLiteral("B2")));
+  QTest::mouseClick(button("cmdNext"), Qt::LeftButton);
+  QCOMPARE(m_context.FinalAttGroup, (std::vector<std::int16_t>{1, 2, 1}));
+  auto* b2 = control<AttributeButtonWidget>(m_dialog.get(), "cmdAttButtons", 2);
+  auto* b0 = control<AttributeButtonWidget>(m_dialog.get(), "cmdAttButtons", 0);
+  QCOMPARE(b2->parentWidget(), b0->parentWidget());
+  QCOMPARE(control<QLabel>(m_dialog.get(), "lblRefAtt")->text(), QString());
+  QVERIFY(!control<QWidget>(m_dialog.get(), "picIndicator")->isVisible());
+  QVERIFY(!button("cmdNext")->isEnabled());
 }
 
 }  // namespace tnw
