@@ -214,10 +214,21 @@ void DirectADialog::render() {
     m_renderAgain = false;
     const int step = m_presenter.WizardStep();
     setWindowTitle(QString::fromStdString(m_presenter.caption()));
-    m_orderPage->render(m_presenter);
-    if (step >= 1) m_referencePage->render(m_presenter, m_context);
-    if (step >= 2) m_judgmentPage->render(m_presenter, m_context);
-    if (step == 3) m_resultsPage->render(m_presenter.grid());
+    // Only the page on show is rendered; a page is brought up to date when its step comes.
+    switch (step) {
+      case 0:
+        m_orderPage->render(m_presenter);
+        break;
+      case 1:
+        m_referencePage->render(m_presenter, m_context);
+        break;
+      case 2:
+        m_judgmentPage->render(m_presenter, m_context);
+        break;
+      default:
+        m_resultsPage->render(m_presenter.grid());
+        break;
+    }
     renderControls();
     renderHeader();
     if (m_stack->currentIndex() != step) {
@@ -238,7 +249,7 @@ void DirectADialog::renderControls() {
   const ControlRegistry& controls = m_presenter.controls();
   for (const std::string& name : controls.names()) {
     if (name == "frmDirectA" || name == "picIndicator") continue;
-    QWidget* w = findChild<QWidget*>(QString::fromStdString(name));
+    QWidget* w = namedControl(name);
     if (w == nullptr) continue;
     const ControlState& state = controls.control(name);
     const QString caption = QString::fromStdString(state.caption);
@@ -260,6 +271,15 @@ void DirectADialog::renderControls() {
     }
     w->setEnabled(state.enabled);
   }
+}
+
+QWidget* DirectADialog::namedControl(const std::string& name) {
+  // The named controls never change; looking each up once keeps a keystroke cheap.
+  auto it = m_named.find(name);
+  if (it == m_named.end()) {
+    it = m_named.emplace(name, findChild<QWidget*>(QString::fromStdString(name))).first;
+  }
+  return it->second;
 }
 
 void DirectADialog::renderHeader() {

@@ -4,7 +4,12 @@
 #include "direct/direct_a_presenter.h"
 
 // Qt
+#include <QPointer>
 #include <QTimer>
+
+// Std
+#include <map>
+#include <string>
 
 class QLabel;
 class QLineEdit;
@@ -52,6 +57,7 @@ class DirectADialog : public WizardDialogQt {
   void render();
   void renderControls();
   void renderHeader();
+  QWidget* namedControl(const std::string& name);
   void applyFocusRequest();
   void focusStep(int step);
 
@@ -72,6 +78,7 @@ class DirectADialog : public WizardDialogQt {
   QPushButton* m_cmdFinish = nullptr;
   QPushButton* m_cmdCancel = nullptr;
   QPushButton* m_cmdHelp = nullptr;
+  std::map<std::string, QPointer<QWidget>> m_named;
   bool m_rendering = false;
   bool m_renderAgain = false;
 };

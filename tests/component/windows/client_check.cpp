@@ -210,7 +210,7 @@ void runWizard(_TNW_MAVT* wizard, const std::wstring& dir) {
   VariantClear(&norixDir);
   print("ShowTNWizard: " + hr(wizard->ShowTNWizard()));
   // The dialogs act from the message loop, as a user would.
-  for (int i = 0; i < 500 && !sink.unloaded; ++i) {
+  for (int i = 0; i < 3000 && !sink.unloaded; ++i) {
     MSG message;
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
     if (!sink.unloaded) Sleep(10);

@@ -2,10 +2,11 @@
 ' handlers, which print every event with its arguments' types and values, and a wait that runs
 ' the message loop until the wizard asks to be unloaded.
 Option Explicit
-Dim o, dir, done, unloadInEvent, changeArrays, writeNonNumbers
+Dim o, dir, done, unloadInEvent, releaseInEvent, changeArrays, writeNonNumbers
 dir = Host.Argument(0)
 done = False
 unloadInEvent = True
+releaseInEvent = False
 changeArrays = False
 writeNonNumbers = False
 
@@ -27,6 +28,12 @@ Sub ev_UnloadTNWizard(fIndex, WeightsDone)
     TypeName(WeightsDone) & " " & WeightsDone
   ' A host ends the wizard from inside this event.
   If unloadInEvent Then o.UnloadTNWizard
+  ' A host may even let go of the object here.
+  If releaseInEvent Then
+    WScript.DisconnectObject o
+    Set o = Nothing
+    WScript.Echo "released the object inside the event"
+  End If
   done = True
 End Sub
 
@@ -82,7 +89,7 @@ End Sub
 Sub WaitForUnload()
   Dim n
   n = 0
-  Do While Not done And n < 500
+  Do While Not done And n < 3000
     WScript.Sleep 10
     n = n + 1
   Loop

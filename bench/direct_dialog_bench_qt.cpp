@@ -1,0 +1,143 @@
+// frmDirectA's reaction to the user at 31 attributes, with the real widgets on the offscreen
+// platform: one step of a handle drag, and one key typed into a ratio box (and taken back).
+
+#include "common/recording_ui_services.h"
+#include "component/wizard_context.h"
+#include "direct/attribute_drop_filter_qt.h"
+#include "direct/cone_area_widget.h"
+#include "direct/direct_a_dialog.h"
+#include "direct/direct_a_events.h"
+
+// Qt
+#include <QApplication>
+#include <QDropEvent>
+#include <QFrame>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QPushButton>
+
+// Google Benchmark
+#include <benchmark/benchmark.h>
+
+// Std
+#include <memory>
+#include <string>
+
+namespace tnw {
+namespace {
+
+// Events go nowhere: the benchmark measures the dialog.
+class NoEvents : public DirectAEvents {
+ public:
+  void ExportDirectAW(const std::string&, std::int16_t, std::vector<double>&, std::vector<double>&,
+                      std::vector<double>&) override {}
+  void SendMasseges(const std::string&) override {}
+  void ShowTNWSelMethod() override {}
+  void UnloadDirectA() override {}
+  void UnloadTNWizard(std::int16_t, bool) override {}
+};
+
+void drop(QWidget* target, const QString& tag) {
+  QMimeData mime;
+  mime.setData(AttributeDropFilter::mimeType(), tag.toUtf8());
+  const QPoint pos = target->rect().center();
+  QDragEnterEvent enter(pos, Qt::MoveAction, &mime, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(target, &enter);
+  QDropEvent dropEvent(QPointF(pos), Qt::MoveAction, &mime, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(target, &dropEvent);
+}
+
+QWidget* child(const QWidget* root, const char* name, int index = -1) {
+  for (QWidget* w : root->findChildren<QWidget*>(QString::fromUtf8(name))) {
+    if (index < 0 || w->property("index").toInt() == index) return w;
+  }
+  return nullptr;
+}
+
+void click(QWidget* w) { static_cast<QPushButton*>(w)->click(); }
+
+// A shown dialog of 31 attributes on its judgment page: four groups, reference attribute 0.
+struct JudgmentPageAt31 {
+  JudgmentPageAt31() {
+    context.model.NumAtt = 31;
+    for (std::size_t i = 0; i < 31; ++i) {
+      context.model.AttName[i] = "Attribute " + std::to_string(i + 1);
+      context.model.AttOrientation[i] = i % 3 == 0 ? "1" : "0";
+      context.model.AttScoreHigh[i] = 10.0;
+    }
+    dialog = std::make_unique<DirectADialog>(context, ui, events);
+    dialog->show();
+    click(child(dialog.get(), "cmdAdd"));
+    click(child(dialog.get(), "cmdAdd"));
+    for (int j = 0; j < 31; ++j) {
+      for (QWidget* box : dialog->findChildren<QWidget*>(QStringLiteral("picOrder"))) {
+        if (box->property("tag").toInt() == 1 + j % 4) drop(box, QStringLiteral("A%1").arg(j));
+      }
+    }
+    click(child(dialog.get(), "cmdNext"));
+    click(child(dialog.get(), "cmdAttButtons", 0));
+    click(child(dialog.get(), "cmdNext"));
+    QCoreApplication::processEvents();
+  }
+
+  WizardContext context;
+  RecordingUiServices ui;
+  NoEvents events;
+  std::unique_ptr<DirectADialog> dialog;
+};
+
+void BM_HandleDragStep(benchmark::State& state) {
+  JudgmentPageAt31 page;
+  auto* cone = page.dialog->findChild<ConeAreaWidget*>(QStringLiteral("picTradeOffsRange"));
+  QFrame* handle = cone->handle(1);
+  const QPoint start = handle->rect().center();
+  QMouseEvent press(QEvent::MouseButtonPress, QPointF(start), QPointF(handle->mapToGlobal(start)),
+                    Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(handle, &press);
+  const QPoint a =
+      cone->toPixels(QPointF(0.5 * cone->areaSide(), 0.6 * cone->areaSide())).toPoint();
+  const QPoint b =
+      cone->toPixels(QPointF(0.6 * cone->areaSide(), 0.5 * cone->areaSide())).toPoint();
+  bool toA = true;
+  for (auto _ : state) {
+    const QPoint target = handle->mapFrom(cone, toA ? a : b);
+    QMouseEvent move(QEvent::MouseMove, QPointF(target), QPointF(handle->mapToGlobal(target)),
+                     Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(handle, &move);
+    // The repaint of the cone and the boxes belongs to the step.
+    QCoreApplication::processEvents();
+    toA = !toA;
+  }
+}
+BENCHMARK(BM_HandleDragStep);
+
+void BM_RatioBoxKey(benchmark::State& state) {
+  JudgmentPageAt31 page;
+  auto* box = static_cast<QLineEdit*>(child(page.dialog.get(), "txtWRLower"));
+  box->setFocus();
+  box->end(false);
+  for (auto _ : state) {
+    QKeyEvent digit(QEvent::KeyPress, Qt::Key_5, Qt::NoModifier, QStringLiteral("5"));
+    QApplication::sendEvent(box, &digit);
+    QKeyEvent back(QEvent::KeyPress, Qt::Key_Backspace, Qt::NoModifier);
+    QApplication::sendEvent(box, &back);
+    QCoreApplication::processEvents();
+  }
+  state.SetItemsProcessed(state.iterations() * 2);
+}
+BENCHMARK(BM_RatioBoxKey);
+
+}  // namespace
+}  // namespace tnw
+
+int main(int argc, char** argv) {
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication app(argc, argv);
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+  benchmark::RunSpecifiedBenchmarks();
+  benchmark::Shutdown();
+  return 0;
+}
