@@ -91,11 +91,40 @@ void DrawingSurfaceQt::fillBox(double x1, double y1, double x2, double y2, int c
                      paletteColour(colour));
 }
 
+void DrawingSurfaceQt::setElidedTexts(std::vector<std::string> texts, double maxWidth) {
+  m_elidedTexts = std::move(texts);
+  m_elideWidth = maxWidth;
+}
+
+QFont DrawingSurfaceQt::fontFitting(const QFont& base, const QPaintDevice* device,
+                                    const std::vector<std::string>& texts, double width) {
+  double longest = 0.0;
+  const QFontMetricsF fm(base, device);
+  for (const std::string& t : texts)
+    longest = std::max(longest, fm.horizontalAdvance(toQString(t)));
+  if (longest <= width || longest <= 0.0 || width <= 0.0) return base;
+  QFont font = base;
+  const double pixels = QFontMetricsF(base, device).height() / 1.2 * width / longest;
+  font.setPixelSize(std::max(7, static_cast<int>(pixels)));
+  return font;
+}
+
+QString DrawingSurfaceQt::shown(const std::string& text) const {
+  const QString t = toQString(text);
+  if (m_elideWidth <= 0.0 || m_right == m_left ||
+      std::find(m_elidedTexts.begin(), m_elidedTexts.end(), text) == m_elidedTexts.end()) {
+    return t;
+  }
+  const QFontMetricsF fm(m_painter.font(), m_painter.device());
+  const double device = m_elideWidth * m_area.width() / std::abs(m_right - m_left);
+  return fm.elidedText(t, Qt::ElideRight, device);
+}
+
 double DrawingSurfaceQt::textWidth(const std::string& text) const {
   const QFontMetricsF fm(m_painter.font(), m_painter.device());
   const double w = m_right - m_left;
   if (m_area.width() <= 0) return 0.0;
-  return fm.horizontalAdvance(toQString(text)) * std::abs(w) / m_area.width();
+  return fm.horizontalAdvance(shown(text)) * std::abs(w) / m_area.width();
 }
 
 double DrawingSurfaceQt::textHeight(const std::string&) const {
@@ -114,7 +143,7 @@ void DrawingSurfaceQt::print(const std::string& text) {
     const QFontMetricsF fm(m_painter.font(), m_painter.device());
     m_painter.setPen(Qt::black);
     const QPointF topLeft = toDevice(m_currentX, m_currentY);
-    m_painter.drawText(QPointF(topLeft.x(), topLeft.y() + fm.ascent()), toQString(text));
+    m_painter.drawText(QPointF(topLeft.x(), topLeft.y() + fm.ascent()), shown(text));
   }
   m_currentX = m_left;
   m_currentY += textHeight(text);

@@ -10,6 +10,7 @@
 
 // Std
 #include <string>
+#include <vector>
 
 namespace tnw {
 
@@ -42,11 +43,20 @@ class DrawingSurfaceQt : public DrawingSurface {
   // in an area `areaWidth` device units wide; never below 6 pixels.
   static QFont fittedFont(const QFont& base, const QPaintDevice* device, double areaWidth);
 
+  // Shortens the given texts (the item names under a chart) with an ellipsis to at most
+  // maxWidth user units, when measured and when printed alike, so that they keep to their slots.
+  void setElidedTexts(std::vector<std::string> texts, double maxWidth);
+  // The font, at most `base`, in which the longest of `texts` fits `width` device units; never
+  // below 7 pixels.
+  static QFont fontFitting(const QFont& base, const QPaintDevice* device,
+                           const std::vector<std::string>& texts, double width);
+
   // The device point of a user point.
   QPointF toDevice(double x, double y) const;
 
  private:
   void applyPen(const QColor& colour);
+  QString shown(const std::string& text) const;
 
   QPainter& m_painter;
   QRectF m_area;
@@ -59,6 +69,8 @@ class DrawingSurfaceQt : public DrawingSurface {
   double m_currentX = 0.0;
   double m_currentY = 0.0;
   double m_pixelScale = 1.0;
+  std::vector<std::string> m_elidedTexts;
+  double m_elideWidth = 0.0;
 };
 
 }  // namespace tnw

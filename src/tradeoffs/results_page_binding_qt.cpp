@@ -28,8 +28,16 @@ ResultsPageBindingQt::ResultsPageBindingQt(TradeOffsResultsWidget& widget,
   }
   const ResultsPage* shown = &m_page;
   c.picWeightGraph->setPainter([shown](QPainter& painter, const QRectF& area) {
-    painter.setFont(DrawingSurfaceQt::fittedFont(painter.font(), painter.device(), area.width()));
+    // The charts span 155 user units, and each item has a slot of 100 / n under the plot:
+    // the font shrinks until the names fit their slots, and names still too long are elided.
+    const ChartData& chart = shown->chart();
+    const double slot = chart.n > 0 ? 100.0 / chart.n : 100.0;
+    QFont font = DrawingSurfaceQt::fittedFont(painter.font(), painter.device(), area.width());
+    font = DrawingSurfaceQt::fontFitting(font, painter.device(), chart.names,
+                                         slot * 0.95 * area.width() / 155.0);
+    painter.setFont(font);
     DrawingSurfaceQt surface(painter, area);
+    surface.setElidedTexts(chart.names, slot * 0.95);
     shown->drawChart(surface);
   });
 }

@@ -105,6 +105,34 @@ class DrawingSurfaceQtTest : public QObject {
     QVERIFY(countColour(image, qRgb(255, 0, 0)) >= 2 * 190);
   }
 
+  void itemNamesAreElidedToTheirSlotWhenMeasuredAndPrinted() {
+    QImage image(310, 300, QImage::Format_RGB32);
+    QPainter p(&image);
+    DrawingSurfaceQt s(p, QRectF(0, 0, 310, 300));
+    chartScale(s);
+    const std::string name = "A very long attribute name indeed";
+    const double full = s.textWidth(name);
+    s.setElidedTexts({name}, 20.0);
+    QVERIFY(full > 20.0);
+    QVERIFY(s.textWidth(name) <= 20.0);
+    QVERIFY(s.textWidth(name) > 0.0);
+    // Other texts keep their width.
+    QCOMPARE(s.textWidth("0.2500"),
+             QFontMetricsF(p.font(), &image).horizontalAdvance(QStringLiteral("0.2500")) / 2.0);
+  }
+
+  void fontShrinksUntilTheLongestNameFits() {
+    QImage image(10, 10, QImage::Format_RGB32);
+    QFont base;
+    base.setPixelSize(20);
+    const std::vector<std::string> names = {"Short", "Fuel consumption"};
+    const QFont f = DrawingSurfaceQt::fontFitting(base, &image, names, 60.0);
+    QVERIFY(f.pixelSize() < 20);
+    QVERIFY(f.pixelSize() >= 7);
+    const QFont same = DrawingSurfaceQt::fontFitting(base, &image, names, 1000.0);
+    QCOMPARE(same.pixelSize(), 20);
+  }
+
   void nonFiniteCoordinatesDrawNothing() {
     QImage image(100, 100, QImage::Format_RGB32);
     image.fill(Qt::white);
