@@ -34,6 +34,7 @@ class DirectADialogInputTest : public QObject {
   void enterInTheUpperBoxChecksTheLowerBound();
   void onlyDigitsAndOnePeriodReachTheBox();
   void ctrlVAndShiftInsertChangeNothing();
+  void refusedTargetsShowTheirMessages();
   void mnemonicsPressTheWizardButtons();
   void theWholeMethodCanBeDoneWithTheKeyboard();
   void helpOpensTheHostsHelpFileAtItsContext();
@@ -157,6 +158,36 @@ void DirectADialogInputTest::ctrlVAndShiftInsertChangeNothing() {
   QCOMPARE(lowerBox()->text(), QStringLiteral("0.80"));
   QCOMPARE(lowerBox()->contextMenuPolicy(), Qt::NoContextMenu);
   QVERIFY(!lowerBox()->acceptDrops());
+}
+
+void DirectADialogInputTest::refusedTargetsShowTheirMessages() {
+  open(test::makeContext(3));
+  QVERIFY(test::dragAndDrop(test::orderBox(m_dialog.get(), 1), QStringLiteral("A0")));
+  QVERIFY(test::dragAndDrop(test::orderBox(m_dialog.get(), 1), QStringLiteral("A1")));
+  QVERIFY(test::dragAndDrop(test::orderBox(m_dialog.get(), 2), QStringLiteral("A2")));
+  QTest::mouseClick(button("cmdNext"), Qt::LeftButton);
+  QTest::mouseClick(control<QPushButton>(m_dialog.get(), "cmdAttButtons", 0), Qt::LeftButton);
+  QTest::mouseClick(button("cmdNext"), Qt::LeftButton);
+  auto* combo = control<QComboBox>(m_dialog.get(), "imgcmbTargetAtt");
+  QCOMPARE(combo->currentIndex(), 2);
+  m_ui.clearMessages();
+  // A tie of the reference: the message, and the list goes back to the current target.
+  combo->setCurrentIndex(1);
+  emit combo->activated(1);
+  QCOMPARE(m_ui.messages().size(), std::size_t{1});
+  QCOMPARE(m_ui.messages()[0].text,
+           "The selected attribute is in the same group with the reference attribute for the "
+           "benefit-oriened ones. It is not necessary to make tradeoffs between them.");
+  QCOMPARE(combo->currentIndex(), 2);
+  // The reference itself: the message; the list keeps the pick, the target stays.
+  combo->setCurrentIndex(0);
+  emit combo->activated(0);
+  QCOMPARE(m_ui.messages().size(), std::size_t{2});
+  QCOMPARE(m_ui.messages()[1].text,
+           "Please choose different attributes to make pairwise comparisons!");
+  QCOMPARE(combo->currentIndex(), 0);
+  QCOMPARE(m_dialog->presenter().judgment().targets().currentTarget(), 2);
+  QCOMPARE(control<QLabel>(m_dialog.get(), "lblTargetAtt")->text(), QStringLiteral("Att3"));
 }
 
 void DirectADialogInputTest::mnemonicsPressTheWizardButtons() {
