@@ -39,6 +39,7 @@ class DirectADialogInputTest : public QObject {
   void theWholeMethodCanBeDoneWithTheKeyboard();
   void helpOpensTheHostsHelpFileAtItsContext();
   void closeBoxCancels();
+  void aModelWithoutUsableAttributesStillCancels();
   void noTextIsClippedOnAnyStep();
   void resumesFromTheSampleWithAnEarlierResult();
 
@@ -275,6 +276,20 @@ void DirectADialogInputTest::closeBoxCancels() {
   QVERIFY(!m_events.unloads.back().weightsDone);
   QVERIFY(m_events.exports.empty());
   QVERIFY(m_dialog->isVisible());
+}
+
+void DirectADialogInputTest::aModelWithoutUsableAttributesStillCancels() {
+  for (const int numAtt : {0, 40}) {
+    WizardContext context = test::makeContext(0);
+    context.model.NumAtt = static_cast<std::int16_t>(numAtt);
+    open(std::move(context));
+    QVERIFY(!button("cmdNext")->isEnabled());
+    QVERIFY(m_dialog->findChildren<AttributeButtonWidget*>(QStringLiteral("cmdAttA")).isEmpty());
+    QTest::mouseClick(button("cmdCancel"), Qt::LeftButton);
+    QCOMPARE(m_events.log.back(), std::string("UnloadTNWizard"));
+    QVERIFY(m_events.exports.empty());
+    cleanup();
+  }
 }
 
 void DirectADialogInputTest::noTextIsClippedOnAnyStep() {
