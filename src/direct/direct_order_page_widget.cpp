@@ -281,11 +281,6 @@ void DirectOrderPageWidget::setGroups(const QVector<GroupView>& groups, int fram
   }
 }
 
-void DirectOrderPageWidget::setGroupButtonsEnabled(bool enabled) {
-  m_add->setEnabled(enabled);
-  m_insert->setEnabled(enabled);
-}
-
 void DirectOrderPageWidget::showAttributeInfo(int j, const QString& title, const QString& name,
                                               const QString& property, const QString& definition) {
   m_info->setTitle(title);
@@ -293,15 +288,6 @@ void DirectOrderPageWidget::showAttributeInfo(int j, const QString& title, const
   m_infoProperty->setText(property);
   m_infoDefinition->setPlainText(definition);
   if (j >= 0 && j < m_attRows.size()) m_attRows[j].option->setChecked(true);
-}
-
-GroupBoxWidget* DirectOrderPageWidget::boxOfGroup(int group) const {
-  for (const GroupRow& row : m_groupRows) {
-    if (row.box->groupNumber() == group && row.box->parentWidget()->isVisibleTo(m_orderPanel)) {
-      return row.box;
-    }
-  }
-  return nullptr;
 }
 
 void DirectOrderPageWidget::onDropped(QWidget* target, const QByteArray& payload) {

@@ -50,8 +50,6 @@ class DirectOrderPageWidget : public QWidget {
   void setAttributeListed(int j, bool listed);
   // Shows the groups, top to bottom, with their placed buttons; framedGroup gets the frame.
   void setGroups(const QVector<GroupView>& groups, int framedGroup);
-  // Enables or disables Add and Insert.
-  void setGroupButtonsEnabled(bool enabled);
   // Shows attribute j's information and selects its option button.
   void showAttributeInfo(int j, const QString& title, const QString& name, const QString& property,
                          const QString& definition);
@@ -59,8 +57,6 @@ class DirectOrderPageWidget : public QWidget {
   void render(const DirectAPresenter& presenter);
   // Gives the focus to the first attribute button still listed, or returns false.
   bool focusFirstListed();
-  // The group box showing group number group, or null.
-  GroupBoxWidget* boxOfGroup(int group) const;
 
  signals:
   // An attribute button was dropped on the box of group (picOrder_DragDrop).
