@@ -15,6 +15,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -238,6 +239,8 @@ AttributeButtonWidget* DirectOrderPageWidget::placedButton(int placement) {
     const int k = static_cast<int>(m_placedButtons.size());
     auto* b = new AttributeButtonWidget(QStringLiteral("cmdAttB"), k, m_orderPanel);
     b->setDraggable(true);
+    b->setToolTip(tr("Drag it to another box, or move it with the Up and Down keys"));
+    b->installEventFilter(this);
     m_dropFilter->watch(b);
     connect(b, &QPushButton::clicked, this, [this, b] { emit placedClicked(b->attribute()); });
     m_placedButtons.append(b);
@@ -269,6 +272,7 @@ void DirectOrderPageWidget::setGroups(const QVector<GroupView>& groups, int fram
       b->show();
     }
   }
+  m_shownGroups = static_cast<int>(groups.size());
   for (int i = static_cast<int>(groups.size()); i < m_groupRows.size(); ++i) {
     m_groupRows[i].box->parentWidget()->hide();
   }
@@ -352,9 +356,22 @@ bool DirectOrderPageWidget::focusFirstListed() {
 }
 
 bool DirectOrderPageWidget::eventFilter(QObject* watched, QEvent* event) {
+  auto* button = qobject_cast<AttributeButtonWidget*>(watched);
+  if (button == nullptr) return QWidget::eventFilter(watched, event);
+  const bool placed = button->objectName() == QLatin1String("cmdAttB");
   if (event->type() == QEvent::FocusIn) {
-    if (auto* button = qobject_cast<AttributeButtonWidget*>(watched)) {
-      emit attributeInfoRequested(button->index());
+    emit attributeInfoRequested(placed ? button->attribute() : button->index());
+  } else if (placed && event->type() == QEvent::KeyPress) {
+    // Up and Down move a placed attribute to the neighbouring group, as a drag there would.
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    const auto* box = qobject_cast<GroupBoxWidget*>(button->parentWidget());
+    if ((key == Qt::Key_Up || key == Qt::Key_Down) && box != nullptr) {
+      const int target = box->groupNumber() + (key == Qt::Key_Up ? -1 : 1);
+      if (target >= 1 && target <= m_shownGroups) {
+        emit droppedOnGroup(target, button->tag().toUtf8());
+        button->setFocus(Qt::OtherFocusReason);
+      }
+      return true;
     }
   }
   return QWidget::eventFilter(watched, event);

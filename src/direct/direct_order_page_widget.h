@@ -118,6 +118,7 @@ class DirectOrderPageWidget : public QWidget {
   QVector<AttributeFace> m_faces;
   QVector<GroupRow> m_groupRows;
   QVector<AttributeButtonWidget*> m_placedButtons;
+  int m_shownGroups = 0;
 };
 
 }  // namespace tnw

@@ -226,12 +226,22 @@ void DirectADialogInputTest::theWholeMethodCanBeDoneWithTheKeyboard() {
   QCOMPARE(QApplication::focusWidget(), control<QWidget>(m_dialog.get(), "cmdAttA", 2));
   key(Qt::Key_Space);
   key(Qt::Key_Space);
+  QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(button("cmdNext")));
   const ImportanceOrder& order = m_dialog->presenter().ordering().order();
+  // Down moves a placed attribute to the next group, Up back.
+  auto* placed = test::orderBox(m_dialog.get(), 1)->findChildren<AttributeButtonWidget*>()[0];
+  placed->setFocus(Qt::TabFocusReason);
+  key(Qt::Key_Down);
+  QCOMPARE(order.AttGroup(placed->attribute()), 2);
+  QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(placed));
+  QCOMPARE(control<QLabel>(m_dialog.get(), "labAttName")->text(),
+           QStringLiteral("Att%1").arg(placed->attribute() + 1));
+  key(Qt::Key_Up);
+  QCOMPARE(order.AttGroup(placed->attribute()), 1);
   QCOMPARE(order.AttGroup(0), 2);
   QCOMPARE(order.AttGroup(1), 2);
   QCOMPARE(order.AttGroup(2), 1);
   QCOMPARE(order.AttGroup(3), 1);
-  QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(button("cmdNext")));
   key(Qt::Key_N, Qt::AltModifier);
   QTRY_COMPARE(m_dialog->presenter().WizardStep(), 1);
   // Step 1: the most important group's first button has the focus.
