@@ -231,6 +231,7 @@ void DirectADialog::render() {
     }
     renderControls();
     renderHeader();
+    applyTabOrder(step);
     if (m_stack->currentIndex() != step) {
       m_stack->setCurrentIndex(step);
       focusStep(step);
@@ -287,6 +288,32 @@ void DirectADialog::renderHeader() {
   m_header->setVisible(step == 1 || step == 2);
   m_refImage->setVisible(step == 2);
   m_refRange->setVisible(step == 2);
+}
+
+void DirectADialog::applyTabOrder(int step) {
+  // Controls made while the dialog runs would otherwise come after the wizard buttons.
+  QList<QWidget*> chain;
+  switch (step) {
+    case 0:
+      chain = m_orderPage->tabChain();
+      break;
+    case 1:
+      chain = m_referencePage->orderView()->tabChain();
+      break;
+    case 2:
+      chain << m_judgmentPage->targetList() << m_judgmentPage->lowerBox()
+            << m_judgmentPage->upperBox() << m_judgmentPage->enterButton()
+            << m_judgmentPage->restartButton() << m_judgmentPage->tabs();
+      chain.append(m_judgmentPage->orderList()->tabChain());
+      break;
+    default:
+      chain << m_resultsPage->grid();
+      break;
+  }
+  chain << m_cmdHelp << m_cmdBack << m_cmdNext << m_cmdFinish << m_cmdCancel;
+  if (chain == m_tabChain) return;
+  m_tabChain = chain;
+  for (int i = 1; i < chain.size(); ++i) setTabOrder(chain[i - 1], chain[i]);
 }
 
 void DirectADialog::focusStep(int step) {

@@ -60,6 +60,7 @@ class DirectADialog : public WizardDialogQt {
   QWidget* namedControl(const std::string& name);
   void applyFocusRequest();
   void focusStep(int step);
+  void applyTabOrder(int step);
 
   WizardContext& m_context;
   DirectAPresenter m_presenter;
@@ -79,6 +80,7 @@ class DirectADialog : public WizardDialogQt {
   QPushButton* m_cmdCancel = nullptr;
   QPushButton* m_cmdHelp = nullptr;
   std::map<std::string, QPointer<QWidget>> m_named;
+  QList<QWidget*> m_tabChain;
   bool m_rendering = false;
   bool m_renderAgain = false;
 };

@@ -345,6 +345,19 @@ void DirectOrderPageWidget::render(const DirectAPresenter& presenter) {
                     caption("labAttProperty"), caption("txtAttDefinition"));
 }
 
+QList<QWidget*> DirectOrderPageWidget::tabChain() const {
+  QList<QWidget*> chain;
+  for (const AttributeRow& row : m_attRows) {
+    if (!row.button->isHidden()) chain.append(row.button);
+  }
+  for (int i = 0; i < m_shownGroups && i < m_groupRows.size(); ++i) {
+    chain.append(m_groupRows[i].box);
+    chain.append(m_groupRows[i].box->shownButtons());
+  }
+  chain << m_add << m_insert << m_infoDefinition;
+  return chain;
+}
+
 bool DirectOrderPageWidget::focusFirstListed() {
   for (const AttributeRow& row : m_attRows) {
     if (row.button->isVisibleTo(this)) {

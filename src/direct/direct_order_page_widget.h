@@ -55,6 +55,9 @@ class DirectOrderPageWidget : public QWidget {
                          const QString& definition);
   // Shows the presenter's step 0: attribute list, groups, placed buttons, information.
   void render(const DirectAPresenter& presenter);
+  // The page's controls in the order Tab visits them: the listed attributes, each group box
+  // with its placed attributes, Add, Insert and the definition.
+  QList<QWidget*> tabChain() const;
   // Gives the focus to the first attribute button still listed, or returns false.
   bool focusFirstListed();
 

@@ -82,4 +82,12 @@ AttributeButtonWidget* FinalOrderWidget::button(int i) const {
   return (i >= 0 && i < m_buttons.size()) ? m_buttons[i] : nullptr;
 }
 
+QList<QWidget*> FinalOrderWidget::tabChain() const {
+  QList<QWidget*> chain;
+  for (int k = 0; k < m_shownGroups && k < m_boxes.size(); ++k) {
+    chain.append(m_boxes[k]->shownButtons());
+  }
+  return chain;
+}
+
 }  // namespace tnw

@@ -43,6 +43,8 @@ class FinalOrderWidget : public QScrollArea {
   void setOrder(int groupCount, const QVector<int>& groupOf);
   // The button of attribute i, or null.
   AttributeButtonWidget* button(int i) const;
+  // The attribute buttons in the order they are shown, group by group.
+  QList<QWidget*> tabChain() const;
   // Number of group boxes shown.
   int groupCount() const { return m_shownGroups; }
 

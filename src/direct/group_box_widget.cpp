@@ -52,6 +52,15 @@ QSize GroupBoxWidget::minimumSizeHint() const {
   return {row * 3, row + 12};
 }
 
+QList<QWidget*> GroupBoxWidget::shownButtons() const {
+  QList<QWidget*> buttons;
+  for (int i = 0; i < m_layout->count(); ++i) {
+    QWidget* w = m_layout->itemAt(i)->widget();
+    if (w != nullptr && !w->isHidden()) buttons.append(w);
+  }
+  return buttons;
+}
+
 void GroupBoxWidget::setFocusable(bool focusable) {
   setFocusPolicy(focusable ? Qt::StrongFocus : Qt::NoFocus);
 }

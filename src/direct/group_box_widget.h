@@ -29,6 +29,8 @@ class GroupBoxWidget : public QFrame {
   void setSelected(bool selected);
   // Whether the box is framed as the selected group.
   bool isSelected() const { return m_selected; }
+  // The shown widgets of the box's layout, in the order they are laid out.
+  QList<QWidget*> shownButtons() const;
   // The layout the attribute buttons go into.
   FlowLayout* buttonLayout() const { return m_layout; }
 

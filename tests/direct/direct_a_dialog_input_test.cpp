@@ -37,6 +37,7 @@ class DirectADialogInputTest : public QObject {
   void refusedTargetsShowTheirMessages();
   void mnemonicsPressTheWizardButtons();
   void theWholeMethodCanBeDoneWithTheKeyboard();
+  void tabVisitsTheControlsInTheOrderShown();
   void helpOpensTheHostsHelpFileAtItsContext();
   void closeBoxCancels();
   void aModelWithoutUsableAttributesStillCancels();
@@ -270,6 +271,28 @@ void DirectADialogInputTest::theWholeMethodCanBeDoneWithTheKeyboard() {
   QTRY_COMPARE(m_events.log.back(), std::string("UnloadTNWizard"));
   QCOMPARE(m_events.exports.size(), std::size_t{1});
   QVERIFY(m_events.unloads.back().weightsDone);
+}
+
+void DirectADialogInputTest::tabVisitsTheControlsInTheOrderShown() {
+  open(test::makeContext(3));
+  QVERIFY(test::dragAndDrop(test::orderBox(m_dialog.get(), 2), QStringLiteral("A1")));
+  const auto tab = [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab); };
+  control<QWidget>(m_dialog.get(), "cmdAttA", 0)->setFocus(Qt::TabFocusReason);
+  tab();
+  QCOMPARE(QApplication::focusWidget(), control<QWidget>(m_dialog.get(), "cmdAttA", 2));
+  tab();
+  QCOMPARE(QApplication::focusWidget(), test::orderBox(m_dialog.get(), 1));
+  tab();
+  QCOMPARE(QApplication::focusWidget(), test::orderBox(m_dialog.get(), 2));
+  tab();
+  QCOMPARE(QApplication::focusWidget(), control<QWidget>(m_dialog.get(), "cmdAttB", 0));
+  tab();
+  QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(button("cmdAdd")));
+  control<QWidget>(m_dialog.get(), "txtAttDefinition")->setFocus(Qt::TabFocusReason);
+  tab();
+  QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(button("cmdHelp")));
+  tab();
+  QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(button("cmdBack")));
 }
 
 void DirectADialogInputTest::helpOpensTheHostsHelpFileAtItsContext() {
