@@ -35,6 +35,7 @@ class AttributeButtonWidget : public QPushButton {
   // Shows the button as the chosen one (a heavier frame), or not.
   void setMarked(bool marked);
 
+  // Wide enough for a short name to read well.
   QSize sizeHint() const override;
 
  protected:

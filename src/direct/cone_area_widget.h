@@ -43,8 +43,10 @@ class ConeAreaWidget : public QWidget {
   QPointF toPixels(QPointF areaPoint) const;
   QPointF toArea(QPointF pixelPoint) const;
 
+  // The area prefers 240 pixels square and needs 160.
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
+  // The area is square.
   bool hasHeightForWidth() const override { return true; }
   int heightForWidth(int width) const override { return width; }
 

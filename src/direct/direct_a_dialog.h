@@ -35,6 +35,7 @@ class DirectADialog : public WizardDialogQt {
   // reaches events before the constructor returns.
   DirectADialog(WizardContext& context, UiServices& ui, DirectAEvents& events,
                 QWidget* parent = nullptr);
+  // Stops Timer1 and the presenter's change notifications before the widgets go.
   ~DirectADialog() override;
 
   // The presenter behind the dialog.

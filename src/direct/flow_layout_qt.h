@@ -14,6 +14,7 @@ class FlowLayout : public QLayout {
   explicit FlowLayout(QWidget* parent = nullptr, int spacing = 4);
   ~FlowLayout() override;
 
+  // QLayout's interface: items wrap into rows, the height follows from the width.
   void addItem(QLayoutItem* item) override;
   int count() const override;
   QLayoutItem* itemAt(int index) const override;

@@ -34,6 +34,7 @@ class GroupBoxWidget : public QFrame {
   // The layout the attribute buttons go into.
   FlowLayout* buttonLayout() const { return m_layout; }
 
+  // An empty box stays as tall as a row of buttons, an easy drop target.
   QSize minimumSizeHint() const override;
 
  signals:

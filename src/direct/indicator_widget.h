@@ -20,6 +20,7 @@ class IndicatorWidget : public QWidget {
   // The fill colour.
   QColor fillColour() const { return m_colour; }
 
+  // A small round lamp.
   QSize sizeHint() const override;
 
  protected:

@@ -25,6 +25,7 @@ class PreferenceChartWidget : public QWidget {
   QLabel* targetAxis() const { return m_target; }
   QLabel* referenceAxis() const { return m_reference; }
 
+  // Room for the cone area and a line of text above and below it.
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 
