@@ -38,9 +38,7 @@ bool JudgmentPage::enter(bool resume) {
   IniJudgmentStatusA(m_targets.currentTarget());
   // With every attribute settled (resumed, or all tied with the reference) there is nothing
   // left to judge, and the page is complete at once.
-  const bool complete = m_judgments.isComplete();
-  c.setEnabled("cmdNext", complete);
-  if (complete) c.setEnabled("cmdFinish", true);
+  showCompletion();
   c.setEnabled("cmdEnter", m_targets.currentTarget() >= 0);
   c.setEnabled("cmdReStart", resumed);
   m_orderTabVisible = true;
@@ -251,10 +249,7 @@ void JudgmentPage::enterJudgment() {
   placeHandles(m_judgments.lower(t), m_judgments.upper(t));
   c.setEnabled("cmdEnter", false);
   c.setEnabled("cmdReStart", true);
-  if (m_judgments.isComplete()) {
-    c.setEnabled("cmdFinish", true);
-    c.setEnabled("cmdNext", true);
-  }
+  showCompletion();
 }
 
 void JudgmentPage::restart() {
@@ -267,7 +262,14 @@ void JudgmentPage::restart() {
   ControlRegistry& c = m_shared.controls;
   c.setEnabled("cmdEnter", m_targets.currentTarget() >= 0);
   c.setEnabled("cmdReStart", false);
-  c.setEnabled("cmdNext", false);
+  showCompletion();
+}
+
+void JudgmentPage::showCompletion() {
+  // Next and Finish only while no attribute is open: an open interval is never exported.
+  const bool complete = m_judgments.isComplete();
+  m_shared.controls.setEnabled("cmdNext", complete);
+  m_shared.controls.setEnabled("cmdFinish", complete);
 }
 
 std::vector<int> JudgmentPage::orderGroup(int k) const {

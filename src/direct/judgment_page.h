@@ -103,6 +103,8 @@ class JudgmentPage {
   void placeHandles(double lower, double upper);
   void showRatios(double lower, double upper);
   bool checkBound(Box box);
+  // Enables Next and Finish exactly when no attribute is open.
+  void showCompletion();
   TextBoxState& boxState(Box box);
 
   DirectAShared& m_shared;

@@ -163,17 +163,32 @@ TEST_F(JudgmentFlowTest, RecordingTiesAndCompletionEnableNextAndFinish) {
   EXPECT_EQ(context.CloseWeights, (std::vector<double>{1.75, 1, 1, 0.5}));
 }
 
-TEST_F(JudgmentFlowTest, RestartClearsTheJudgmentsAndDisablesNext) {
+TEST_F(JudgmentFlowTest, RestartClearsTheJudgmentsAndDisablesNextAndFinish) {
   DirectAPresenter& p = toJudgments();
   judge(0, "1.5", "2");
   judge(3, "0.5", "0.5");
+  ASSERT_TRUE(p.control("cmdFinish").enabled);
   p.cmdReStart_Click();
   EXPECT_FALSE(p.judgment().judgments().judged(0));
   EXPECT_TRUE(p.control("cmdEnter").enabled);
   EXPECT_FALSE(p.control("cmdReStart").enabled);
   EXPECT_FALSE(p.control("cmdNext").enabled);
+  EXPECT_FALSE(p.control("cmdFinish").enabled);
   EXPECT_EQ(context.LowerWeights[0], 1.2);
   EXPECT_EQ(p.judgment().targets().items()[0].text, "Att1");
+}
+
+TEST_F(JudgmentFlowTest, BackAndNextAgainStartFreshIntervalsWithFinishDisabled) {
+  DirectAPresenter& p = toJudgments();
+  judge(0, "1.5", "2");
+  judge(3, "0.5", "0.5");
+  ASSERT_TRUE(p.control("cmdFinish").enabled);
+  p.cmdBack_Click();
+  p.cmdNext_Click();
+  EXPECT_EQ(p.WizardStep(), 2);
+  EXPECT_FALSE(p.judgment().judgments().judged(0));
+  EXPECT_FALSE(p.control("cmdNext").enabled);
+  EXPECT_FALSE(p.control("cmdFinish").enabled);
 }
 
 TEST_F(JudgmentFlowTest, ResultsShowTheGridAndFinishExportsWithTheCrossedSums) {
