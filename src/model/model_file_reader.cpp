@@ -3,13 +3,13 @@
 #include "common/windows1252.h"
 
 // Std
+#include <algorithm>
 #include <bit>
 #include <charconv>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <functional>
-#include <iterator>
 #include <type_traits>
 #include <vector>
 
@@ -273,12 +273,43 @@ ModelReadReport ModelFileReader::read(std::span<const std::uint8_t> bytes, Attri
   return report;
 }
 
+namespace {
+
+// The path as a file-system path: the text is UTF-8, also where the platform's own narrow
+// encoding is not (Windows). Empty when the text cannot be a path.
+std::filesystem::path pathFromUtf8(const std::string& text) {
+  try {
+    return std::filesystem::path(
+        std::u8string(reinterpret_cast<const char8_t*>(text.data()), text.size()));
+  } catch (const std::exception&) {
+    return {};
+  }
+}
+
+// Reads at most kMaxModelFileBytes from the start of the file. Nothing the reader uses can lie
+// beyond them, so a larger file, or an endless one, reads as its model part alone.
+bool readImage(std::ifstream& file, std::vector<std::uint8_t>& bytes) {
+  constexpr std::size_t kChunk = std::size_t{1} << 20;
+  while (bytes.size() < ModelFileReader::kMaxModelFileBytes) {
+    const std::size_t old = bytes.size();
+    const std::size_t want = std::min(kChunk, ModelFileReader::kMaxModelFileBytes - old);
+    bytes.resize(old + want);
+    file.read(reinterpret_cast<char*>(bytes.data() + old), static_cast<std::streamsize>(want));
+    bytes.resize(old + static_cast<std::size_t>(file.gcount()));
+    if (!file) break;
+  }
+  return !file.bad();
+}
+
+}  // namespace
+
 ModelReadReport OpenRelatedFileForTNW(const std::string& PathAndFileName, AttributeModel& model,
                                       UiServices& ui) {
   std::error_code ec;
   std::ifstream file;
-  if (!PathAndFileName.empty() && !std::filesystem::is_directory(PathAndFileName, ec)) {
-    file.open(PathAndFileName, std::ios::binary);
+  const std::filesystem::path path = pathFromUtf8(PathAndFileName);
+  if (!path.empty() && !std::filesystem::is_directory(path, ec)) {
+    file.open(path, std::ios::binary);
   }
   if (!file.is_open()) {
     ui.beep();
@@ -292,19 +323,18 @@ ModelReadReport OpenRelatedFileForTNW(const std::string& PathAndFileName, Attrib
   ui.setBusy(true);
   ModelReadReport report;
   try {
-    const std::vector<std::uint8_t> bytes((std::istreambuf_iterator<char>(file)),
-                                          std::istreambuf_iterator<char>());
-    const bool readToEnd = !file.bad();
+    std::vector<std::uint8_t> bytes;
+    const bool readWell = readImage(file, bytes);
     file.close();
     report = ModelFileReader::read(bytes, model);
-    if (!readToEnd && report.complete) {
+    if (!readWell && report.complete) {
       report.complete = false;
       report.problem = ModelReadProblem::ReadError;
     }
   } catch (const std::exception&) {
-    // Only memory can run out here; the model keeps what was read, as after a short file.
-    report.opened = true;
-    report.complete = false;
+    // Only memory can run out here. Nothing could be read, so the model is left as an empty
+    // read leaves it: every block cleared.
+    report = ModelFileReader::read({}, model);
     report.problem = ModelReadProblem::ReadError;
   }
   ui.setBusy(false);

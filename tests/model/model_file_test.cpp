@@ -403,5 +403,30 @@ TEST(OpenRelatedFileForTNWTest, AShortFileShowsNoMessageAndReportsWhereItStopped
   std::remove(path.c_str());
 }
 
+TEST(OpenRelatedFileForTNWTest, APathIsReadAsUtf8) {
+  const std::string path = tempPath(
+      "tnw-Pr\xC3\xA4"
+      "ferenz-\xE2\x82\xAC.nrx");
+  ASSERT_TRUE(ModelFileWriter::writeFile(variedModel(), path));
+  RecordingUiServices ui;
+  AttributeModel model;
+  const ModelReadReport r = OpenRelatedFileForTNW(path, model, ui);
+  EXPECT_TRUE(r.complete);
+  EXPECT_EQ(model, variedModel());
+  std::filesystem::remove(std::filesystem::path(
+      std::u8string(reinterpret_cast<const char8_t*>(path.data()), path.size())));
+}
+
+TEST(OpenRelatedFileForTNWTest, AnEndlessFileIsReadOnlyAsFarAsAModelCanReach) {
+  RecordingUiServices ui;
+  AttributeModel model = variedModel();
+  const ModelReadReport r = OpenRelatedFileForTNW("/dev/zero", model, ui);
+  // Zeros read as empty texts, empty Variants and zero numbers: a complete, empty model.
+  EXPECT_TRUE(r.opened);
+  EXPECT_TRUE(r.complete);
+  EXPECT_EQ(model, AttributeModel{});
+  EXPECT_FALSE(ui.busy());
+}
+
 }  // namespace
 }  // namespace tnw
