@@ -8,6 +8,7 @@
 
 // Std
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 
@@ -29,7 +30,7 @@ int make(const std::vector<std::string>& args) {
   std::string input;
   std::string output;
   for (std::size_t i = 0; i < args.size(); ++i) {
-    if (args[i] == "-o" && i + 1 < args.size()) {
+    if (args[i] == "-o" && i + 1 < args.size() && output.empty()) {
       output = args[++i];
     } else if (input.empty() && args[i] != "-o") {
       input = args[i];
@@ -38,8 +39,10 @@ int make(const std::vector<std::string>& args) {
     }
   }
   if (input.empty() || output.empty()) return tnwUsage();
-  std::ifstream in(input);
-  if (!in) {
+  std::error_code ec;
+  std::ifstream in;
+  if (!std::filesystem::is_directory(input, ec)) in.open(input);
+  if (!in.is_open()) {
     std::fprintf(stderr, "%s\n", kCannotAccess);
     return kExitCannotOpen;
   }

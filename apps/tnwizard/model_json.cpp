@@ -3,6 +3,7 @@
 // Std
 #include <cmath>
 #include <limits>
+#include <optional>
 
 namespace tnw {
 namespace {
@@ -10,6 +11,7 @@ namespace {
 using ordered_json = nlohmann::ordered_json;
 using json = nlohmann::json;
 
+// A number that is not finite is written as null, and null is read back as a NaN.
 ordered_json number(double v) { return std::isfinite(v) ? ordered_json(v) : ordered_json(); }
 
 ordered_json variant(const std::optional<double>& v) { return v ? number(*v) : ordered_json(); }
@@ -22,6 +24,16 @@ ordered_json weights(const std::array<double, kMaxAttributes>& w) {
 
 [[noreturn]] void fail(const std::string& field, const std::string& what) {
   throw ModelJsonError(field + ": " + what);
+}
+
+// A whole number of the JSON text, or nothing when it does not fit in 64 bits.
+std::optional<std::int64_t> wholeNumber(const json& v) {
+  if (v.is_number_unsigned()) {
+    const auto u = v.get<std::uint64_t>();
+    if (u > static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max())) return {};
+    return static_cast<std::int64_t>(u);
+  }
+  return v.get<std::int64_t>();
 }
 
 const json* member(const json& object, const char* key, const std::string& where) {
@@ -39,7 +51,8 @@ std::string text(const json& object, const char* key, const std::string& where) 
 
 double real(const json& object, const char* key, const std::string& where) {
   const json* v = member(object, key, where);
-  if (v == nullptr || v->is_null()) return 0.0;
+  if (v == nullptr) return 0.0;
+  if (v->is_null()) return std::numeric_limits<double>::quiet_NaN();
   if (!v->is_number()) fail(where + "." + key, "expected a number");
   return v->get<double>();
 }
@@ -55,12 +68,12 @@ std::int16_t integer16(const json& object, const char* key, const std::string& w
   const json* v = member(object, key, where);
   if (v == nullptr || v->is_null()) return 0;
   if (!v->is_number_integer()) fail(where + "." + key, "expected an integer");
-  const auto i = v->get<std::int64_t>();
-  if (i < std::numeric_limits<std::int16_t>::min() ||
-      i > std::numeric_limits<std::int16_t>::max()) {
+  const std::optional<std::int64_t> i = wholeNumber(*v);
+  if (!i || *i < std::numeric_limits<std::int16_t>::min() ||
+      *i > std::numeric_limits<std::int16_t>::max()) {
     fail(where + "." + key, "outside -32768..32767");
   }
-  return static_cast<std::int16_t>(i);
+  return static_cast<std::int16_t>(*i);
 }
 
 const json* array(const json& object, const char* key, const std::string& where,
@@ -79,7 +92,7 @@ void readAttribute(const json& a, std::size_t position, AttributeModel& m) {
   std::int64_t att = static_cast<std::int64_t>(position);
   if (index != nullptr && !index->is_null()) {
     if (!index->is_number_integer()) fail(where + ".index", "expected an integer");
-    att = index->get<std::int64_t>();
+    att = wholeNumber(*index).value_or(-1);
   }
   if (att < 0 || att >= kMaxAttributes) fail(where + ".index", "outside 0..30");
   const auto i = static_cast<std::size_t>(att);
@@ -101,8 +114,14 @@ void readAttribute(const json& a, std::size_t position, AttributeModel& m) {
 void readWeights(const json& prev, const char* key, std::array<double, kMaxAttributes>& out) {
   if (const json* w = array(prev, key, "previous", kMaxAttributes)) {
     for (std::size_t k = 0; k < w->size(); ++k) {
-      if (!(*w)[k].is_number()) fail(std::string("previous.") + key, "expected numbers");
-      out[k] = (*w)[k].get<double>();
+      const json& v = (*w)[k];
+      if (v.is_null()) {
+        out[k] = std::numeric_limits<double>::quiet_NaN();
+      } else if (v.is_number()) {
+        out[k] = v.get<double>();
+      } else {
+        fail(std::string("previous.") + key, "expected numbers or null");
+      }
     }
   }
 }

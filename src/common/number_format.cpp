@@ -135,7 +135,8 @@ std::string generalFromDecimal(double value, int significant) {
   return out;
 }
 
-bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
+// What the host language's reading passes over: blanks, tabs and line feeds, not carriage returns.
+bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\n'; }
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 

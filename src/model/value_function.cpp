@@ -145,7 +145,8 @@ AttValueResult SingleAttValue(const AttributeModel& model, int AttID, double Sco
 std::string valueFailureMessage(const AttributeModel& model, int AttID, ValueFailure failure) {
   if (failure == ValueFailure::None) return {};
   if (failure == ValueFailure::AttributeOutOfRange || AttID < 0 || AttID >= kMaxAttributes) {
-    return "Attribute number " + std::to_string(AttID + 1) + " does not exist in the model.";
+    return "Attribute " + std::to_string(AttID) +
+           " does not exist in the model (attributes are numbered from 0 to 30).";
   }
   const std::string what = "The value function of the attribute \"" +
                            model.AttName[static_cast<std::size_t>(AttID)] + "\"";

@@ -2,6 +2,9 @@
 #include "model/model_file_reader.h"
 #include "model/model_file_writer.h"
 
+// Std
+#include <limits>
+
 // JSON
 #include <nlohmann/json.hpp>
 
@@ -137,11 +140,38 @@ TEST(ModelCliTest, AFileThatCannotBeOpenedExitsWithTwoAndTheHostsMessage) {
   const auto make = runCli("model make /nonexistent/tnw/in.json -o /tmp/tnw-never.nrx");
   EXPECT_EQ(make.exitCode, 2);
   EXPECT_EQ(make.err, "There are problems in accessing the relevant data.\n");
+  const auto directory = runCli("model make /tmp -o /tmp/tnw-never.nrx");
+  EXPECT_EQ(directory.exitCode, 2);
+  EXPECT_EQ(directory.err, "There are problems in accessing the relevant data.\n");
+}
+
+TEST(ModelCliTest, NumbersThatAreNotFiniteAreDumpedAsNullAndMadeAgain) {
+  AttributeModel m;
+  m.NumAtt = 1;
+  m.AttScoreLow[0] = std::numeric_limits<double>::infinity();
+  m.PrevWeight[0] = std::numeric_limits<double>::quiet_NaN();
+  m.PrevWeightH[1] = -std::numeric_limits<double>::infinity();
+  const std::string model = tempFile("tnw-cli-nan.nrx");
+  ASSERT_TRUE(ModelFileWriter::writeFile(m, model));
+  const auto dumped = runCli("model dump '" + model + "'");
+  ASSERT_EQ(dumped.exitCode, 0) << dumped.err;
+  const json out = json::parse(dumped.out);
+  EXPECT_TRUE(out["attributes"][0]["scoreLow"].is_null());
+  EXPECT_TRUE(out["previous"]["weight"][0].is_null());
+  EXPECT_TRUE(out["previous"]["weightH"][1].is_null());
+
+  const std::string again = tempFile("tnw-cli-nan.json");
+  const std::string model2 = tempFile("tnw-cli-nan2.nrx");
+  writeText(again, dumped.out);
+  const auto made = runCli("model make '" + again + "' -o '" + model2 + "'");
+  ASSERT_EQ(made.exitCode, 0) << made.err;
+  EXPECT_EQ(runCli("model dump '" + model2 + "'").out, dumped.out);
 }
 
 TEST(ModelCliTest, UsageErrorsExitWithOne) {
-  for (const char* args : {"", "model", "model dump", "model dump a b", "model make x.json",
-                           "model make -o out.nrx", "model frob x", "nosuchcommand"}) {
+  for (const char* args :
+       {"", "model", "model dump", "model dump a b", "model make x.json", "model make -o out.nrx",
+        "model make x.json -o a.nrx -o b.nrx", "model frob x", "nosuchcommand"}) {
     const auto run = runCli(args);
     EXPECT_EQ(run.exitCode, 1) << args;
     EXPECT_NE(run.err.find("usage: tnwizard"), std::string::npos) << args;
@@ -155,11 +185,15 @@ TEST(ModelCliTest, MalformedJsonIsAUsageErrorNamingTheField) {
       {"{not json", "parse"},
       {R"({"numAtt": "two"})", "model.numAtt: expected an integer"},
       {R"({"numAtt": 40000})", "model.numAtt: outside -32768..32767"},
+      {R"({"numAtt": 18446744073709551615})", "model.numAtt: outside -32768..32767"},
+      {R"({"numAtt": 9223372036854775808})", "model.numAtt: outside -32768..32767"},
+      {R"({"attributes": [{"index": 18446744073709551615}]})",
+       "attributes[0].index: outside 0..30"},
       {R"({"attributes": [{"index": 31}]})", "attributes[0].index: outside 0..30"},
       {R"({"attributes": [{"name": 5}]})", "attributes[0].name: expected a text"},
       {R"({"attributes": [{"points": [{}, {}, {}, {}, {}, {}, {}, {}, {}, {}, {}, {}]}]})",
        "attributes[0].points: more than 11 entries"},
-      {R"({"previous": {"weight": ["a"]}})", "previous.weight: expected numbers"}};
+      {R"({"previous": {"weight": ["a"]}})", "previous.weight: expected numbers or null"}};
   for (const auto& [text, message] : cases) {
     writeText(input, text);
     const auto run = runCli("model make '" + input + "' -o '" + model + "'");

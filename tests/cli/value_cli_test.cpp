@@ -57,7 +57,7 @@ TEST(ValueCliTest, AValueThatCannotBeComputedExitsWithOneAndSaysWhy) {
   const std::string model = writeModel();
   const auto outside = runCli("value '" + model + "' 31 1");
   EXPECT_EQ(outside.exitCode, 1);
-  EXPECT_EQ(outside.err, "tnwizard: Attribute number 32 does not exist in the model.\n");
+  EXPECT_EQ(outside.err, "tnwizard: Attribute 31 does not exist in the model (attributes are numbered from 0 to 30).\n");
   const auto empty = runCli("value '" + model + "' 1 1");
   EXPECT_EQ(empty.exitCode, 1);
   EXPECT_EQ(empty.err, "tnwizard: The value function of the attribute \"Empty\" has no points.\n");

@@ -146,18 +146,17 @@ TEST_P(LeadingNumberTest, ReadsTheLeadingNumber) {
 
 INSTANTIATE_TEST_SUITE_P(
     Table, LeadingNumberTest,
-    ::testing::Values(ReadCase{"", 0}, ReadCase{"abc", 0}, ReadCase{"12abc", 12},
-                      ReadCase{"  3.5  ", 3.5}, ReadCase{"-2.5", -2.5}, ReadCase{"+4", 4},
-                      ReadCase{"- 7", -7}, ReadCase{"1 2 3", 123}, ReadCase{"1\t2\n3", 123},
-                      ReadCase{"1,234.56", 1234.56}, ReadCase{"1,234,567.89", 1234567.89},
-                      ReadCase{"1,,2", 1}, ReadCase{",5", 0}, ReadCase{"1.5e3", 1500},
-                      ReadCase{"1.5E-2", 0.015}, ReadCase{"2D2", 200}, ReadCase{"1e", 1},
-                      ReadCase{"1e+", 1}, ReadCase{".5", 0.5}, ReadCase{"5.", 5},
-                      ReadCase{"1.2.3", 1.2}, ReadCase{"&HFF", 255}, ReadCase{"&HFFFF", -1},
-                      ReadCase{"&H10000", 65536}, ReadCase{"&O17", 15}, ReadCase{"&", 0},
-                      ReadCase{"&Z1", 0}, ReadCase{"1e400", 0}, ReadCase{"1e-400", 0},
-                      ReadCase{"--5", 0}, ReadCase{"0.00", 0}, ReadCase{"-0.5", -0.5},
-                      ReadCase{"0 ", 0}, ReadCase{"1", 1}));
+    ::testing::Values(
+        ReadCase{"", 0}, ReadCase{"abc", 0}, ReadCase{"12abc", 12}, ReadCase{"  3.5  ", 3.5},
+        ReadCase{"-2.5", -2.5}, ReadCase{"+4", 4}, ReadCase{"- 7", -7}, ReadCase{"1 2 3", 123},
+        ReadCase{"1\t2\n3", 123}, ReadCase{"1,234.56", 1234.56},
+        ReadCase{"1,234,567.89", 1234567.89}, ReadCase{"1,,2", 1}, ReadCase{",5", 0},
+        ReadCase{"1.5e3", 1500}, ReadCase{"1.5E-2", 0.015}, ReadCase{"2D2", 200}, ReadCase{"1e", 1},
+        ReadCase{"1e+", 1}, ReadCase{".5", 0.5}, ReadCase{"5.", 5}, ReadCase{"1.2.3", 1.2},
+        ReadCase{"&HFF", 255}, ReadCase{"&HFFFF", -1}, ReadCase{"&H10000", 65536},
+        ReadCase{"&O17", 15}, ReadCase{"&", 0}, ReadCase{"&Z1", 0}, ReadCase{"1e400", 0},
+        ReadCase{"1e-400", 0}, ReadCase{"--5", 0}, ReadCase{"0.00", 0}, ReadCase{"-0.5", -0.5},
+        ReadCase{"0 ", 0}, ReadCase{"1", 1}, ReadCase{"1\r2", 1}, ReadCase{"\r5", 0}));
 
 TEST(LeadingNumberTest, ReadsBackWhatOurFormatsWrite) {
   const double values[] = {0.0, 0.8, 1.25, 1234.5, 1234567.89, -98765.4321, 1e9};

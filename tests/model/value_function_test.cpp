@@ -178,7 +178,7 @@ TEST(ValueFunctionTest, AttributeOutsideTheModelIsAFailureNotACrash) {
     EXPECT_EQ(r.failure, ValueFailure::AttributeOutOfRange);
   }
   EXPECT_EQ(valueFailureMessage(m, 31, ValueFailure::AttributeOutOfRange),
-            "Attribute number 32 does not exist in the model.");
+            "Attribute 31 does not exist in the model (attributes are numbered from 0 to 30).");
 }
 
 TEST(ValueFunctionTest, MoreThanElevenPointsIsAFailureNotACrash) {
