@@ -86,6 +86,13 @@ void chooseOrderAndReference(tnw::DirectAPresenter& p, const json& scenario, int
   p.cmdNext_Click();
 }
 
+// Types `text` into a ratio box as a user does: the old text selected and deleted, then every
+// character through the box's key filter.
+void typeText(tnw::DirectAPresenter& p, Box box, const std::string& text) {
+  p.txtWR_SetText(box, "");
+  for (const unsigned char c : text) p.txtWR_KeyPress(box, p.judgment().box(box), c);
+}
+
 std::string boxText(const json& step, const char* key) {
   if (!step.contains(key)) return {};
   const json& v = step[key];
@@ -100,8 +107,8 @@ bool judge(tnw::DirectAPresenter& p, const tnw::RecordingUiServices& ui, const j
   if (p.judgment().targets().currentTarget() != target || ui.messages().size() != before) {
     return false;
   }
-  p.txtWR_SetText(Box::Lower, boxText(step, "lower"));
-  p.txtWR_SetText(Box::Upper, boxText(step, "upper"));
+  typeText(p, Box::Lower, boxText(step, "lower"));
+  typeText(p, Box::Upper, boxText(step, "upper"));
   p.txtWR_LostFocus(Box::Lower);
   if (ui.messages().size() != before) return false;
   p.txtWR_LostFocus(Box::Upper);
@@ -111,14 +118,18 @@ bool judge(tnw::DirectAPresenter& p, const tnw::RecordingUiServices& ui, const j
   return true;
 }
 
-const char* statusName(tnw::JudgmentState state) {
+// The lit status lamp; null while none is lit (after a failed check, a refused target or a
+// restart).
+ordered_json statusName(tnw::JudgmentState state) {
   switch (state) {
     case tnw::JudgmentState::Consistent:
       return "consistent";
     case tnw::JudgmentState::Inconsistent:
       return "inconsistent";
-    default:
+    case tnw::JudgmentState::Invalid:
       return "invalid";
+    default:
+      return nullptr;
   }
 }
 
@@ -134,7 +145,7 @@ ordered_json runStep(tnw::DirectAPresenter& p, const tnw::RecordingUiServices& u
   return ordered_json{{"messages", messagesSince(ui, before)},
                       {"lowerText", p.judgment().box(Box::Lower).text},
                       {"upperText", p.judgment().box(Box::Upper).text},
-                      {"status", statusName(p.judgment().evaluate().state)},
+                      {"status", statusName(p.lamps().state())},
                       {"recorded", recorded}};
 }
 
@@ -173,8 +184,18 @@ ordered_json runScenario(tnw::WizardContext& context, tnw::RecordingUiServices& 
   p.Form_Load();
   if (!p.usable()) throw ScenarioError(ui.messages().back().text);
   const int n = p.ordering().order().numAtt();
-  chooseOrderAndReference(p, scenario, n);
+  try {
+    chooseOrderAndReference(p, scenario, n);
+  } catch (const ScenarioError&) {
+    printMessagesSince(ui, 0);  // for instance why an earlier result could not be resumed
+    throw;
+  }
   printMessagesSince(ui, 0);
+  if (p.resuming() && scenario.contains("reference") &&
+      scenario["reference"].get<int>() != context.RefAtt) {
+    std::fprintf(stderr, "The earlier result's reference attribute %d is used, as in the dialog.\n",
+                 static_cast<int>(context.RefAtt));
+  }
   ordered_json steps = ordered_json::array();
   for (const json& step : scenario.value("steps", json::array())) {
     steps.push_back(runStep(p, ui, step));

@@ -94,6 +94,71 @@ TEST(DirectCliTest, AnEarlierResultIsResumedWithoutOrderOrReference) {
   EXPECT_DOUBLE_EQ(out["export"]["weights"][0].get<double>(), 0.5);
 }
 
+TEST(DirectCliTest, TextsAreTypedThroughTheBoxesKeyFilter) {
+  const std::string model = makeModel("tnw-direct-typed", kModelJson);
+  const auto run = runScenario(model, R"({"order": [1, 2, 3], "reference": 1, "steps": [
+      {"target": 0, "lower": "1..5", "upper": "-2"},
+      {"target": 2, "lower": "0.5", "upper": "1e-1"}]})");
+  ASSERT_EQ(run.exitCode, 0) << run.err;
+  const json out = json::parse(run.out);
+  // The second period and the minus never reach the text, and 1e-1 is typed as 11.
+  EXPECT_EQ(out["steps"][0]["lowerText"], "1.50");
+  EXPECT_EQ(out["steps"][0]["upperText"], "2.00");
+  EXPECT_TRUE(out["steps"][0]["recorded"]);
+  EXPECT_EQ(out["steps"][1]["upperText"], "11.00");
+  EXPECT_EQ(out["steps"][1]["messages"].size(), 0u);
+  EXPECT_EQ(out["steps"][1]["status"], "inconsistent");
+  EXPECT_FALSE(out["steps"][1]["recorded"]);
+}
+
+TEST(DirectCliTest, StatusIsTheLitLampAndNullWhenNoneIsLit) {
+  const std::string model = makeModel("tnw-direct-lamps", kModelJson);
+  const auto run = runScenario(model, R"({"order": [1, 2, 3], "reference": 1, "steps": [
+      {"target": 0, "lower": "0", "upper": "2"},
+      {"target": 0, "lower": "1.5", "upper": "2"},
+      {"restart": true}]})");
+  ASSERT_EQ(run.exitCode, 0) << run.err;
+  const json out = json::parse(run.out);
+  EXPECT_EQ(out["steps"][0]["messages"].size(), 1u);
+  EXPECT_TRUE(out["steps"][0]["status"].is_null());
+  EXPECT_EQ(out["steps"][1]["status"], "consistent");
+  EXPECT_TRUE(out["steps"][2]["status"].is_null());
+}
+
+TEST(DirectCliTest, ARestartAfterTheLastJudgmentLeavesNothingToExport) {
+  const std::string model = makeModel("tnw-direct-restart", kModelJson);
+  const auto run = runScenario(model, R"({"order": [1, 2, 3], "reference": 1, "steps": [
+      {"target": 0, "lower": "1.5", "upper": "2"},
+      {"target": 2, "lower": "0.5", "upper": "0.8"},
+      {"restart": true}]})");
+  ASSERT_EQ(run.exitCode, 0) << run.err;
+  const json out = json::parse(run.out);
+  EXPECT_FALSE(out["complete"]);
+  EXPECT_TRUE(out["grid"].empty());
+  EXPECT_TRUE(out["export"].is_null());
+}
+
+TEST(DirectCliTest, AStoredReferenceWinsOverTheScenariosAndTheRunSaysSo) {
+  const std::string model = makeModel("tnw-direct-stored-ref", kResumedJson);
+  const auto run = runScenario(model, R"({"reference": 0, "steps": []})");
+  ASSERT_EQ(run.exitCode, 0) << run.err;
+  EXPECT_EQ(json::parse(run.out)["refAtt"], 1);
+  EXPECT_NE(run.err.find("The earlier result's reference attribute 1 is used"), std::string::npos)
+      << run.err;
+}
+
+TEST(DirectCliTest, WhyAnEarlierResultCannotBeResumedIsToldWhenTheScenarioStops) {
+  const std::string model = makeModel("tnw-direct-zero-ref", R"({"numAtt": 2, "attributes": [
+      {"name": "A"}, {"name": "B"}],
+      "previous": {"type": "MAVT_DIRECT", "refAtt": 1, "weight": [0.5, 0],
+                   "weightH": [0.5, 0], "weightL": [0.5, 0]}})");
+  const auto run = runScenario(model, R"({"steps": []})");
+  EXPECT_EQ(run.exitCode, 1);
+  EXPECT_NE(run.err.find("the earlier weight of the reference attribute is zero"),
+            std::string::npos)
+      << run.err;
+}
+
 TEST(DirectCliTest, AMissingModelExitsWithTwo) {
   const auto run = runScenario(tempFile("tnw-no-such-model.nrx"), "{}");
   EXPECT_EQ(run.exitCode, 2);
