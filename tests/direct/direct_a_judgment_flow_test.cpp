@@ -241,14 +241,6 @@ TEST_F(DirectAPresenterTest, LowerOneOneUpperTwoTwoExportAQuarterOneAndFiveEight
   EXPECT_EQ(p.exported().Weights, events.exports[0].weights);
 }
 
-TEST_F(JudgmentFlowTest, EqualBoundsExportTheBoundsDividedByTheirSum) {
-  DirectExport::Weights w;
-  ASSERT_EQ(DirectExport::compute({1, 2, 1}, {1, 2, 1}, 3, w), DirectExport::Outcome::Exported);
-  EXPECT_EQ(w.Weights, (std::vector<double>{0.25, 0.5, 0.25}));
-  EXPECT_EQ(w.WeightsL, w.Weights);
-  EXPECT_EQ(w.WeightsH, w.Weights);
-}
-
 TEST_F(JudgmentFlowTest, AZeroSumInTheExportIsReportedAndNothingIsExported) {
   DirectAPresenter& p = toJudgments();
   judge(0, "2", "2");
