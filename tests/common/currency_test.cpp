@@ -2,6 +2,8 @@
 
 // Std
 #include <cmath>
+#include <iomanip>
+#include <ostream>
 #include <limits>
 
 // GoogleTest
@@ -14,6 +16,10 @@ struct RoundCase {
   double input;
   std::int64_t ticks;
 };
+
+std::ostream& operator<<(std::ostream& os, const RoundCase& c) {
+  return os << std::setprecision(17) << c.input << " to " << c.ticks << " ten-thousandths";
+}
 
 class CurrencyRoundTest : public ::testing::TestWithParam<RoundCase> {};
 
