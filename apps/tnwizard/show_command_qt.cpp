@@ -53,8 +53,10 @@ class PrintingHost : public tnw::TnwMavtEvents {
   }
 
  private:
-  static void print(const nlohmann::json& line) {
-    std::cout << line.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace) << std::endl;
+  // ordered_json keeps the keys in the order written, which is the documented order of each line.
+  static void print(const nlohmann::ordered_json& line) {
+    std::cout << line.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace)
+              << std::endl;
   }
 
   tnw::TNW_MAVT& m_wizard;
