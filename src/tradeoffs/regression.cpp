@@ -290,15 +290,16 @@ std::optional<std::string> Regression::CalWeights() {
   double s = 0.0;
   for (int i = 1; i <= w.K; ++i) s += w.Coef[static_cast<std::size_t>(i)];
   std::fill(w.Weights.begin(), w.Weights.end(), 0.0);
-  if (w.K == 0) return std::nullopt;
-  if (s == 0.0 || !std::isfinite(s)) return std::string(kZeroSumError);
+  // No attribute at all sums to zero too: there are no weights to form.
+  if (s == 0.0) return std::string(kZeroSumError);
+  if (!std::isfinite(s)) return std::string(kNotFiniteError);
   for (int i = 1; i <= w.K; ++i) {
     const auto ii = static_cast<std::size_t>(i);
     w.Weights[ii] = w.Coef[ii] / s;
   }
   if (!allFinite(w.Weights)) {
     std::fill(w.Weights.begin(), w.Weights.end(), 0.0);
-    return std::string(kZeroSumError);
+    return std::string(kNotFiniteError);
   }
   return std::nullopt;
 }

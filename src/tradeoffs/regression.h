@@ -70,7 +70,8 @@ class Regression {
   void CalModelValues();
   // Writes the record, the shared weight tables and the consistency comment.
   void StoreMultiRegressionData(MultiRegressionData& record, WizardContext& shared);
-  // Weights(i) = Coef(i) / Σ Coef. A zero sum leaves the weights 0 and returns a message.
+  // Weights(i) = Coef(i) / Σ Coef. When the sum is zero (as after a fit that stopped on a
+  // warning) or the weights are not finite, the weights stay 0 and the message is returned.
   std::optional<std::string> CalWeights();
 
   // The working arrays (tests and the results read them; steps may be driven on them directly).

@@ -57,15 +57,14 @@ void TradeOffsAPresenter::runRegression() {
   m_ui.setBusy(true);
   m_regression.RegressMain(m_judgment.store(), m_context.model.attributeCount(), m_record,
                            m_context);
-  m_fitError = m_regression.error();
   for (const std::string& w : m_regression.warnings()) warn(w);
-  if (m_fitError) warn(*m_fitError);
+  // CalWeights runs after every fit, as the Next step has always run it. A fit that stopped on
+  // a warning (no inverse, mL(0,0), a negative regression sum) leaves coefficients that sum to
+  // zero; those weights cannot be formed, so that too ends the fit with its message and nothing
+  // can be exported. A fit that ended in its own message keeps that one message.
   const std::optional<std::string> weightsError = m_regression.CalWeights();
-  // A fit that already reported its failure explains the zero sum; one message is enough.
-  if (weightsError && m_regression.warnings().empty() && !m_fitError) {
-    m_fitError = weightsError;
-    warn(*weightsError);
-  }
+  m_fitError = m_regression.error() ? m_regression.error() : weightsError;
+  if (m_fitError) warn(*m_fitError);
   m_ui.setBusy(false);
 }
 

@@ -185,7 +185,7 @@ TEST_F(TradeOffsAPresenterTest, TwoAttributeNumericalFitEndsInAMessageAndFinishE
   EXPECT_EQ(m_ui.messages().back().text, Regression::kNoDegreeOfFreedomError);
 }
 
-TEST_F(TradeOffsAPresenterTest, AfterAFailedInversionTheGridsShowWhatTheTablesHeldBefore) {
+TEST_F(TradeOffsAPresenterTest, FailedInversionEndsInTheZeroSumMessageAndFinishExportsNothing) {
   load(3);
   m_ctx.CloseWeights = {0.1, 0.2, 0.3};
   m_ctx.UpperWeights = {0.4, 0.5, 0.6};
@@ -199,15 +199,79 @@ TEST_F(TradeOffsAPresenterTest, AfterAFailedInversionTheGridsShowWhatTheTablesHe
     m_p->cmdTradeOffEnter_Click();
   }
   m_p->cmdNext_Click();
-  ASSERT_FALSE(m_ui.messages().empty());
+  // The warning first, then the outcome: the coefficients it left cannot be normalised.
+  ASSERT_EQ(m_ui.messages().size(), 2u);
   EXPECT_EQ(m_ui.messages()[0].text, Regression::kNoInverseWarning);
-  EXPECT_EQ(m_ui.messages().size(), 1u);
+  EXPECT_EQ(m_ui.messages()[1].text, Regression::kZeroSumError);
+  EXPECT_EQ(m_ui.messages()[1].title, "NORIX");
+  EXPECT_EQ(m_ui.messages()[1].icon, MessageIcon::Exclamation);
+  ASSERT_TRUE(m_p->fitError().has_value());
+  EXPECT_EQ(*m_p->fitError(), Regression::kZeroSumError);
+  EXPECT_EQ(m_p->step(), 2);
+  // The grids show what the tables held before.
   const GridState& g = m_p->resultsPage().gridWeights();
   EXPECT_EQ(g.cells[3], (std::vector<std::string>{"Att3", "0.3000", "0.6000", "0.2500"}));
   EXPECT_EQ(m_p->resultsPage().gridOverallRegression().text(4, 1), "");
   m_p->cmdFinish_Click();
-  ASSERT_EQ(m_events.exports.size(), 1u);
-  EXPECT_EQ(m_events.exports[0].weights, (std::vector<double>{0.1, 0.2, 0.3}));
+  EXPECT_TRUE(m_events.exports.empty());
+  EXPECT_TRUE(m_events.unloads.empty());
+  EXPECT_EQ(m_ui.messages().back().text, Regression::kZeroSumError);
+  // The dialog stays usable: Back returns to the judgments, Cancel unloads without export.
+  m_p->cmdBack_Click();
+  EXPECT_EQ(m_p->step(), 1);
+  m_p->cmdCancel_Click();
+  ASSERT_EQ(m_events.unloads.size(), 1u);
+  EXPECT_EQ(m_events.unloads[0], (std::pair<std::int16_t, bool>{3, false}));
+  EXPECT_TRUE(m_events.exports.empty());
+}
+
+TEST_F(TradeOffsAPresenterTest, ZeroTotalSumOfSquaresEndsInTheZeroSumMessageAndExportsNothing) {
+  load(3);
+  // Every response is 2 ("Moderately the opposite"): nothing to explain, so CalParameters stops
+  // on mL(0,0) and the coefficients stay 0.
+  m_p->tsComparisonApproaches_Click(2);
+  m_p->optPCVerbal_Click(5);
+  const char* scores[6][4] = {{"8", "2", "3", "7"}, {"6", "1", "2", "9"}, {"4", "5", "9", "1"},
+                              {"7", "3", "1", "6"}, {"2", "8", "5", "4"}, {"9", "6", "3", "2"}};
+  for (const auto& row : scores) {
+    for (int b = 0; b < 4; ++b) m_p->setScoreText(b, row[b]);
+    m_p->cmdTradeOffEnter_Click();
+  }
+  ASSERT_EQ(m_p->judgmentPage().TradeOffNo(), 6);
+  ASSERT_TRUE(m_ui.messages().empty());
+  m_p->cmdNext_Click();
+  ASSERT_EQ(m_ui.messages().size(), 2u);
+  EXPECT_EQ(m_ui.messages()[0].text, Regression::kZeroTotalWarning);
+  EXPECT_EQ(m_ui.messages()[1].text, Regression::kZeroSumError);
+  EXPECT_EQ(m_ui.messages()[1].title, "NORIX");
+  ASSERT_TRUE(m_p->fitError().has_value());
+  EXPECT_EQ(*m_p->fitError(), Regression::kZeroSumError);
+  // The later steps ran on the unset coefficients and stored them: the grids show those zeros.
+  const GridState& g = m_p->resultsPage().gridWeights();
+  EXPECT_EQ(g.cells[1], (std::vector<std::string>{"Att1", "0.0000", "0.0000", "0.0000"}));
+  EXPECT_EQ(m_p->resultsPage().gridOverallRegression().text(4, 1), "6");
+  EXPECT_EQ(m_p->resultsPage().gridOverallRegression().text(5, 1), "");
+  for (const auto& row : g.cells) {
+    for (const std::string& cell : row) {
+      EXPECT_EQ(cell.find("nan"), std::string::npos) << cell;
+      EXPECT_EQ(cell.find("inf"), std::string::npos) << cell;
+    }
+  }
+  m_p->cmdFinish_Click();
+  EXPECT_TRUE(m_events.exports.empty());
+  EXPECT_TRUE(m_events.unloads.empty());
+  EXPECT_EQ(m_ui.messages().size(), 3u);
+}
+
+TEST_F(TradeOffsAPresenterTest, TwoAttributeFitShowsOnlyItsOwnMessageAfterAnyWarnings) {
+  load(2);
+  m_p->cmdTradeOffEnter_Click();
+  m_p->cmdTradeOffEnter_Click();
+  m_p->cmdNext_Click();
+  // The coefficients of this fit also sum to zero, but the fit's own message is the one shown.
+  ASSERT_EQ(m_ui.messages().size(), 1u);
+  EXPECT_EQ(m_ui.messages()[0].text, Regression::kNoDegreeOfFreedomError);
+  EXPECT_EQ(*m_p->fitError(), Regression::kNoDegreeOfFreedomError);
 }
 
 }  // namespace
