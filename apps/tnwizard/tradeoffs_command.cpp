@@ -15,9 +15,11 @@
 #include <nlohmann/json.hpp>
 
 // Std
+#include <cstdint>
 #include <cstdio>
 #include <fstream>
-#include <optional>
+#include <stdexcept>
+#include <string>
 
 namespace {
 
@@ -49,27 +51,60 @@ struct Judgment {
   int response = 0;
 };
 
-std::optional<std::vector<Judgment>> parseJudgments(const nlohmann::json& j) {
-  if (!j.is_array()) return std::nullopt;
+// A judgments file that cannot be run as written; what() says which judgment and why.
+struct JudgmentsError : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+
+// Whether v is an integer from low to high (a JSON integer of any size).
+bool integerIn(const nlohmann::json& v, int low, int high) {
+  if (v.is_number_unsigned()) {
+    return high >= 0 && v.get<std::uint64_t>() <= static_cast<std::uint64_t>(high) &&
+           static_cast<std::int64_t>(v.get<std::uint64_t>()) >= low;
+  }
+  return v.is_number_integer() && v.get<std::int64_t>() >= low && v.get<std::int64_t>() <= high;
+}
+
+// The attribute index of field `key` of judgment `at`, which must be an index of the model.
+int attributeIndex(const nlohmann::json& item, const char* key, std::size_t at, int numAtt) {
+  const std::string where = "judgment [" + std::to_string(at) + "]: \"" + key + "\" ";
+  if (!item.contains(key)) throw JudgmentsError(where + "is missing");
+  const nlohmann::json& v = item[key];
+  if (!v.is_number_integer()) throw JudgmentsError(where + "is not an integer");
+  if (!integerIn(v, 0, numAtt - 1)) {
+    const std::string range = numAtt > 0 ? "0 to " + std::to_string(numAtt - 1) : "none";
+    throw JudgmentsError(where + v.dump() +
+                         " is not an attribute index of the model (its indexes: " + range + ")");
+  }
+  return static_cast<int>(v.get<std::int64_t>());
+}
+
+// Reads the judgments; a message names a judgment by its 0-based place in the array, "[2]".
+std::vector<Judgment> parseJudgments(const nlohmann::json& j, int numAtt) {
+  if (!j.is_array()) throw JudgmentsError("the judgments are not a JSON array");
   std::vector<Judgment> out;
-  for (const auto& item : j) {
-    if (!item.is_object() || !item.contains("first") || !item.contains("second") ||
-        !item.contains("scores") || !item["first"].is_number_integer() ||
-        !item["second"].is_number_integer() || !item["scores"].is_array() ||
-        item["scores"].size() != 4) {
-      return std::nullopt;
-    }
+  for (std::size_t at = 0; at < j.size(); ++at) {
+    const nlohmann::json& item = j[at];
+    const std::string where = "judgment [" + std::to_string(at) + "]: ";
+    if (!item.is_object()) throw JudgmentsError(where + "is not a JSON object");
     Judgment jd;
-    jd.first = item["first"].get<int>();
-    jd.second = item["second"].get<int>();
+    jd.first = attributeIndex(item, "first", at, numAtt);
+    jd.second = attributeIndex(item, "second", at, numAtt);
+    if (!item.contains("scores") || !item["scores"].is_array() || item["scores"].size() != 4) {
+      throw JudgmentsError(where + "\"scores\" must be an array of four numbers [a1,b1,a2,b2]");
+    }
     for (std::size_t i = 0; i < 4; ++i) {
-      if (!item["scores"][i].is_number()) return std::nullopt;
+      if (!item["scores"][i].is_number()) {
+        throw JudgmentsError(where + "\"scores\" must be an array of four numbers [a1,b1,a2,b2]");
+      }
       jd.scores[i] = item["scores"][i].get<double>();
     }
     if (item.contains("response")) {
-      if (!item["response"].is_number_integer()) return std::nullopt;
-      jd.response = item["response"].get<int>();
-      if (jd.response < -3 || jd.response > 3) return std::nullopt;
+      const nlohmann::json& r = item["response"];
+      if (!integerIn(r, -3, 3)) {
+        throw JudgmentsError(where + "\"response\" must be an integer from -3 to 3");
+      }
+      jd.response = static_cast<int>(r.get<std::int64_t>());
     }
     out.push_back(jd);
   }
@@ -163,13 +198,15 @@ int runTradeOffs(const std::vector<std::string>& args) {
     return kExitCannotOpen;
   }
   const nlohmann::json input = nlohmann::json::parse(in, nullptr, false);
-  const std::optional<std::vector<Judgment>> judgments =
-      input.is_discarded() ? std::nullopt : parseJudgments(input);
-  if (!judgments) {
-    std::fputs(
-        "tnwizard: the judgments must be a JSON array of "
-        "{\"first\":i,\"second\":j,\"scores\":[a1,b1,a2,b2],\"response\":-3..3}\n",
-        stderr);
+  std::vector<Judgment> judgments;
+  try {
+    if (input.is_discarded()) throw JudgmentsError("the file is not valid JSON");
+    judgments = parseJudgments(input, ctx.model.attributeCount());
+  } catch (const JudgmentsError& e) {
+    std::fprintf(stderr,
+                 "tnwizard: %s: %s\nThe judgments must be a JSON array of "
+                 "{\"first\":i,\"second\":j,\"scores\":[a1,b1,a2,b2],\"response\":-3..3}\n",
+                 args[1].c_str(), e.what());
     return 1;
   }
   tnw::RecordingUiServices ui;
@@ -178,7 +215,7 @@ int runTradeOffs(const std::vector<std::string>& args) {
   tnw::TradeOffsAPresenter p(ctx, ui, events, random);
   p.Form_Load();
   p.optPCManual_Click();
-  for (const Judgment& j : *judgments) enterJudgment(p, j, ctx.model.attributeCount());
+  for (const Judgment& j : judgments) enterJudgment(p, j, ctx.model.attributeCount());
   p.cmdNext_Click();
   // Finish hands the weights over only when the fit was completed; otherwise it shows the fit's
   // message again, which the warnings already hold.
