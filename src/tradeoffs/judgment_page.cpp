@@ -7,7 +7,6 @@
 #include "tradeoffs/score_entry.h"
 
 // Std
-#include <algorithm>
 #include <cmath>
 
 namespace tnw {
@@ -23,11 +22,12 @@ std::string trimmed(const std::string& s) {
   return s.substr(b, e - b + 1);
 }
 
+// The attribute's stored low or high end, as stored: a range may run from a larger low end to
+// a smaller high end (a price, for instance), and the message and the step keep that order.
 double scoreEnd(const AttributeModel& m, int att, bool high) {
   if (att < 0 || att >= kMaxAttributes) return 0.0;
   const auto a = static_cast<std::size_t>(att);
-  return high ? std::max(m.AttScoreLow[a], m.AttScoreHigh[a])
-              : std::min(m.AttScoreLow[a], m.AttScoreHigh[a]);
+  return high ? m.AttScoreHigh[a] : m.AttScoreLow[a];
 }
 
 std::string attName(const AttributeModel& m, int att) {
@@ -196,7 +196,16 @@ void JudgmentPage::fail(const std::string& text) {
   m_ui.messageBox(text, MessageIcon::Exclamation, kTitle);
 }
 
-bool JudgmentPage::CheckEnteredData(int box, float low, float high) {
+bool JudgmentPage::CheckEnteredDataF(int box) {
+  return checkBoxRange(box, m_lowFirst, m_highFirst);
+}
+
+bool JudgmentPage::CheckEnteredDataS(int box) {
+  return checkBoxRange(box, m_lowSecond, m_highSecond);
+}
+
+bool JudgmentPage::checkBoxRange(int box, float low, float high) {
+  if (box < 0 || box > 3) return false;
   TextBoxState& b = m_controls.scoreBoxes[static_cast<std::size_t>(box)];
   const std::optional<std::string> message = ScoreEntry::checkRange(b.text, low, high);
   if (!message) return true;
@@ -210,10 +219,9 @@ bool JudgmentPage::CheckEnteredData(int box, float low, float high) {
 
 bool JudgmentPage::CheckData() {
   m_entryError = false;
-  return CheckEnteredData(0, m_lowFirst, m_highFirst) &&
-         CheckEnteredData(2, m_lowFirst, m_highFirst) &&
-         CheckEnteredData(1, m_lowSecond, m_highSecond) &&
-         CheckEnteredData(3, m_lowSecond, m_highSecond);
+  // A1, B1 on the first attribute, then A2, B2 on the second; the first failure ends the check.
+  return CheckEnteredDataF(kBoxAFirst) && CheckEnteredDataF(kBoxBFirst) &&
+         CheckEnteredDataS(kBoxASecond) && CheckEnteredDataS(kBoxBSecond);
 }
 
 void JudgmentPage::cmdTradeOffEnter_Click() {

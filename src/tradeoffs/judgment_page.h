@@ -87,7 +87,19 @@ class JudgmentPage {
 
   // Draws A and B for the pair and fills the four boxes.
   void DisplayScoresInTxtBox(int first, int second);
-  // Checks the four boxes against the ranges; false at the first failure (message shown).
+  // The score boxes by index: (1) A first, (2) A second, (3) B first, (4) B second.
+  static constexpr int kBoxAFirst = 0;
+  static constexpr int kBoxASecond = 1;
+  static constexpr int kBoxBFirst = 2;
+  static constexpr int kBoxBSecond = 3;
+
+  // Checks box `box` against the first attribute's score range; false (message shown, the box
+  // selected and focused, the entry-error flag set) when its number lies outside.
+  bool CheckEnteredDataF(int box);
+  // The same against the second attribute's score range.
+  bool CheckEnteredDataS(int box);
+  // Checks A1 and B1 with CheckEnteredDataF, then A2 and B2 with CheckEnteredDataS; false at the
+  // first failure.
   bool CheckData();
   // The trade-off ratio of the boxes for attributes p and q (order 1: the first-attribute boxes
   // belong to q); empty when a value cannot be computed.
@@ -96,7 +108,7 @@ class JudgmentPage {
  private:
   void setPair(int first, int second);
   void relabel();
-  bool CheckEnteredData(int box, float low, float high);
+  bool checkBoxRange(int box, float low, float high);
   bool recordJudgment();
   std::optional<double> WeightsInput(int attribute, int which) const;
   void showDifferences();
@@ -117,7 +129,8 @@ class JudgmentPage {
   bool m_automatic = true;
   bool m_entryError = false;
   bool m_changedByToolbar = false;
-  // The score ranges of the two selected attributes, low end first, single precision.
+  // The stored low and high ends of the two selected attributes' score ranges (the low end may
+  // be the larger), single precision.
   float m_lowFirst = 0.0f;
   float m_highFirst = 0.0f;
   float m_lowSecond = 0.0f;

@@ -66,12 +66,15 @@ void ScoreEntry::applyKey(TextBoxState& box, int key) {
 
 std::optional<std::string> ScoreEntry::checkRange(const std::string& text, float low, float high) {
   const double v = leadingNumber(trimmed(text));
-  if (v >= low && v <= high) return std::nullopt;
+  // The ends may come in either order; the message names them as they were given.
+  if (v >= std::min(low, high) && v <= std::max(low, high)) return std::nullopt;
   return "The data you entered should be in the relevant score range [" + generalTextSingle(low) +
          ", " + generalTextSingle(high) + "]!";
 }
 
 std::string ScoreEntry::step(const std::string& text, float low, float high, bool up) {
+  // High end minus low end as given: with a low end above the high end the step is negative,
+  // so "Up" moves towards the high end, whichever way the range runs.
   const float stepSize = (high - low) / 100.0f;
   const double v = leadingNumber(text);
   return formatNumber(up ? v + stepSize : v - stepSize, "0.0#");

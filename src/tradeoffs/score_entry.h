@@ -26,9 +26,11 @@ class ScoreEntry {
   // selection, backspace deletes it or the character before the caret.
   static void applyKey(TextBoxState& box, int key);
 
-  // The range message for a text outside [low, high], ends included; empty when inside.
+  // The range message for a text outside the range between low and high (either order), ends
+  // included, naming the ends as "[low, high]"; empty when inside.
   static std::optional<std::string> checkRange(const std::string& text, float low, float high);
-  // The text after one toolbar step: the value ± (high - low) / 100, written "0.0#".
+  // The text after one toolbar step: the value ± (high - low) / 100, written "0.0#"; the step is
+  // negative when low > high.
   static std::string step(const std::string& text, float low, float high, bool up);
 };
 

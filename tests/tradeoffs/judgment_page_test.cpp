@@ -165,6 +165,88 @@ TEST_F(JudgmentPageTest, OutOfRangeScoreIsReportedSelectedAndNothingIsRecorded) 
   EXPECT_EQ(m_page->store().JudgmentCount, 0);
 }
 
+TEST_F(JudgmentPageTest, CheckEnteredDataFAndSCheckAgainstTheFirstAndTheSecondAttribute) {
+  load(2);
+  m_ctx.model.AttScoreHigh[1] = 100.0;
+  m_page->optPCAutomatic_Click();  // the page reads the ranges again
+  setScores("5", "50", "7", "60");
+  // "50" lies in the second attribute's range but not in the first's.
+  EXPECT_TRUE(m_page->CheckEnteredDataS(JudgmentPage::kBoxASecond));
+  EXPECT_TRUE(m_ui.messages().empty());
+  EXPECT_FALSE(m_page->CheckEnteredDataF(JudgmentPage::kBoxASecond));
+  ASSERT_EQ(m_ui.messages().size(), 1u);
+  EXPECT_EQ(m_ui.messages()[0].text,
+            "The data you entered should be in the relevant score range [0, 10]!");
+  EXPECT_EQ(m_page->focus(), "txtTradeOffASecondScore");
+  EXPECT_TRUE(m_page->entryError());
+  EXPECT_TRUE(m_page->CheckEnteredDataF(JudgmentPage::kBoxBFirst));
+  setScores("5", "150", "7", "60");
+  EXPECT_FALSE(m_page->CheckEnteredDataS(JudgmentPage::kBoxASecond));
+  EXPECT_EQ(m_ui.messages().back().text,
+            "The data you entered should be in the relevant score range [0, 100]!");
+}
+
+TEST_F(JudgmentPageTest, CheckDataChecksAOneBOneATwoBTwoAndStopsAtTheFirstFailure) {
+  load(2);
+  // Every box out of range: each run of CheckData reports one box, then that box is put right.
+  setScores("11", "12", "13", "14");
+  const std::pair<int, const char*> order[] = {{0, "txtTradeOffAFirstScore"},
+                                               {2, "txtTradeOffBFirstScore"},
+                                               {1, "txtTradeOffASecondScore"},
+                                               {3, "txtTradeOffBSecondScore"}};
+  std::size_t shown = 0;
+  for (const auto& [box, name] : order) {
+    EXPECT_FALSE(m_page->CheckData());
+    EXPECT_EQ(m_ui.messages().size(), ++shown);
+    EXPECT_EQ(m_page->focus(), name);
+    EXPECT_TRUE(m_page->entryError());
+    m_page->setScoreText(box, "5");
+  }
+  EXPECT_TRUE(m_page->CheckData());
+  EXPECT_FALSE(m_page->entryError());
+  EXPECT_EQ(m_ui.messages().size(), shown);
+}
+
+TEST_F(JudgmentPageTest, ReversedRangeKeepsItsStoredEndsInTheMessageAndStepsTowardsItsHighEnd) {
+  load(2);
+  // As the sample's "Purchase price": low end 42000, high end 18000.
+  AttributeModel& m = m_ctx.model;
+  m.AttScoreLow[0] = 42000.0;
+  m.AttScoreHigh[0] = 18000.0;
+  m.PointScore[0][0] = 18000.0;
+  m.PointValue[0][0] = 1.0;
+  m.PointScore[0][1] = 42000.0;
+  m.PointValue[0][1] = 0.0;
+  m_page->optPCAutomatic_Click();
+  setScores("50000", "4", "30000", "6");
+  m_page->cmdTradeOffEnter_Click();
+  ASSERT_EQ(m_ui.messages().size(), 1u);
+  EXPECT_EQ(m_ui.messages()[0].text,
+            "The data you entered should be in the relevant score range [42000, 18000]!");
+  EXPECT_EQ(m_page->store().JudgmentCount, 0);
+  setScores("10000", "4", "30000", "6");
+  EXPECT_FALSE(m_page->CheckData());
+  EXPECT_EQ(m_ui.messages().back().text,
+            "The data you entered should be in the relevant score range [42000, 18000]!");
+  // Scores between the two ends, and the ends themselves, are inside the range.
+  setScores("42000", "4", "18000", "6");
+  EXPECT_TRUE(m_page->CheckData());
+  setScores("30000", "4", "24000", "6");
+  m_page->cmdTradeOffEnter_Click();
+  ASSERT_EQ(m_page->store().JudgmentCount, 1);
+  EXPECT_EQ(m_page->store().ScoreAFirst[0], 30000.0);
+  // The step is (18000 - 42000) / 100 = -240: "Up" moves towards the high end, 18000.
+  m_page->optPCAutomatic_Click();
+  setScores("30000", "4", "24000", "6");
+  m_page->tbScoreChanger_ButtonClick(0, true);
+  EXPECT_EQ(c().scoreBoxes[0].text, "29760.0");
+  m_page->tbScoreChanger_ButtonClick(2, false);
+  EXPECT_EQ(c().scoreBoxes[2].text, "24240.0");
+  // The second attribute's range runs the usual way: its step is +0.1.
+  m_page->tbScoreChanger_ButtonClick(1, true);
+  EXPECT_EQ(c().scoreBoxes[1].text, "4.1");
+}
+
 TEST_F(JudgmentPageTest, NumericalJudgmentRecordsScoresResponseZeroAndValueDifferences) {
   load(3);
   setScores("8", "2.5", "3", "7.5");

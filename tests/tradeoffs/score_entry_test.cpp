@@ -69,6 +69,19 @@ TEST(ScoreEntryTest, RangeIncludesBothEndsAndTheMessageShowsSinglePrecisionEnds)
             "The data you entered should be in the relevant score range [0.1, 2.5]!");
 }
 
+TEST(ScoreEntryTest, ReversedRangeAcceptsScoresBetweenItsEndsAndNamesThemAsGiven) {
+  EXPECT_FALSE(ScoreEntry::checkRange("30000", 42000.0f, 18000.0f).has_value());
+  EXPECT_FALSE(ScoreEntry::checkRange("42000", 42000.0f, 18000.0f).has_value());
+  EXPECT_FALSE(ScoreEntry::checkRange("18000", 42000.0f, 18000.0f).has_value());
+  EXPECT_EQ(ScoreEntry::checkRange("17999.5", 42000.0f, 18000.0f),
+            "The data you entered should be in the relevant score range [42000, 18000]!");
+  EXPECT_EQ(ScoreEntry::checkRange("42,001", 42000.0f, 18000.0f),
+            "The data you entered should be in the relevant score range [42000, 18000]!");
+  // (18000 - 42000) / 100 = -240.
+  EXPECT_EQ(ScoreEntry::step("30000", 42000.0f, 18000.0f, true), "29760.0");
+  EXPECT_EQ(ScoreEntry::step("30,000", 42000.0f, 18000.0f, false), "30240.0");
+}
+
 TEST(ScoreEntryTest, ScoresOfAThousandAndMoreReadBackAcrossTheGroupSeparator) {
   EXPECT_FALSE(ScoreEntry::checkRange("1,234.5", 1000.0f, 2000.0f).has_value());
   EXPECT_EQ(ScoreEntry::step("1,234.5", 0.0f, 2000.0f, true), "1254.5");
