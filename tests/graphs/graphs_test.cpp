@@ -216,6 +216,90 @@ TEST(GraphsTest, LegendAListsItsEntriesInColoursNineTwelveThirteen) {
   EXPECT_GT(s.printed("High Est.")->y1, s.printed("Low Est.")->y1);
 }
 
+TEST(GraphsTest, SecondKindDrawsItsSeriesWithLineWidthsOneOneTwoAndResetsToOne) {
+  RecordingSurface s;
+  // Two items: slot 50, w = 37.5, w' = 33.5.
+  tradeOffGraphs().Display_HLCGraphBMain(s, hlcData({{1.0, 0.5, 0.8}, {0.6, 0.2, 0.4}}));
+  std::vector<RecordingSurface::Op> marks;
+  for (const auto& op : s.ops(Kind::Line)) {
+    if (op.style == LineStyle::Solid && op.x1 > 0.0 && op.x1 < 100.0 && op.y1 != -1.0 &&
+        !(op.y1 == 100.0 && op.y2 == 100.0)) {
+      marks.push_back(op);
+    }
+  }
+  ASSERT_EQ(marks.size(), 6u);
+  const int colours[3] = {9, 10, 12};
+  const int widths[3] = {1, 1, 2};
+  const double lengths[3] = {33.5, 33.5, 37.5};
+  for (std::size_t i = 0; i < 6; ++i) {
+    EXPECT_EQ(marks[i].colour, colours[i % 3]) << i;
+    EXPECT_EQ(marks[i].width, widths[i % 3]) << i;
+    EXPECT_DOUBLE_EQ(marks[i].x2 - marks[i].x1, lengths[i % 3]) << i;
+    EXPECT_EQ(marks[i].y1, marks[i].y2) << i;
+  }
+  EXPECT_NEAR(marks[3].y1, 60.0 / 1.1, 1e-9);
+  EXPECT_NEAR(marks[4].y1, 20.0 / 1.1, 1e-9);
+  // After the marks the width is set back to 1 (the legend then sets its own).
+  const auto& ops = s.ops();
+  std::size_t lastMark = 0;
+  for (std::size_t i = 0; i < ops.size(); ++i) {
+    if (ops[i].kind == Kind::Line && ops[i].colour == 12 && ops[i].x1 < 100.0) lastMark = i;
+  }
+  ASSERT_LT(lastMark + 1, ops.size());
+  EXPECT_EQ(ops[lastMark + 1].kind, Kind::LineWidth);
+  EXPECT_EQ(ops[lastMark + 1].width, 1);
+}
+
+TEST(GraphsTest, LegendBListsRangesAndCloseEstInColoursNineAndTwelve) {
+  RecordingSurface s;
+  ChartData d = hlcData({{1.0, 0.5, 0.8}});
+  d.legend = {"Ranges", "Close Est."};
+  tradeOffGraphs().Display_HLCGraphBMain(s, d);
+  std::vector<RecordingSurface::Op> marks;
+  for (const auto& op : s.ops(Kind::Line)) {
+    if (op.x1 >= 100.0 && op.x2 > 100.0) marks.push_back(op);
+  }
+  ASSERT_EQ(marks.size(), 2u);
+  EXPECT_EQ(marks[0].colour, 9);
+  EXPECT_EQ(marks[1].colour, 12);
+  for (const auto& m : marks) {
+    EXPECT_EQ(m.x1, 105.0);
+    EXPECT_GT(m.x2, m.x1);
+    EXPECT_LT(m.x2, 112.0);
+  }
+  const auto* ranges = s.printed("Ranges");
+  const auto* close = s.printed("Close Est.");
+  ASSERT_NE(ranges, nullptr);
+  ASSERT_NE(close, nullptr);
+  EXPECT_EQ(ranges->x1, 112.0);
+  EXPECT_EQ(close->x1, 112.0);
+  // One below the other, each text beside its mark.
+  EXPECT_GT(ranges->y1, close->y1);
+  EXPECT_GT(marks[0].y1, marks[1].y1);
+  EXPECT_NEAR(ranges->y1 + s.textHeight("Ranges") / 2.0, marks[0].y1, 1e-12);
+  EXPECT_NEAR(close->y1 + s.textHeight("Close Est.") / 2.0, marks[1].y1, 1e-12);
+  // No third entry: the chart of the first kind's legend texts are not drawn.
+  EXPECT_EQ(s.printed("High Est."), nullptr);
+  EXPECT_EQ(s.printed("Low Est."), nullptr);
+}
+
+TEST(GraphsTest, ValueLabelsOfAThousandAndMoreAreWrittenWithAGroupSeparator) {
+  RecordingSurface s;
+  // The maximum 1000 gives a scale top of 1100: labels 275, 550, 825 and 1,100.
+  tradeOffGraphs().Display_HLCGraphAMain(s, hlcData({{1000.0, 200.0, 600.0}}));
+  std::vector<std::string> labels;
+  for (const auto& op : s.ops(Kind::Print)) {
+    if (op.x1 < 0.0 && op.y1 > -2.0) labels.push_back(op.text);
+  }
+  EXPECT_EQ(labels, (std::vector<std::string>{"275.0000", "550.0000", "825.0000", "1,100.0000"}));
+  const auto* top = s.printed("1,100.0000");
+  ASSERT_NE(top, nullptr);
+  EXPECT_DOUBLE_EQ(top->x1, -3.0 - s.textWidth("1,100.0000"));
+  RecordingSurface big;
+  tradeOffGraphs().Display_HLCGraphBMain(big, hlcData({{1000000.0, 0.0, 0.0}}));
+  EXPECT_NE(big.printed("1,100,000.0000"), nullptr);
+}
+
 TEST(GraphsTest, BarsTakeThreeQuartersOfTheSlotFromZeroToTheirHeight) {
   RecordingSurface s;
   ChartData d = hlcData({{0.5, 0, 0}, {0.25, 0, 0}});
