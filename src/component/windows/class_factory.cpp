@@ -1,5 +1,6 @@
 #include "component/windows/class_factory.h"
 
+#include "component/windows/com_boundary.h"
 #include "component/windows/com_tnw_mavt.h"
 #include "component/windows/server_module.h"
 
@@ -28,7 +29,7 @@ HRESULT STDMETHODCALLTYPE ClassFactory::CreateInstance(IUnknown* outer, REFIID i
   if (!object) return E_POINTER;
   *object = nullptr;
   if (outer) return CLASS_E_NOAGGREGATION;
-  return ComTnwMavt::create(iid, object);
+  return comBoundary([iid, object] { return ComTnwMavt::create(iid, object); });
 }
 
 HRESULT STDMETHODCALLTYPE ClassFactory::LockServer(BOOL lock) {

@@ -1,32 +1,23 @@
 #include "component/windows/com_tnw_mavt.h"
 
 #include "component/windows/automation_values.h"
+#include "component/windows/com_boundary.h"
 #include "component/windows/connection_point_enumerator.h"
 #include "component/windows/dialog_backend.h"
 #include "component/windows/server_module.h"
+#include "component/windows/server_registration.h"
 #include "component/wizard_component.h"
 
 // Windows
 #include <olectl.h>
 
 // Std
+#include <cstring>
 #include <exception>
 #include <new>
-#include <utility>
+#include <string>
 
 namespace tnw {
-
-namespace {
-
-constexpr wchar_t kProgId[] = L"TNWizard_MAVT.TNW_MAVT";
-
-std::wstring widen(const char* text) {
-  std::wstring result;
-  for (; text && *text; ++text) result.push_back(wchar_t(static_cast<unsigned char>(*text)));
-  return result;
-}
-
-}  // namespace
 
 class ComTnwMavt::BusyScope {
  public:
@@ -45,16 +36,16 @@ class ComTnwMavt::BusyScope {
   ComTnwMavt& m_object;
 };
 
-HRESULT ComTnwMavt::create(REFIID iid, void** object) {
+HRESULT ComTnwMavt::create(REFIID iid, void** object) noexcept {
   if (!object) return E_POINTER;
   *object = nullptr;
   ComTnwMavt* created = nullptr;
-  try {
+  HRESULT hr = comBoundary([&created] {
     created = new ComTnwMavt();
-  } catch (...) {
-    return E_OUTOFMEMORY;
-  }
-  HRESULT hr = created->init();
+    return S_OK;
+  });
+  if (FAILED(hr)) return hr;
+  hr = created->init();
   if (SUCCEEDED(hr)) hr = created->QueryInterface(iid, object);
   created->Release();
   return hr;
@@ -72,25 +63,21 @@ ComTnwMavt::~ComTnwMavt() {
   ServerModule::objectDestroyed();
 }
 
-HRESULT ComTnwMavt::init() {
-  HRESULT hr = ServerModule::typeInfo(IID__TNW_MAVT, m_typeInfo.GetAddressOf());
-  if (FAILED(hr)) return hr;
-  if (!m_window.valid()) return HRESULT_FROM_WIN32(GetLastError());
-  try {
+HRESULT ComTnwMavt::init() noexcept {
+  return comBoundary([this]() -> HRESULT {
+    HRESULT hr = ServerModule::typeInfo(IID__TNW_MAVT, m_typeInfo.GetAddressOf());
+    if (FAILED(hr)) return hr;
+    if (!m_window.valid()) return HRESULT_FROM_WIN32(GetLastError());
     m_backend = makeDialogBackend(m_window);
     if (!m_backend) return E_FAIL;
     m_component = std::make_unique<WizardComponent>(m_backend->factory(), m_backend->ui(),
                                                     m_backend->modelReader());
     m_component->setEvents(&m_relay);
-  } catch (const std::bad_alloc&) {
-    return E_OUTOFMEMORY;
-  } catch (...) {
-    return E_FAIL;
-  }
-  return S_OK;
+    return S_OK;
+  });
 }
 
-void ComTnwMavt::destroy() {
+void ComTnwMavt::destroy() noexcept {
   if (m_life.busy == 0) {
     delete this;
     return;
@@ -103,6 +90,7 @@ void ComTnwMavt::destroy() {
   try {
     m_window.post([this] { delete this; });
   } catch (...) {
+    // Making the task may allocate; without it the object stays.
   }
 }
 
@@ -237,7 +225,7 @@ HRESULT STDMETHODCALLTYPE ComTnwMavt::InterfaceSupportsErrorInfo(REFIID iid) {
 }
 
 template <class Call>
-HRESULT ComTnwMavt::guarded(Call&& call) {
+HRESULT ComTnwMavt::guarded(Call&& call) noexcept {
   if (m_life.dying || !m_component) return fail(E_UNEXPECTED, L"The object has been released.");
   BusyScope busy(*this);
   try {
@@ -245,21 +233,33 @@ HRESULT ComTnwMavt::guarded(Call&& call) {
   } catch (const std::bad_alloc&) {
     return fail(E_OUTOFMEMORY, L"Out of memory.");
   } catch (const std::exception& error) {
-    return fail(E_UNEXPECTED, widen(error.what()));
+    return failUtf8(E_UNEXPECTED, error.what());
   } catch (...) {
     return fail(E_UNEXPECTED, L"Unexpected error.");
   }
 }
 
-HRESULT ComTnwMavt::fail(HRESULT hr, const std::wstring& description) {
+HRESULT ComTnwMavt::fail(HRESULT hr, const wchar_t* description) noexcept {
   Microsoft::WRL::ComPtr<ICreateErrorInfo> create;
   if (SUCCEEDED(CreateErrorInfo(create.GetAddressOf()))) {
     create->SetGUID(IID__TNW_MAVT);
-    create->SetSource(const_cast<LPOLESTR>(kProgId));
-    create->SetDescription(const_cast<LPOLESTR>(description.c_str()));
+    create->SetSource(const_cast<LPOLESTR>(ServerRegistration::kProgId));
+    create->SetDescription(const_cast<LPOLESTR>(description));
     Microsoft::WRL::ComPtr<IErrorInfo> info;
     if (SUCCEEDED(create.As(&info))) SetErrorInfo(0, info.Get());
   }
+  return hr;
+}
+
+HRESULT ComTnwMavt::failUtf8(HRESULT hr, const char* description) noexcept {
+  // Converted without the C++ library, which could throw again while memory is short.
+  const int size = description ? int(std::strlen(description)) : 0;
+  const int wide = size > 0 ? MultiByteToWideChar(CP_UTF8, 0, description, size, nullptr, 0) : 0;
+  BSTR text = wide > 0 ? SysAllocStringLen(nullptr, UINT(wide)) : nullptr;
+  if (!text) return fail(hr, L"Unexpected error.");
+  MultiByteToWideChar(CP_UTF8, 0, description, size, text, wide);
+  fail(hr, text);
+  SysFreeString(text);
   return hr;
 }
 

@@ -12,7 +12,6 @@
 
 // Std
 #include <memory>
-#include <string>
 
 namespace tnw {
 
@@ -30,7 +29,7 @@ class ComTnwMavt final : public _TNW_MAVT,
                          public ISupportErrorInfo {
  public:
   // Makes a new object and asks it for iid.
-  static HRESULT create(REFIID iid, void** object);
+  static HRESULT create(REFIID iid, void** object) noexcept;
 
   // IUnknown.
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override;
@@ -72,11 +71,12 @@ class ComTnwMavt final : public _TNW_MAVT,
 
   ComTnwMavt();
   ~ComTnwMavt();
-  HRESULT init();
-  void destroy();
+  HRESULT init() noexcept;
+  void destroy() noexcept;
   template <class Call>
-  HRESULT guarded(Call&& call);
-  static HRESULT fail(HRESULT hr, const std::wstring& description);
+  HRESULT guarded(Call&& call) noexcept;
+  static HRESULT fail(HRESULT hr, const wchar_t* description) noexcept;
+  static HRESULT failUtf8(HRESULT hr, const char* description) noexcept;
 
   LONG m_refs = 1;
   ObjectLife m_life;

@@ -3,7 +3,6 @@
 #include "component/windows/server_module.h"
 
 // Std
-#include <mutex>
 #include <utility>
 
 namespace tnw {
@@ -14,9 +13,17 @@ constexpr wchar_t kClassName[] = L"TNWizard_MAVT.MessageWindow";
 constexpr UINT kRunTask = WM_APP + 1;
 // Windows of this class that exist; the class is unregistered with the last one, so the DLL can
 // be unloaded without leaving a window procedure behind. Objects may live in several apartments,
-// so the count is guarded.
+// so the count is guarded, by a lock that never throws (the destructor takes it too).
 long g_windowCount = 0;
-std::mutex g_classMutex;
+SRWLOCK g_classLock = SRWLOCK_INIT;
+
+class ClassLock {
+ public:
+  ClassLock() { AcquireSRWLockExclusive(&g_classLock); }
+  ~ClassLock() { ReleaseSRWLockExclusive(&g_classLock); }
+  ClassLock(const ClassLock&) = delete;
+  ClassLock& operator=(const ClassLock&) = delete;
+};
 
 }  // namespace
 
@@ -38,9 +45,13 @@ MessageWindow::~MessageWindow() {
   unregisterClass();
 }
 
-bool MessageWindow::post(std::function<void()> task) {
+bool MessageWindow::post(std::function<void()> task) noexcept {
   if (!m_window) return false;
-  m_tasks.push_back(std::move(task));
+  try {
+    m_tasks.push_back(std::move(task));
+  } catch (...) {
+    return false;
+  }
   if (!PostMessageW(m_window, kRunTask, 0, 0)) {
     m_tasks.pop_back();
     return false;
@@ -64,7 +75,7 @@ LRESULT CALLBACK MessageWindow::windowProc(HWND window, UINT message, WPARAM wPa
 }
 
 bool MessageWindow::registerClass() {
-  const std::lock_guard<std::mutex> lock(g_classMutex);
+  const ClassLock lock;
   if (g_windowCount++ > 0) return true;
   WNDCLASSEXW windowClass{};
   windowClass.cbSize = sizeof(windowClass);
@@ -77,7 +88,7 @@ bool MessageWindow::registerClass() {
 }
 
 void MessageWindow::unregisterClass() {
-  const std::lock_guard<std::mutex> lock(g_classMutex);
+  const ClassLock lock;
   if (--g_windowCount == 0) UnregisterClassW(kClassName, ServerModule::instance());
 }
 

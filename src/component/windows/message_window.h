@@ -24,9 +24,9 @@ class MessageWindow {
 
   // Whether the window exists, so posted tasks will run.
   bool valid() const { return m_window != nullptr; }
-  // Queues task to run from the message loop; false if it cannot be queued. A task may destroy
-  // this window's owner: nothing of the window is touched after a task ran.
-  bool post(std::function<void()> task);
+  // Queues task to run from the message loop; false if it cannot be queued (never throws). A
+  // task may destroy this window's owner: nothing of the window is touched after a task ran.
+  bool post(std::function<void()> task) noexcept;
   // How many tasks wait to run.
   std::size_t pending() const { return m_tasks.size(); }
 

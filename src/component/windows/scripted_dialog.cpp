@@ -18,7 +18,13 @@ ScriptedDialog::ScriptedDialog(std::string name, ScreenSize size, MessageWindow&
   m_trace.write(m_name + " created");
 }
 
-ScriptedDialog::~ScriptedDialog() { m_trace.write(m_name + " destroyed"); }
+ScriptedDialog::~ScriptedDialog() {
+  // Destructors run where nothing may throw, even when memory is short.
+  try {
+    m_trace.write(m_name + " destroyed");
+  } catch (...) {
+  }
+}
 
 void ScriptedDialog::showModeless() {
   trace("showModeless");

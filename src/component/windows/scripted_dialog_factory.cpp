@@ -23,42 +23,62 @@ ScriptedDialogFactory::~ScriptedDialogFactory() { destroyReleased(); }
 
 std::unique_ptr<WizardDialog> ScriptedDialogFactory::createSelMethod(WizardContext& context,
                                                                      SelMethodEvents& events) {
+  reserveRelease();
   return makeScriptedSelMethodDialog(nextName("frmTNWSelMethod"), context, events, m_ui, m_scenario,
                                      m_window, m_trace);
 }
 
 std::unique_ptr<WizardDialog> ScriptedDialogFactory::createDirectA(WizardContext& context,
                                                                    DirectAEvents& events) {
+  reserveRelease();
   return makeScriptedDirectDialog(nextName("frmDirectA"), context, events, m_ui, m_scenario,
                                   m_window, m_trace);
 }
 
 std::unique_ptr<WizardDialog> ScriptedDialogFactory::createTradeOffsA(WizardContext& context,
                                                                       TradeOffsAEvents& events) {
+  reserveRelease();
   return makeScriptedTradeOffsDialog(nextName("frmTradeOffsA"), context, events, m_ui, m_scenario,
                                      m_window, m_trace);
 }
 
-void ScriptedDialogFactory::release(std::unique_ptr<WizardDialog> dialog) {
+void ScriptedDialogFactory::release(std::unique_ptr<WizardDialog> dialog) noexcept {
   if (!dialog) return;
-  if (auto* scripted = dynamic_cast<ScriptedDialog*>(dialog.get()))
-    m_trace.write(scripted->name() + " released");
+  if (m_outstanding > 0) --m_outstanding;
+  try {
+    if (auto* scripted = dynamic_cast<ScriptedDialog*>(dialog.get()))
+      m_trace.write(scripted->name() + " released");
+  } catch (...) {
+  }
+  // Room was reserved when the dialog was made, so this does not allocate.
   m_released.push_back(std::move(dialog));
-  std::weak_ptr<ScriptedDialogFactory*> self = m_self;
   // If the task cannot be queued the dialog waits for the next release or the factory's end.
-  m_window.post([self] {
-    if (const auto alive = self.lock()) (*alive)->destroyReleased();
-  });
+  try {
+    std::weak_ptr<ScriptedDialogFactory*> self = m_self;
+    m_window.post([self] {
+      if (const auto alive = self.lock()) (*alive)->destroyReleased();
+    });
+  } catch (...) {
+  }
+}
+
+void ScriptedDialogFactory::reserveRelease() {
+  m_released.reserve(m_released.size() + m_outstanding + 1);
+  ++m_outstanding;
 }
 
 std::string ScriptedDialogFactory::nextName(const std::string& form) {
   return form + "#" + std::to_string(++m_created[form]);
 }
 
-void ScriptedDialogFactory::destroyReleased() {
-  // Moved out first: a dialog's destructor must not see the list change under it.
-  std::vector<std::unique_ptr<WizardDialog>> released = std::move(m_released);
-  m_released.clear();
+void ScriptedDialogFactory::destroyReleased() noexcept {
+  // One at a time, each out of the list before it goes: a dialog's destructor must not see the
+  // list change under it, and the list keeps the room reserved for later releases.
+  while (!m_released.empty()) {
+    std::unique_ptr<WizardDialog> dialog = std::move(m_released.front());
+    m_released.erase(m_released.begin());
+    dialog.reset();
+  }
 }
 
 }  // namespace tnw

@@ -34,12 +34,15 @@ class ScriptedDialogFactory : public WizardDialogFactory {
   // A new frmTradeOffsA.
   std::unique_ptr<WizardDialog> createTradeOffsA(WizardContext& context,
                                                  TradeOffsAEvents& events) override;
-  // Traces "<name> released" and destroys the dialog from the message loop.
-  void release(std::unique_ptr<WizardDialog> dialog) override;
+  // Traces "<name> released" and destroys the dialog from the message loop; never throws, as the
+  // component releases its dialogs from its destructor.
+  void release(std::unique_ptr<WizardDialog> dialog) noexcept override;
 
  private:
   std::string nextName(const std::string& form);
-  void destroyReleased();
+  // Makes room in m_released for one more dialog, so that release() never allocates.
+  void reserveRelease();
+  void destroyReleased() noexcept;
 
   ScriptedScenario& m_scenario;
   UiServices& m_ui;
@@ -47,6 +50,8 @@ class ScriptedDialogFactory : public WizardDialogFactory {
   const ScriptedTrace& m_trace;
   std::map<std::string, int> m_created;
   std::vector<std::unique_ptr<WizardDialog>> m_released;
+  // Dialogs made and not released yet.
+  std::size_t m_outstanding = 0;
   // Lets a queued destruction find out that the factory is gone.
   std::shared_ptr<ScriptedDialogFactory*> m_self;
 };

@@ -11,14 +11,14 @@ ScriptedTrace::ScriptedTrace() {
   if (length > 0 && length < MAX_PATH) m_path.assign(buffer, length);
 }
 
-void ScriptedTrace::write(const std::string& line) const {
+void ScriptedTrace::write(const std::string& line) const noexcept {
   if (m_path.empty()) return;
   HANDLE file = CreateFileW(m_path.c_str(), FILE_APPEND_DATA, FILE_SHARE_READ | FILE_SHARE_WRITE,
                             nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
   if (file == INVALID_HANDLE_VALUE) return;
-  const std::string text = line + "\n";
   DWORD written = 0;
-  WriteFile(file, text.data(), DWORD(text.size()), &written, nullptr);
+  WriteFile(file, line.data(), DWORD(line.size()), &written, nullptr);
+  WriteFile(file, "\n", 1, &written, nullptr);
   CloseHandle(file);
 }
 

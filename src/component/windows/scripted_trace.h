@@ -13,8 +13,8 @@ class ScriptedTrace {
   // A trace writing to the file TNW_SCRIPTED_TRACE names, if any.
   ScriptedTrace();
 
-  // Appends one line.
-  void write(const std::string& line) const;
+  // Appends one line; never throws, as dialogs trace from their destructors.
+  void write(const std::string& line) const noexcept;
 
  private:
   std::wstring m_path;

@@ -1,5 +1,6 @@
 #include "component/windows/server_module.h"
 
+#include "component/windows/com_boundary.h"
 #include "component/windows/tnwizard_mavt_h.h"
 
 // Std
@@ -44,15 +45,17 @@ void ServerModule::unlock() { --g_locks; }
 
 bool ServerModule::canUnload() { return g_objects.load() == 0 && g_locks.load() == 0; }
 
-HRESULT ServerModule::loadTypeLib(ITypeLib** typeLib) {
+HRESULT ServerModule::loadTypeLib(ITypeLib** typeLib) noexcept {
   if (!typeLib) return E_POINTER;
   *typeLib = nullptr;
-  const std::wstring path = modulePath();
-  if (path.empty()) return HRESULT_FROM_WIN32(GetLastError());
-  return LoadTypeLibEx(path.c_str(), REGKIND_NONE, typeLib);
+  return comBoundary([typeLib]() -> HRESULT {
+    const std::wstring path = modulePath();
+    if (path.empty()) return HRESULT_FROM_WIN32(GetLastError());
+    return LoadTypeLibEx(path.c_str(), REGKIND_NONE, typeLib);
+  });
 }
 
-HRESULT ServerModule::typeInfo(REFGUID guid, ITypeInfo** info) {
+HRESULT ServerModule::typeInfo(REFGUID guid, ITypeInfo** info) noexcept {
   if (!info) return E_POINTER;
   *info = nullptr;
   ITypeLib* lib = nullptr;

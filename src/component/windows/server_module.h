@@ -32,9 +32,9 @@ class ServerModule {
   static bool canUnload();
 
   // Loads the type library from this DLL's resources, without registering it.
-  static HRESULT loadTypeLib(ITypeLib** typeLib);
+  static HRESULT loadTypeLib(ITypeLib** typeLib) noexcept;
   // The type description of guid from the type library.
-  static HRESULT typeInfo(REFGUID guid, ITypeInfo** info);
+  static HRESULT typeInfo(REFGUID guid, ITypeInfo** info) noexcept;
 };
 
 }  // namespace tnw

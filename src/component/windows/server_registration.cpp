@@ -1,5 +1,6 @@
 #include "component/windows/server_registration.h"
 
+#include "component/windows/com_boundary.h"
 #include "component/windows/server_module.h"
 #include "component/windows/tnwizard_mavt_h.h"
 
@@ -100,9 +101,9 @@ HRESULT unregisterTypeLib() {
   return S_OK;
 }
 
-}  // namespace
-
-HRESULT ServerRegistration::registerServer() {
+// Writes the type library's and the class's entries; the failures answer as DllRegisterServer
+// does.
+HRESULT writeEntries() {
   const std::wstring path = ServerModule::modulePath();
   if (path.empty()) return SELFREG_E_CLASS;
   ITypeLib* typeLib = nullptr;
@@ -110,25 +111,28 @@ HRESULT ServerRegistration::registerServer() {
   if (FAILED(hr)) return SELFREG_E_TYPELIB;
   hr = RegisterTypeLib(typeLib, const_cast<LPOLESTR>(path.c_str()), nullptr);
   typeLib->Release();
-  if (FAILED(hr)) {
-    unregisterServer();
-    return SELFREG_E_TYPELIB;
-  }
-  hr = registerClass(path);
-  if (FAILED(hr)) {
-    unregisterServer();
-    return SELFREG_E_CLASS;
-  }
-  return S_OK;
+  if (FAILED(hr)) return SELFREG_E_TYPELIB;
+  return FAILED(registerClass(path)) ? SELFREG_E_CLASS : S_OK;
 }
 
-HRESULT ServerRegistration::unregisterServer() {
+HRESULT removeEntries() {
   HRESULT result = S_OK;
-  for (const std::wstring& key : {L"CLSID\\" + guidText(CLSID_TNW_MAVT), std::wstring(kProgId)}) {
+  for (const std::wstring& key :
+       {L"CLSID\\" + guidText(CLSID_TNW_MAVT), std::wstring(ServerRegistration::kProgId)}) {
     if (FAILED(deleteTree(key))) result = SELFREG_E_CLASS;
   }
   if (FAILED(unregisterTypeLib())) result = SELFREG_E_TYPELIB;
   return result;
 }
+
+}  // namespace
+
+HRESULT ServerRegistration::registerServer() noexcept {
+  const HRESULT hr = comBoundary(writeEntries);
+  if (FAILED(hr)) unregisterServer();
+  return hr;
+}
+
+HRESULT ServerRegistration::unregisterServer() noexcept { return comBoundary(removeEntries); }
 
 }  // namespace tnw

@@ -11,15 +11,15 @@ namespace tnw {
 // unregistering what is not there succeeds.
 class ServerRegistration {
  public:
-  // The ProgID hosts create the component by.
+  // The ProgID hosts create the component by; also the source of its error information.
   static constexpr const wchar_t* kProgId = L"TNWizard_MAVT.TNW_MAVT";
   // The class's display name.
   static constexpr const wchar_t* kClassName = L"TNW_MAVT";
 
   // DllRegisterServer: writes every entry; on failure removes what it wrote.
-  static HRESULT registerServer();
+  static HRESULT registerServer() noexcept;
   // DllUnregisterServer: removes every entry.
-  static HRESULT unregisterServer();
+  static HRESULT unregisterServer() noexcept;
 };
 
 }  // namespace tnw
