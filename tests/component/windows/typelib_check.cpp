@@ -1,7 +1,8 @@
 // tnw_typelib_check: loads the registered type library TNWizard_MAVT 1.0 (LoadRegTypeLib) and
-// prints every type with its flags, functions, DISPIDs, vtable slots and parameter types in a
-// fixed text form that the conformance test compares with the expected table. Exits 1 if the
-// library is not registered.
+// prints every type with its flags, functions, DISPIDs, vtable slots, parameter types and
+// directions, and for dispatch descriptions the DISPIDs that the names bind to, in a fixed text
+// form that the conformance test compares with the expected table. The dual interface appears
+// with both its descriptions. Exits 1 if the library is not registered.
 #include "component/windows/tnwizard_mavt_h.h"
 
 // Windows
@@ -12,6 +13,7 @@
 // Std
 #include <cstdio>
 #include <string>
+#include <vector>
 
 using Microsoft::WRL::ComPtr;
 
@@ -61,6 +63,14 @@ std::string typeName(ITypeInfo* info, const TYPEDESC& desc) {
       return "short";
     case VT_I4:
       return "long";
+    case VT_I1:
+      return "char";
+    case VT_UI2:
+      return "unsigned short";
+    case VT_UI4:
+      return "unsigned long";
+    case VT_UINT:
+      return "unsigned int";
     case VT_INT:
       return "int";
     case VT_BOOL:
@@ -117,6 +127,30 @@ const char* kindName(TYPEKIND kind) {
   }
 }
 
+const char* funcKindName(FUNCKIND kind) {
+  switch (kind) {
+    case FUNC_DISPATCH:
+      return "dispatch";
+    case FUNC_PUREVIRTUAL:
+      return "virtual";
+    default:
+      return "other";
+  }
+}
+
+// How a late-bound host finds the function and its parameters by name: ITypeInfo::GetIDsOfNames
+// with the names as written, as DispGetIDsOfNames does it for IDispatch::GetIDsOfNames.
+std::string nameBinding(ITypeInfo* info, BSTR* names, UINT count) {
+  std::vector<LPOLESTR> asked(names, names + count);
+  std::vector<MEMBERID> ids(count, MEMBERID_NIL);
+  const HRESULT result = info->GetIDsOfNames(asked.data(), count, ids.data());
+  if (FAILED(result)) return " names unbound " + hex(ULONG(result));
+  // The function's DISPID, then each parameter's position.
+  std::string text = " names bind to " + hex(ULONG(ids[0]));
+  for (UINT i = 1; i < count; ++i) text += " " + std::to_string(long(ids[i]));
+  return text;
+}
+
 void printFunctions(ITypeInfo* info, const TYPEATTR& attr) {
   for (UINT f = 0; f < attr.cFuncs; ++f) {
     FUNCDESC* func = nullptr;
@@ -124,8 +158,9 @@ void printFunctions(ITypeInfo* info, const TYPEATTR& attr) {
     BSTR names[16] = {};
     UINT count = 0;
     info->GetNames(func->memid, names, 16, &count);
-    std::string line = "  function " + narrow(names[0]) + " dispid " + hex(ULONG(func->memid));
-    if (attr.typekind == TKIND_INTERFACE)
+    std::string line = "  function " + narrow(names[0]) + " dispid " + hex(ULONG(func->memid)) +
+                       " " + funcKindName(func->funckind);
+    if (func->funckind != FUNC_DISPATCH)
       line += " slot " + std::to_string(func->oVft / SHORT(sizeof(void*)) - 6);
     line += std::string(" ") + (func->invkind == INVOKE_FUNC ? "method" : "property");
     line += " returns " + typeName(info, func->elemdescFunc.tdesc) + " (";
@@ -136,7 +171,9 @@ void printFunctions(ITypeInfo* info, const TYPEATTR& attr) {
               (UINT(p + 1) < count ? narrow(names[p + 1]) : std::string("?")) + " " +
               paramFlags(param.paramdesc.wParamFlags);
     }
-    std::printf("%s)\n", line.c_str());
+    line += ")";
+    if (attr.typekind == TKIND_DISPATCH) line += nameBinding(info, names, count);
+    std::printf("%s\n", line.c_str());
     for (UINT n = 0; n < count; ++n) SysFreeString(names[n]);
     info->ReleaseFuncDesc(func);
   }
@@ -161,30 +198,38 @@ void printImplementedTypes(ITypeInfo* info, const TYPEATTR& attr) {
   }
 }
 
-void printType(ITypeInfo* dispatchOrType) {
-  ComPtr<ITypeInfo> info = dispatchOrType;
+void printDescription(ITypeInfo* info) {
   TYPEATTR* attr = nullptr;
   if (FAILED(info->GetTypeAttr(&attr))) return;
-  // A dual interface is described twice; its vtable half carries the slots.
-  if (attr->typekind == TKIND_DISPATCH && (attr->wTypeFlags & TYPEFLAG_FDUAL)) {
-    HREFTYPE ref = 0;
-    ComPtr<ITypeInfo> vtable;
-    if (SUCCEEDED(info->GetRefTypeOfImplType(UINT(-1), &ref)) &&
-        SUCCEEDED(info->GetRefTypeInfo(ref, vtable.GetAddressOf()))) {
-      info->ReleaseTypeAttr(attr);
-      info = vtable;
-      info->GetTypeAttr(&attr);
-    }
-  }
   BSTR name = nullptr;
   info->GetDocumentation(MEMBERID_NIL, &name, nullptr, nullptr, nullptr);
   std::printf("type %s %s %s flags %s version %u.%u\n", narrow(name).c_str(),
               kindName(attr->typekind), guidText(attr->guid).c_str(),
               typeFlags(attr->wTypeFlags).c_str(), attr->wMajorVerNum, attr->wMinorVerNum);
   SysFreeString(name);
-  printImplementedTypes(info.Get(), *attr);
-  printFunctions(info.Get(), *attr);
+  printImplementedTypes(info, *attr);
+  printFunctions(info, *attr);
   info->ReleaseTypeAttr(attr);
+}
+
+// A dual interface is described twice: first as late-bound hosts see it (its dispatch
+// description, which the library hands out), then its vtable half (GetRefTypeOfImplType(-1)),
+// which carries the slots.
+void printType(ITypeInfo* info) {
+  printDescription(info);
+  TYPEATTR* attr = nullptr;
+  if (FAILED(info->GetTypeAttr(&attr))) return;
+  const bool dual = attr->typekind == TKIND_DISPATCH && (attr->wTypeFlags & TYPEFLAG_FDUAL);
+  info->ReleaseTypeAttr(attr);
+  if (!dual) return;
+  HREFTYPE ref = 0;
+  ComPtr<ITypeInfo> vtable;
+  if (FAILED(info->GetRefTypeOfImplType(UINT(-1), &ref)) ||
+      FAILED(info->GetRefTypeInfo(ref, vtable.GetAddressOf()))) {
+    std::printf("  no vtable description\n");
+    return;
+  }
+  printDescription(vtable.Get());
 }
 
 }  // namespace
