@@ -129,10 +129,10 @@ HRESULT STDMETHODCALLTYPE EventBinding::Invoke(DISPID dispId, REFIID, LCID lcid,
   // An event the script has no sub for is dropped, as Windows Script Host does.
   if (FAILED(m_script->GetIDsOfNames(IID_NULL, &subName, 1, lcid, &subId))) return S_OK;
 
-  // VBScript keeps only VT_VARIANT | VT_BYREF arguments by reference and cannot index an array
-  // held by reference, so each array passed by reference reaches the sub as a reference to a
-  // Variant holding the caller's very array: the sub's changes to its elements are the caller's.
-  // The array is locked meanwhile, so a sub cannot destroy it under the caller.
+  // Wine's VBScript copies a VT_BYREF | VT_ARRAY | VT_VARIANT argument: a sub's changes are lost.
+  // Only VT_BYREF | VT_VARIANT stays a reference there, so each array passed by reference reaches
+  // the sub as a reference to a Variant holding the caller's very array. The array is locked
+  // meanwhile, so a sub cannot destroy it under the caller.
   const UINT count = params ? params->cArgs : 0;
   std::vector<VARIANT> holders(count);
   std::vector<VARIANT> args(count);
