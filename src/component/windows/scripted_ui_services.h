@@ -6,7 +6,7 @@
 namespace tnw {
 
 // The UI services of the scripted test dialogs: nothing is shown; every message box, beep and
-// help request goes to the trace, and the screen is 1024 x 768.
+// help call goes to the trace, and the screen is 1024 x 768.
 class ScriptedUiServices : public UiServices {
  public:
   // Services writing to trace, which outlives them.
@@ -18,7 +18,8 @@ class ScriptedUiServices : public UiServices {
   void beep() override;
   // Nothing to show; not traced, as it says nothing about the result.
   void setBusy(bool busy) override;
-  // Traces "help <file> <context>".
+  // Makes the help call of the Windows builds with a tracing call in WinHelpA's place:
+  // "WinHelpA <file> HELP_CONTEXT <context>".
   void showHelp(const std::string& helpFile, int context) override;
   // A screen of 1024 x 768.
   ScreenSize screenSize() const override { return {1024, 768}; }
