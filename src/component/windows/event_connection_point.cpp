@@ -1,5 +1,7 @@
 #include "component/windows/event_connection_point.h"
 
+#include "component/windows/com_boundary.h"
+#include "component/windows/connection_enumerator.h"
 #include "component/windows/tnwizard_mavt_h.h"
 
 // Windows
@@ -7,7 +9,6 @@
 
 // Std
 #include <algorithm>
-#include <new>
 
 namespace tnw {
 
@@ -56,11 +57,11 @@ HRESULT STDMETHODCALLTYPE EventConnectionPoint::Advise(IUnknown* sink, DWORD* co
       FAILED(
           sink->QueryInterface(IID_IDispatch, reinterpret_cast<void**>(dispatch.GetAddressOf()))))
     return CONNECT_E_CANNOTCONNECT;
-  try {
+  const HRESULT hr = comBoundary([this, &dispatch] {
     m_sinks.push_back({m_nextCookie, dispatch});
-  } catch (const std::bad_alloc&) {
-    return E_OUTOFMEMORY;
-  }
+    return S_OK;
+  });
+  if (FAILED(hr)) return hr;
   *cookie = m_nextCookie++;
   return S_OK;
 }
@@ -78,14 +79,20 @@ HRESULT STDMETHODCALLTYPE EventConnectionPoint::Unadvise(DWORD cookie) {
 HRESULT STDMETHODCALLTYPE EventConnectionPoint::EnumConnections(IEnumConnections** connections) {
   if (!connections) return E_POINTER;
   *connections = nullptr;
-  return E_NOTIMPL;
+  return comBoundary([this, connections] {
+    std::vector<ConnectionEnumerator::Connection> list;
+    list.reserve(m_sinks.size());
+    for (const Sink& sink : m_sinks) list.push_back({sink.cookie, sink.dispatch.Get()});
+    *connections = ConnectionEnumerator::create(list);
+    return *connections ? S_OK : E_OUTOFMEMORY;
+  });
 }
 
 void EventConnectionPoint::fire(DISPID dispId, DISPPARAMS& params) {
   std::vector<Sink> sinks;
   try {
     sinks = m_sinks;
-  } catch (const std::bad_alloc&) {
+  } catch (...) {
     return;
   }
   for (const Sink& sink : sinks) {

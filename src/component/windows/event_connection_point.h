@@ -35,7 +35,7 @@ class EventConnectionPoint : public IConnectionPoint {
   HRESULT STDMETHODCALLTYPE Advise(IUnknown* sink, DWORD* cookie) override;
   // IConnectionPoint: disconnects the sink of cookie.
   HRESULT STDMETHODCALLTYPE Unadvise(DWORD cookie) override;
-  // IConnectionPoint: enumerating connections is not offered (E_NOTIMPL, as COM allows).
+  // IConnectionPoint: the sinks connected now with their cookies, in the order they connected.
   HRESULT STDMETHODCALLTYPE EnumConnections(IEnumConnections** connections) override;
 
   // Raises event dispId with params on every sink connected now, in the order they connected.

@@ -1,9 +1,11 @@
 // tnw_client_check DIR: drives the component from C++ as an early-bound host does: creates it by
 // ProgID, calls the methods through the vtable of _TNW_MAVT, receives the events on its own sink
-// through the connection point, and checks the class information, the connection points, the
-// error information that IDispatch::Invoke returns, aggregation, LockServer and DllCanUnloadNow.
+// through the connection point, reads and changes the arrays of both export events, and checks
+// the class information, the connection points and their connections, the error information that
+// IDispatch::Invoke returns, aggregation, LockServer and DllCanUnloadNow.
 // Prints one line per fact; the conformance test compares them with the expected output. The
-// model is DIR\three_cars.mod; the scenario comes from TNW_SCRIPTED_SCENARIO.
+// model is DIR\three_cars.mod; the first object plays DIR\client_direct.json, the second
+// DIR\client_tradeoffs.json.
 #include "component/windows/tnwizard_mavt_h.h"
 
 // Windows
@@ -54,7 +56,17 @@ std::string arrayText(SAFEARRAY* array) {
   return text;
 }
 
-// The host's event sink: prints each event and, in ExportDirectAW, doubles the last weight.
+// Sets element index of a one-dimensional array of Variants to a Double.
+void setElement(SAFEARRAY* array, LONG index, double value) {
+  VARIANT changed;
+  VariantInit(&changed);
+  V_VT(&changed) = VT_R8;
+  V_R8(&changed) = value;
+  SafeArrayPutElement(array, &index, &changed);
+}
+
+// The host's event sink: prints each event with its arguments and changes the exported arrays,
+// which the dialog's trace then shows.
 class EventSink final : public IDispatch {
  public:
   bool unloaded = false;
@@ -100,12 +112,25 @@ class EventSink final : public IDispatch {
         SAFEARRAY* weights = *V_ARRAYREF(&a[2]);
         LONG last = 0;
         SafeArrayGetUBound(weights, 1, &last);
-        VARIANT changed;
-        VariantInit(&changed);
-        V_VT(&changed) = VT_R8;
-        V_R8(&changed) = 0.75;
-        SafeArrayPutElement(weights, &last, &changed);
+        setElement(weights, last, 0.75);
         print("  host set Weights(last) to 0.75");
+        break;
+      }
+      case 3: {
+        print("event ExportTradeOffsW " + narrow(V_BSTR(&a[3]), SysStringLen(V_BSTR(&a[3]))));
+        print("  Weights " + arrayText(*V_ARRAYREF(&a[2])));
+        print("  WeightsH" + arrayText(*V_ARRAYREF(&a[1])));
+        print("  WeightsL" + arrayText(*V_ARRAYREF(&a[0])));
+        // The dialog passes its middle estimates as both Weights and WeightsL.
+        print(std::string("  Weights and WeightsL are one array: ") +
+              (V_ARRAYREF(&a[2]) == V_ARRAYREF(&a[0]) ? "yes" : "no"));
+        SAFEARRAY* weightsH = *V_ARRAYREF(&a[1]);
+        LONG last = 0;
+        SafeArrayGetUBound(weightsH, 1, &last);
+        setElement(*V_ARRAYREF(&a[2]), 0, 0.125);
+        setElement(weightsH, last, 0.875);
+        print("  host set Weights(0) to 0.125 and WeightsH(last) to 0.875");
+        print("  WeightsL now" + arrayText(*V_ARRAYREF(&a[0])));
         break;
       }
       case 4:
@@ -189,6 +214,45 @@ void checkErrorInformation(_TNW_MAVT* wizard) {
   VariantClear(&args[0]);
 }
 
+// Lists the point's connections through EnumConnections: how many, and whether the first is
+// sink with cookie.
+void checkConnections(IConnectionPoint* point, IUnknown* sink, DWORD cookie) {
+  ComPtr<IEnumConnections> connections;
+  const HRESULT result = point->EnumConnections(connections.GetAddressOf());
+  if (FAILED(result)) {
+    print("EnumConnections: " + hr(result));
+    return;
+  }
+  CONNECTDATA data[2] = {};
+  ULONG fetched = 0;
+  const HRESULT next = connections->Next(2, data, &fetched);
+  std::string line =
+      "EnumConnections: " + std::to_string(fetched) + " connection(s), Next " + hr(next);
+  if (fetched > 0) {
+    ComPtr<IUnknown> identity;
+    data[0].pUnk->QueryInterface(IID_IUnknown, reinterpret_cast<void**>(identity.GetAddressOf()));
+    line += std::string(", the first is the sink: ") + (identity.Get() == sink ? "yes" : "no") +
+            ", with its cookie: " + (data[0].dwCookie == cookie ? "yes" : "no");
+  }
+  print(line);
+  for (ULONG i = 0; i < fetched; ++i) data[i].pUnk->Release();
+  if (fetched == 0) return;
+  const HRESULT skipAtEnd = connections->Skip(1);
+  const HRESULT reset = connections->Reset();
+  const HRESULT skip = connections->Skip(1);
+  print("  Skip(1) at the end: " + hr(skipAtEnd) + ", Reset: " + hr(reset) +
+        ", Skip(1) from the start: " + hr(skip));
+  connections->Reset();
+  ComPtr<IEnumConnections> clone;
+  connections->Clone(clone.GetAddressOf());
+  CONNECTDATA again{};
+  fetched = 0;
+  clone->Next(1, &again, &fetched);
+  print("  a clone hands out the same cookie: " +
+        std::string(fetched == 1 && again.dwCookie == cookie ? "yes" : "no"));
+  if (fetched == 1) again.pUnk->Release();
+}
+
 void runWizard(_TNW_MAVT* wizard, const std::wstring& dir) {
   EventSink sink;
   sink.wizard = wizard;
@@ -199,6 +263,7 @@ void runWizard(_TNW_MAVT* wizard, const std::wstring& dir) {
   container->FindConnectionPoint(DIID___TNW_MAVT, point.GetAddressOf());
   DWORD cookie = 0;
   print("Advise: " + hr(point->Advise(&sink, &cookie)));
+  checkConnections(point.Get(), static_cast<IDispatch*>(&sink), cookie);
 
   VARIANT norixDir;
   VariantInit(&norixDir);
@@ -217,7 +282,21 @@ void runWizard(_TNW_MAVT* wizard, const std::wstring& dir) {
   }
   print("Unadvise: " + hr(point->Unadvise(cookie)));
   print("Unadvise again: " + hr(point->Unadvise(cookie)));
+  checkConnections(point.Get(), static_cast<IDispatch*>(&sink), cookie);
   sink.wizard.Reset();
+}
+
+// Creates an object by ProgID that plays the scenario DIR\scenario.
+ComPtr<_TNW_MAVT> createWizard(const std::wstring& dir, const std::wstring& scenario) {
+  // Each object reads its scenario when it is made.
+  SetEnvironmentVariableW(L"TNW_SCRIPTED_SCENARIO", (dir + L"\\" + scenario).c_str());
+  CLSID clsid;
+  print("CLSIDFromProgID: " + hr(CLSIDFromProgID(L"TNWizard_MAVT.TNW_MAVT", &clsid)));
+  ComPtr<_TNW_MAVT> wizard;
+  print("CoCreateInstance: " +
+        hr(CoCreateInstance(clsid, nullptr, CLSCTX_INPROC_SERVER, IID__TNW_MAVT,
+                            reinterpret_cast<void**>(wizard.GetAddressOf()))));
+  return wizard;
 }
 
 void checkFactory() {
@@ -246,18 +325,20 @@ void checkFactory() {
 int wmain(int argc, wchar_t** argv) {
   if (argc != 2) return 2;
   if (FAILED(CoInitialize(nullptr))) return 3;
-  CLSID clsid;
-  print("CLSIDFromProgID: " + hr(CLSIDFromProgID(L"TNWizard_MAVT.TNW_MAVT", &clsid)));
+  const std::wstring dir = argv[1];
   {
-    ComPtr<_TNW_MAVT> wizard;
-    print("CoCreateInstance: " +
-          hr(CoCreateInstance(clsid, nullptr, CLSCTX_INPROC_SERVER, IID__TNW_MAVT,
-                              reinterpret_cast<void**>(wizard.GetAddressOf()))));
+    ComPtr<_TNW_MAVT> wizard = createWizard(dir, L"client_direct.json");
     if (!wizard) return 1;
     checkClassInformation(wizard.Get());
     checkErrorInformation(wizard.Get());
     print("DllCanUnloadNow with an object alive: " + hr(canUnloadNow()));
-    runWizard(wizard.Get(), argv[1]);
+    runWizard(wizard.Get(), dir);
+  }
+  print("DllCanUnloadNow after the last release: " + hr(canUnloadNow()));
+  {
+    ComPtr<_TNW_MAVT> wizard = createWizard(dir, L"client_tradeoffs.json");
+    if (!wizard) return 1;
+    runWizard(wizard.Get(), dir);
   }
   print("DllCanUnloadNow after the last release: " + hr(canUnloadNow()));
   checkFactory();
