@@ -23,7 +23,7 @@ std::string trimmed(const std::string& s) {
 }
 
 // The attribute's stored low or high end, as stored: a range may run from a larger low end to
-// a smaller high end (a price, for instance), and the message and the step keep that order.
+// a smaller high end (a price, for instance), and the range message keeps that order.
 double scoreEnd(const AttributeModel& m, int att, bool high) {
   if (att < 0 || att >= kMaxAttributes) return 0.0;
   const auto a = static_cast<std::size_t>(att);

@@ -4,6 +4,7 @@
 
 // Std
 #include <algorithm>
+#include <cmath>
 
 namespace tnw {
 
@@ -73,9 +74,9 @@ std::optional<std::string> ScoreEntry::checkRange(const std::string& text, float
 }
 
 std::string ScoreEntry::step(const std::string& text, float low, float high, bool up) {
-  // High end minus low end as given: with a low end above the high end the step is negative,
-  // so "Up" moves towards the high end, whichever way the range runs.
-  const float stepSize = (high - low) / 100.0f;
+  // A hundredth of the range's width, whichever way the stored ends run, so that the up arrow
+  // always raises the number it stands beside.
+  const float stepSize = std::fabs(high - low) / 100.0f;
   const double v = leadingNumber(text);
   return formatNumber(up ? v + stepSize : v - stepSize, "0.0#");
 }

@@ -29,8 +29,8 @@ class ScoreEntry {
   // The range message for a text outside the range between low and high (either order), ends
   // included, naming the ends as "[low, high]"; empty when inside.
   static std::optional<std::string> checkRange(const std::string& text, float low, float high);
-  // The text after one toolbar step: the value ± (high - low) / 100, written "0.0#"; the step is
-  // negative when low > high.
+  // The text after one toolbar step: the value ± |high - low| / 100, written "0.0#"; up always
+  // adds.
   static std::string step(const std::string& text, float low, float high, bool up);
 };
 

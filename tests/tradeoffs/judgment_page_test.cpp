@@ -207,7 +207,7 @@ TEST_F(JudgmentPageTest, CheckDataChecksAOneBOneATwoBTwoAndStopsAtTheFirstFailur
   EXPECT_EQ(m_ui.messages().size(), shown);
 }
 
-TEST_F(JudgmentPageTest, ReversedRangeKeepsItsStoredEndsInTheMessageAndStepsTowardsItsHighEnd) {
+TEST_F(JudgmentPageTest, ReversedRangeKeepsItsStoredEndsInTheMessageAndStepsByItsWidth) {
   load(2);
   // As the sample's "Purchase price": low end 42000, high end 18000.
   AttributeModel& m = m_ctx.model;
@@ -235,13 +235,13 @@ TEST_F(JudgmentPageTest, ReversedRangeKeepsItsStoredEndsInTheMessageAndStepsTowa
   m_page->cmdTradeOffEnter_Click();
   ASSERT_EQ(m_page->store().JudgmentCount, 1);
   EXPECT_EQ(m_page->store().ScoreAFirst[0], 30000.0);
-  // The step is (18000 - 42000) / 100 = -240: "Up" moves towards the high end, 18000.
+  // The step is a hundredth of the width, 240, and "Up" raises the score.
   m_page->optPCAutomatic_Click();
   setScores("30000", "4", "24000", "6");
   m_page->tbScoreChanger_ButtonClick(0, true);
-  EXPECT_EQ(c().scoreBoxes[0].text, "29760.0");
+  EXPECT_EQ(c().scoreBoxes[0].text, "30240.0");
   m_page->tbScoreChanger_ButtonClick(2, false);
-  EXPECT_EQ(c().scoreBoxes[2].text, "24240.0");
+  EXPECT_EQ(c().scoreBoxes[2].text, "23760.0");
   // The second attribute's range runs the usual way: its step is +0.1.
   m_page->tbScoreChanger_ButtonClick(1, true);
   EXPECT_EQ(c().scoreBoxes[1].text, "4.1");

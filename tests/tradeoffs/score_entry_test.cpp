@@ -77,9 +77,9 @@ TEST(ScoreEntryTest, ReversedRangeAcceptsScoresBetweenItsEndsAndNamesThemAsGiven
             "The data you entered should be in the relevant score range [42000, 18000]!");
   EXPECT_EQ(ScoreEntry::checkRange("42,001", 42000.0f, 18000.0f),
             "The data you entered should be in the relevant score range [42000, 18000]!");
-  // (18000 - 42000) / 100 = -240.
-  EXPECT_EQ(ScoreEntry::step("30000", 42000.0f, 18000.0f, true), "29760.0");
-  EXPECT_EQ(ScoreEntry::step("30,000", 42000.0f, 18000.0f, false), "30240.0");
+  // A hundredth of the width, 240; up adds it.
+  EXPECT_EQ(ScoreEntry::step("30000", 42000.0f, 18000.0f, true), "30240.0");
+  EXPECT_EQ(ScoreEntry::step("30,000", 42000.0f, 18000.0f, false), "29760.0");
 }
 
 TEST(ScoreEntryTest, ScoresOfAThousandAndMoreReadBackAcrossTheGroupSeparator) {
