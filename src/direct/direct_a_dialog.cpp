@@ -20,10 +20,14 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
+#include <QSizeGrip>
 #include <QStackedWidget>
 #include <QTableWidget>
 #include <QTextEdit>
 #include <QVBoxLayout>
+
+// Std
+#include <algorithm>
 
 namespace tnw {
 namespace {
@@ -69,6 +73,13 @@ DirectADialog::DirectADialog(WizardContext& context, UiServices& ui, DirectAEven
   layout->addWidget(m_stack, 1);
   layout->addWidget(line);
   layout->addLayout(buildButtons());
+  // The size grip sits in the bottom right corner over the layout's margin; a margin as high as
+  // the grip keeps it off the Cancel button.
+  if (const auto* grip = findChild<QSizeGrip*>()) {
+    QMargins margins = layout->contentsMargins();
+    margins.setBottom(std::max(margins.bottom(), grip->sizeHint().height()));
+    layout->setContentsMargins(margins);
+  }
 
   m_ratioFilter = new RatioBoxFilter(
       m_presenter, m_judgmentPage->lowerBox(), m_judgmentPage->upperBox(),
@@ -100,7 +111,10 @@ QSize DirectADialog::initialSize() const {
   if (const QScreen* s = screen()) {
     size = size.boundedTo(s->availableGeometry().size() * 0.92);
   }
-  return size.expandedTo(minimumSizeHint());
+  size = size.expandedTo(minimumSizeHint());
+  // Wrapped texts need more height when the dialog is narrow.
+  if (hasHeightForWidth()) size.setHeight(std::max(size.height(), heightForWidth(size.width())));
+  return size;
 }
 
 QWidget* DirectADialog::buildHeader() {

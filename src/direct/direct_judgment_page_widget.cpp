@@ -137,6 +137,8 @@ QWidget* DirectJudgmentPageWidget::buildRatioFrame() {
 QWidget* DirectJudgmentPageWidget::buildTabs() {
   m_tabs = new QTabWidget(this);
   m_tabs->setObjectName(QStringLiteral("tsTab"));
+  // Without scroll buttons the tab strip asks for room for both tabs, so none is cut at 200 %.
+  m_tabs->setUsesScrollButtons(false);
 
   auto* graph = new PreferenceChartWidget;
   m_cone = graph->coneArea();

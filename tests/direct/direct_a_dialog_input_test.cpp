@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QTableWidget>
 #include <QTest>
 
@@ -330,21 +331,32 @@ void DirectADialogInputTest::noTextIsClippedOnAnyStep() {
   context.NorixDir = "/opt/norix";
   QVERIFY(OpenRelatedFileForTNW(TNW_SAMPLE_MODEL, context.model, m_ui).complete);
   open(std::move(context));
-  QVERIFY2(test::clippedTexts(m_dialog.get()).isEmpty(),
-           qPrintable(test::clippedTexts(m_dialog.get()).join(QLatin1Char('\n'))));
+  const auto check = [this](const char* where) {
+    const QStringList problems = test::layoutProblems(m_dialog.get());
+    QVERIFY2(problems.isEmpty(), qPrintable(QString::fromLatin1(where) + QLatin1Char('\n') +
+                                            problems.join(QLatin1Char('\n'))));
+  };
+  check("step 0, nothing placed");
   for (int j = 0; j < 6; ++j) {
     QVERIFY(test::dragAndDrop(test::orderBox(m_dialog.get(), j < 2 ? 1 : 2),
                               QStringLiteral("A%1").arg(j)));
   }
-  QVERIFY2(test::clippedTexts(m_dialog.get()).isEmpty(),
-           qPrintable(test::clippedTexts(m_dialog.get()).join(QLatin1Char('\n'))));
+  check("step 0, every attribute placed");
   QTest::mouseClick(button("cmdNext"), Qt::LeftButton);
   QTest::mouseClick(control<QPushButton>(m_dialog.get(), "cmdAttButtons", 0), Qt::LeftButton);
-  QVERIFY2(test::clippedTexts(m_dialog.get()).isEmpty(),
-           qPrintable(test::clippedTexts(m_dialog.get()).join(QLatin1Char('\n'))));
+  check("step 1");
   QTest::mouseClick(button("cmdNext"), Qt::LeftButton);
-  QVERIFY2(test::clippedTexts(m_dialog.get()).isEmpty(),
-           qPrintable(test::clippedTexts(m_dialog.get()).join(QLatin1Char('\n'))));
+  check("step 2, the first target");
+  // One interval for the less important group judges all of it; the list marks the judged.
+  QTest::mouseClick(control<QPushButton>(m_dialog.get(), "cmdEnter"), Qt::LeftButton);
+  auto* tabs = control<QTabWidget>(m_dialog.get(), "tsTab");
+  tabs->setCurrentIndex(1);
+  check("step 2, the importance order tab");
+  tabs->setCurrentIndex(0);
+  check("step 2, every target judged");
+  QTest::mouseClick(button("cmdNext"), Qt::LeftButton);
+  QCOMPARE(m_dialog->presenter().WizardStep(), 3);
+  check("step 3");
 }
 
 void DirectADialogInputTest::resumesFromTheSampleWithAnEarlierResult() {
