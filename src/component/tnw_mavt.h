@@ -30,6 +30,13 @@ struct WizardContext;
 //      you like. A later ShowTNWizard starts afresh with a new selection dialog.
 // The object may be destroyed at any time, also from inside one of its event handlers; it then
 // sends no more events, and its dialogs go once control is back in the event loop.
+//
+// Modality: the method-selection dialog is modeless. The two method dialogs are application-
+// modal while they are shown: they block input to every other window of the process, the
+// host's own windows included, as a modal dialog of the host would. The dialogs have no owner
+// window (the host hands none over), so a window-modal show would block nothing. The modal show
+// never runs a nested event loop: ShowTNWizard and the events return at once, and the wizard
+// goes on in the host's event loop.
 class TNWIZARD_MAVT_EXPORT TNW_MAVT {
  public:
   // Opens a help file at a context number.
@@ -48,7 +55,8 @@ class TNWIZARD_MAVT_EXPORT TNW_MAVT {
   // Sets the listener that receives the four events; null drops them.
   void setEvents(TnwMavtEvents* events);
   // Installs the handler for the Help buttons (help file NorixDir + "\NORIX.HLP", context
-  // 4005025); without one the user is told which file and topic would open.
+  // 4005025); without one the user is told which file and topic would open. It has no effect on
+  // an object made with the host's own UiServices: their showHelp then handles help.
   void setHelpHandler(HelpHandler handler);
 
   // Stores the host's directory, file index and model path, and reads the model file.

@@ -13,6 +13,9 @@ WizardDialogQt::WizardDialogQt(QWidget* parent) : QDialog(parent) {
 
 void WizardDialogQt::showModeless() { showWithModality(Qt::NonModal); }
 
+// Application-modal on purpose: the dialogs have no owner window (the host hands none over), and
+// a window-modal dialog without one blocks nothing. Blocking every other window of the process,
+// the host's included, is what a modal form of the host does as well.
 void WizardDialogQt::showModal() { showWithModality(Qt::ApplicationModal); }
 
 void WizardDialogQt::showWithModality(Qt::WindowModality modality) {

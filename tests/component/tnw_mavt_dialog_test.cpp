@@ -210,6 +210,54 @@ class TnwMavtDialogTest : public QObject {
     wizard.UnloadTNWizard();
   }
 
+  void withTheHostsUiServicesHelpGoesThroughThem() {
+    TNW_MAVT wizard(m_ui);
+    bool handlerCalled = false;
+    wizard.setHelpHandler([&](const std::string&, int) { handlerCalled = true; });
+    std::string dir = "C:\\NORIX";
+    wizard.GetCurFileData(dir, 1, TNW_SAMPLE_MODEL);
+    wizard.ShowTNWizard();
+    QTest::mouseClick(button(selMethod(), "cmdHelp"), Qt::LeftButton);
+    QVERIFY(!handlerCalled);
+    QCOMPARE(m_ui.helpFile(), std::string("C:\\NORIX\\NORIX.HLP"));
+    QCOMPARE(m_ui.helpContext(), 4005025);
+    wizard.UnloadTNWizard();
+  }
+
+  void aMethodDialogBlocksTheHostsOtherWindows() {
+    QWidget hostWindow;
+    auto* hostButton = new QPushButton(QStringLiteral("Host"), &hostWindow);
+    int hostClicks = 0;
+    connect(hostButton, &QPushButton::clicked, [&hostClicks] { ++hostClicks; });
+    hostWindow.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&hostWindow));
+    // Clicks reach the host's window as the window system delivers them, where modality acts.
+    const auto clickHost = [&] {
+      QTest::mouseClick(hostWindow.windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                        hostButton->geometry().center());
+    };
+    clickHost();
+    QCOMPARE(hostClicks, 1);
+    auto wizard = showWizard();
+    m_host.onUnload = [&] { wizard->UnloadTNWizard(); };
+    // The selection dialog is modeless: the host's window still takes input.
+    clickHost();
+    QCOMPARE(hostClicks, 2);
+    QTest::mouseClick(button(selMethod(), "cmdNext"), Qt::LeftButton);
+    QWidget* direct = topLevel("frmDirectA");
+    QVERIFY(direct != nullptr);
+    QVERIFY(QTest::qWaitForWindowExposed(direct));
+    QCOMPARE(direct->windowModality(), Qt::ApplicationModal);
+    QCOMPARE(QApplication::activeModalWidget(), direct);
+    clickHost();
+    QCOMPARE(hostClicks, 2);
+    // Once the wizard is unloaded the host's window takes input again.
+    QTest::mouseClick(button(direct, "cmdCancel"), Qt::LeftButton);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    clickHost();
+    QCOMPARE(hostClicks, 3);
+  }
+
   void twoWizardsKeepTheirOwnDialogs() {
     auto a = showWizard();
     auto b = showWizard();
