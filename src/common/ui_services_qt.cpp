@@ -5,6 +5,11 @@
 #include <QGuiApplication>
 #include <QMessageBox>
 #include <QScreen>
+#include <QWidget>
+
+#ifdef _WIN32
+#include "common/win_help.h"
+#endif
 
 namespace tnw {
 
@@ -59,6 +64,15 @@ void UiServicesQt::showHelp(const std::string& helpFile, int context) {
     m_helpHandler(helpFile, context);
     return;
   }
+#ifdef _WIN32
+  // Windows: WinHelpA(owner, NorixDir + "\NORIX.HLP", HELP_CONTEXT, context), owned by the
+  // dialog whose Help button was pressed. Where the call cannot be made the message below still
+  // names the file and topic.
+  const QWidget* owner = QApplication::activeModalWidget();
+  if (owner == nullptr) owner = QApplication::activeWindow();
+  const HWND ownerWindow = owner != nullptr ? reinterpret_cast<HWND>(owner->winId()) : nullptr;
+  if (showWinHelp(ownerWindow, helpFile, context)) return;
+#endif
   messageBox(defaultHelpText(helpFile, context), MessageIcon::Information, "NORIX");
 }
 

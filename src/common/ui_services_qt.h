@@ -26,7 +26,8 @@ class UiServicesQt : public UiServices {
   void beep() override;
   // Shows the wait cursor over the whole application, or restores the previous one.
   void setBusy(bool busy) override;
-  // Calls the installed help handler; without one, tells the user which file and topic.
+  // Calls the installed help handler; without one, opens the file with WinHelp on Windows and
+  // elsewhere tells the user which file and topic would open.
   void showHelp(const std::string& helpFile, int context) override;
   // The size of the primary screen in device-independent pixels.
   ScreenSize screenSize() const override;

@@ -55,8 +55,9 @@ class TNWIZARD_MAVT_EXPORT TNW_MAVT {
   // Sets the listener that receives the four events; null drops them.
   void setEvents(TnwMavtEvents* events);
   // Installs the handler for the Help buttons (help file NorixDir + "\NORIX.HLP", context
-  // 4005025); without one the user is told which file and topic would open. It has no effect on
-  // an object made with the host's own UiServices: their showHelp then handles help.
+  // 4005025); without one WinHelp opens the file on Windows, and elsewhere the user is told which
+  // file and topic would open. It has no effect on an object made with the host's own
+  // UiServices: their showHelp then handles help.
   void setHelpHandler(HelpHandler handler);
 
   // Stores the host's directory, file index and model path, and reads the model file.
