@@ -328,7 +328,6 @@ void DirectADialogInputTest::aModelWithoutUsableAttributesStillCancels() {
 
 void DirectADialogInputTest::noTextIsClippedOnAnyStep() {
   WizardContext context;
-  context.NorixDir = "/opt/norix";
   QVERIFY(OpenRelatedFileForTNW(TNW_SAMPLE_MODEL, context.model, m_ui).complete);
   open(std::move(context));
   const auto check = [this](const char* where) {
