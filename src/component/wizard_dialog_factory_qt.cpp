@@ -8,6 +8,7 @@
 
 // Qt
 #include <QApplication>
+#include <QThread>
 #include <QTimer>
 #include <QtGlobal>
 
@@ -46,6 +47,13 @@ void WizardDialogFactoryQt::release(std::unique_ptr<WizardDialog> dialog) {
   if (widget == nullptr) return;  // not one of ours: destroyed here by the unique_ptr
   static_cast<void>(dialog.release());
   widget->deleteLater();
+  // Without a running Qt event loop (an in-process server inside a Win32 host, or a host that
+  // calls processEvents) a deferred delete posted outside every event is never delivered; a
+  // queued call delivers it from the next event, where Qt's own rule lets it run, and still
+  // keeps a dialog whose handler is on the stack.
+  if (QThread::currentThread()->loopLevel() == 0) {
+    runLater([] { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); });
+  }
 }
 
 void WizardDialogFactoryQt::runLater(std::function<void()> work) {

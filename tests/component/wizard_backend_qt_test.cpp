@@ -1,0 +1,254 @@
+// The Qt backend as an in-process server uses it: in a process that has no QApplication yet
+// (the default mode, "no-application"), in one whose host made its own ("host-application"),
+// and in one whose application cannot show widgets ("core-application"). The mode is the first
+// argument; this file has its own main so that the first case really starts without one.
+// Events are driven with QCoreApplication::processEvents only, as a host's own loop would.
+
+#include "component/wizard_backend_qt.h"
+
+#include "common/recording_ui_services.h"
+#include "common/ui_services_qt.h"
+#include "component/tnw_mavt_events.h"
+#include "component/wizard_component.h"
+
+// Qt
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QPointer>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QThread>
+#include <QWindow>
+#include <QtTest>
+
+// Std
+#include <cstdio>
+#include <functional>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace tnw {
+namespace {
+
+// A host that records the events as text and may act on UnloadTNWizard.
+class RecordingHost : public TnwMavtEvents {
+ public:
+  void UnloadTNWizard(std::int16_t fIndex, bool WeightsDone) override {
+    log.push_back("UnloadTNWizard " + std::to_string(fIndex) + (WeightsDone ? " true" : " false"));
+    if (onUnload) onUnload();
+  }
+  void SendMasseges(const std::string& Msg) override { log.push_back("SendMasseges " + Msg); }
+
+  std::vector<std::string> log;
+  std::function<void()> onUnload;
+};
+
+// Runs events as a host's message loop does until done() holds: processEvents, never exec(),
+// and never QTest::qWait, which also delivers deferred deletes that a host's loop would not.
+bool pumpUntil(const std::function<bool()>& done) {
+  QElapsedTimer timer;
+  timer.start();
+  while (!done()) {
+    if (timer.elapsed() > 5000) return false;
+    QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+  }
+  return true;
+}
+
+QWidget* selMethod() {
+  for (QWidget* w : QApplication::topLevelWidgets()) {
+    if (w->objectName() == QLatin1String("frmTNWSelMethod")) return w;
+  }
+  return nullptr;
+}
+
+// A component made from the backend's parts that read the sample model and showed the wizard,
+// with a recording host.
+class ShownWizard {
+ public:
+  explicit ShownWizard(WizardBackendQt& backend)
+      : component(backend.factory(), backend.ui(), backend.modelReader()) {
+    component.setEvents(&host);
+    std::string dir = "/opt/norix";
+    component.GetCurFileData(dir, 3, TNW_SAMPLE_MODEL);
+    component.ShowTNWizard();
+  }
+
+  RecordingHost host;
+  WizardComponent component;
+};
+
+// Shows the wizard, presses Cancel on the selection dialog, and checks the event and that the
+// dialogs are gone once the host called UnloadTNWizard (from inside the event, or after it).
+void cancelThenUnload(WizardBackendQt& backend, bool unloadInsideTheEvent) {
+  ShownWizard wizard(backend);
+  QCOMPARE(wizard.component.context().model.NumAtt, 6);
+  QPointer<QWidget> dialog = selMethod();
+  QVERIFY(dialog != nullptr);
+  QVERIFY(dialog->isVisible());
+  QVERIFY(pumpUntil([&] { return dialog->windowHandle() && dialog->windowHandle()->isExposed(); }));
+  if (unloadInsideTheEvent) wizard.host.onUnload = [&] { wizard.component.UnloadTNWizard(); };
+  auto* cancel = dialog->findChild<QPushButton*>(QStringLiteral("cmdCancel"));
+  QVERIFY(cancel != nullptr);
+  // Clicked through the dialog's window, the way the platform delivers a user's click (the
+  // widget overload would call the widget's handler outside every event).
+  QTest::mouseClick(dialog->windowHandle(), Qt::LeftButton, {},
+                    cancel->mapTo(dialog.data(), cancel->rect().center()));
+  QCOMPARE(wizard.host.log,
+           (std::vector<std::string>{
+               "SendMasseges Select a method to make value judgments between the attributes.",
+               "UnloadTNWizard 3 false"}));
+  if (!unloadInsideTheEvent) wizard.component.UnloadTNWizard();
+  QVERIFY(dialog.isNull() || !dialog->isVisible());
+  QVERIFY2(pumpUntil([&] { return dialog.isNull(); }), "the released dialog was never deleted");
+  QVERIFY(wizard.component.selMethod() == nullptr);
+}
+
+// The application a test needs when it runs without the first test of its process.
+bool haveApplication() { return WizardBackendQt::ensureApplication(QString()) != nullptr; }
+
+bool noTopLevelWidgetLeft() {
+  return pumpUntil([] { return QApplication::topLevelWidgets().isEmpty(); });
+}
+
+}  // namespace
+
+// Starts in a process without a QApplication.
+class WizardBackendQtMadeApplicationTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  // Runs first, before anything has made an application.
+  void makesTheApplicationWhenTheProcessHasNone() {
+    QVERIFY(QCoreApplication::instance() == nullptr);
+    QVERIFY(!WizardBackendQt::madeApplication());
+    QTemporaryDir plugins;
+    QVERIFY(plugins.isValid());
+    QApplication* app = WizardBackendQt::ensureApplication(plugins.path());
+    QVERIFY(app != nullptr);
+    QCOMPARE(QCoreApplication::instance(), app);
+    QVERIFY(WizardBackendQt::madeApplication());
+    QVERIFY(!QApplication::quitOnLastWindowClosed());
+    QCOMPARE(QCoreApplication::libraryPaths().value(0), QDir(plugins.path()).canonicalPath());
+    QCOMPARE(WizardBackendQt::ensureApplication(QString()), app);
+  }
+
+  void cleanup() { QVERIFY2(noTopLevelWidgetLeft(), "a top-level widget leaked"); }
+
+  void cancelRaisesUnloadTNWizardAndUnloadTNWizardReleasesTheDialogs() {
+    QVERIFY(haveApplication());
+    WizardBackendQt backend;
+    cancelThenUnload(backend, false);
+  }
+
+  void unloadTNWizardFromInsideTheEventReleasesTheDialogs() {
+    QVERIFY(haveApplication());
+    WizardBackendQt backend;
+    cancelThenUnload(backend, true);
+  }
+
+  void destroyingTheComponentReleasesTheShownDialog() {
+    QVERIFY(haveApplication());
+    WizardBackendQt backend;
+    QPointer<QWidget> dialog;
+    {
+      ShownWizard wizard(backend);
+      dialog = selMethod();
+      QVERIFY(dialog != nullptr);
+      QVERIFY(dialog->isVisible());
+    }
+    QVERIFY2(pumpUntil([&] { return dialog.isNull(); }), "the released dialog was never deleted");
+  }
+
+  void aSecondBackendUsesTheSameApplication() {
+    QApplication* app = WizardBackendQt::ensureApplication(QString());
+    QVERIFY(app != nullptr);
+    QCOMPARE(WizardBackendQt::ensureApplication(QString()), app);
+    QVERIFY(WizardBackendQt::madeApplication());
+    WizardBackendQt backend;
+    cancelThenUnload(backend, true);
+    QCOMPARE(QCoreApplication::instance(), app);
+  }
+};
+
+// Runs in a process whose host made its own QApplication.
+class WizardBackendQtHostApplicationTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void cleanup() { QVERIFY2(noTopLevelWidgetLeft(), "a top-level widget leaked"); }
+
+  void usesTheHostsApplication() {
+    QCoreApplication* hosts = QCoreApplication::instance();
+    QVERIFY(hosts != nullptr);
+    QCOMPARE(static_cast<QCoreApplication*>(WizardBackendQt::ensureApplication(QString())), hosts);
+    QVERIFY(!WizardBackendQt::madeApplication());
+    WizardBackendQt backend;
+    cancelThenUnload(backend, false);
+    QCOMPARE(QCoreApplication::instance(), hosts);
+    QVERIFY(!WizardBackendQt::madeApplication());
+  }
+
+  void refusesTheApplicationOfAnotherThread() {
+    QApplication* fromThread = qApp;
+    std::thread other([&fromThread] { fromThread = WizardBackendQt::ensureApplication({}); });
+    other.join();
+    QVERIFY(fromThread == nullptr);
+    QVERIFY(!WizardBackendQt::madeApplication());
+  }
+
+  void usesTheHostsUiServicesWhenGiven() {
+    RecordingUiServices hostUi;
+    WizardBackendQt withHostUi(&hostUi);
+    QCOMPARE(&withHostUi.ui(), static_cast<UiServices*>(&hostUi));
+    QVERIFY(withHostUi.qtUi() == nullptr);
+    WizardBackendQt withQtUi;
+    QVERIFY(withQtUi.qtUi() != nullptr);
+    QCOMPARE(&withQtUi.ui(), static_cast<UiServices*>(withQtUi.qtUi()));
+  }
+};
+
+// Runs in a process whose application is a QCoreApplication, which cannot show widgets.
+class WizardBackendQtCoreApplicationTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void refusesAnApplicationWithoutWidgets() {
+    QVERIFY(QCoreApplication::instance() != nullptr);
+    QVERIFY(WizardBackendQt::ensureApplication(QString()) == nullptr);
+    QVERIFY(!WizardBackendQt::madeApplication());
+    QVERIFY(qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr);
+  }
+};
+
+}  // namespace tnw
+
+int main(int argc, char** argv) {
+  const std::string mode = argc > 1 ? argv[1] : "no-application";
+  // QtTest and the application see the program name and what follows the mode.
+  std::vector<char*> args{argv[0]};
+  for (int i = 2; i < argc; ++i) args.push_back(argv[i]);
+  int count = int(args.size());
+  args.push_back(nullptr);
+  if (mode == "no-application") {
+    tnw::WizardBackendQtMadeApplicationTest test;
+    return QTest::qExec(&test, count, args.data());
+  }
+  if (mode == "host-application") {
+    QApplication app(count, args.data());
+    tnw::WizardBackendQtHostApplicationTest test;
+    return QTest::qExec(&test, count, args.data());
+  }
+  if (mode == "core-application") {
+    QCoreApplication app(count, args.data());
+    tnw::WizardBackendQtCoreApplicationTest test;
+    return QTest::qExec(&test, count, args.data());
+  }
+  std::fprintf(stderr, "usage: %s [no-application|host-application|core-application] ...\n",
+               argv[0]);
+  return 2;
+}
+
+#include "wizard_backend_qt_test.moc"
