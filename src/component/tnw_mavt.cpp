@@ -1,9 +1,9 @@
 #include "component/tnw_mavt.h"
 
 #include "common/ui_services_qt.h"
+#include "component/wizard_backend_qt.h"
 #include "component/wizard_component.h"
 #include "component/wizard_dialog_factory_qt.h"
-#include "model/model_file_reader.h"
 
 namespace tnw {
 
@@ -12,13 +12,7 @@ namespace tnw {
 // not pull the data and dialogs from under the frames still to return.
 struct TNW_MAVT::Impl : TnwMavtEvents {
   explicit Impl(UiServices* hostUi)
-      : ownUi(hostUi == nullptr ? std::make_unique<UiServicesQt>() : nullptr),
-        ui(hostUi == nullptr ? *ownUi : *hostUi),
-        factory(ui),
-        component(factory, ui,
-                  [](const std::string& path, AttributeModel& model, UiServices& services) {
-                    OpenRelatedFileForTNW(path, model, services);
-                  }) {
+      : parts(hostUi), component(parts.factory(), parts.ui(), parts.modelReader()) {
     component.setEvents(this);
   }
 
@@ -50,9 +44,7 @@ struct TNW_MAVT::Impl : TnwMavtEvents {
     int& depth;
   };
 
-  std::unique_ptr<UiServicesQt> ownUi;
-  UiServices& ui;
-  WizardDialogFactoryQt factory;
+  WizardBackendQt parts;
   WizardComponent component;
   TnwMavtEvents* host = nullptr;
   int depth = 0;
@@ -74,7 +66,7 @@ TNW_MAVT::~TNW_MAVT() {
 void TNW_MAVT::setEvents(TnwMavtEvents* events) { m_impl->host = events; }
 
 void TNW_MAVT::setHelpHandler(HelpHandler handler) {
-  if (m_impl->ownUi) m_impl->ownUi->setHelpHandler(std::move(handler));
+  if (UiServicesQt* ui = m_impl->parts.qtUi()) ui->setHelpHandler(std::move(handler));
 }
 
 void TNW_MAVT::GetCurFileData(std::string& NorixDir, std::int16_t FileIndex,
