@@ -13,30 +13,7 @@ cat >"$out/drive.sh" <<'DRIVE'
 set -euo pipefail
 QT_QPA_PLATFORM=xcb "$1" show >"$2/show.out" 2>"$2/show.err" &
 pid=$!
-# Waits until a visible window has exactly this title, and gives it the keyboard.
-window() {
-  local id=""
-  for _ in $(seq 100); do
-    id=$(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | tail -1 || true)
-    if [ -n "$id" ]; then
-      xdotool windowactivate --sync "$id" 2>/dev/null || xdotool windowfocus --sync "$id"
-      sleep 0.2
-      return 0
-    fi
-    sleep 0.1
-  done
-  echo "no window titled \"$1\" appeared" >&2
-  kill "$pid" 2>/dev/null || true
-  exit 1
-}
-# Mnemonics press their buttons a moment later, as a click does: each key gets time to act.
-key() {
-  for k in "$@"; do
-    xdotool key --clearmodifiers "$k"
-    sleep 0.3
-  done
-}
-typeText() { xdotool type --delay 60 "$1"; sleep 0.15; }
+source "$3"
 
 window 'Tarnel Wizard'
 key alt+n
@@ -71,7 +48,8 @@ key alt+f
 wait "$pid"
 DRIVE
 status=0
-timeout 100 xvfb-run -a -s "-screen 0 1280x1024x24" bash "$out/drive.sh" "$tnwizard" "$out" ||
+timeout 100 xvfb-run -a -s "-screen 0 1280x1024x24" bash "$out/drive.sh" "$tnwizard" "$out" \
+  "$(dirname "$0")/../show_keyboard.sh" ||
   status=$?
 if [ "$status" -ne 0 ]; then
   echo "the run ended with status $status"; cat "$out/show.out" "$out/show.err"; exit 1

@@ -12,30 +12,20 @@ cat >"$out/drive.sh" <<'DRIVE'
 set -euo pipefail
 QT_QPA_PLATFORM=xcb "$1" show >"$2/show.out" 2>"$2/show.err" &
 pid=$!
-window() {
-  local id=""
-  for _ in $(seq 100); do
-    id=$(xdotool search --onlyvisible --name '^Tarnel Wizard$' 2>/dev/null | tail -1 || true)
-    [ -n "$id" ] && { echo "$id"; return 0; }
-    sleep 0.1
-  done
-  return 1
-}
-key() { xdotool key --clearmodifiers "$1"; sleep "${2:-0.1}"; }
-id=$(window) || { kill "$pid"; echo "no selection dialog appeared"; exit 1; }
-xdotool windowfocus --sync "$id"
-sleep 0.3
-key Down 0.2
-key alt+n 1
-id=$(window) || { kill "$pid"; echo "no trade-off dialog appeared"; exit 1; }
-xdotool windowfocus --sync "$id"
-sleep 0.3
-for _ in $(seq 30); do key alt+e 0.05; done
-key alt+n 1
+source "$3"
+window 'Tarnel Wizard'
+key Down alt+n
+# The trade-off dialog has the selection dialog's title: give the change a moment.
+sleep 1
+window 'Tarnel Wizard'
+for _ in $(seq 30); do KEY_DELAY=0.05 key alt+e; done
+key alt+n
+sleep 0.7
 key alt+f
 wait "$pid"
 DRIVE
-timeout 80 xvfb-run -a -s "-screen 0 1280x1024x24" bash "$out/drive.sh" "$tnwizard" "$out"
+timeout 80 xvfb-run -a -s "-screen 0 1280x1024x24" bash "$out/drive.sh" "$tnwizard" "$out" \
+  "$(dirname "$0")/../show_keyboard.sh"
 
 python3 - "$out/show.out" <<'CHECK'
 import json, sys

@@ -1,0 +1,34 @@
+# Keyboard helpers for the drivers that run the real `tnwizard show` under xvfb with xdotool.
+# Sourced by a driver after it has started the program in the background as $pid.
+
+# Waits until a visible window has exactly this title, and gives it the keyboard.
+window() {
+  local id=""
+  for _ in $(seq 100); do
+    id=$(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | tail -1 || true)
+    if [ -n "$id" ]; then
+      xdotool windowactivate --sync "$id" 2>/dev/null || xdotool windowfocus --sync "$id"
+      sleep 0.2
+      return 0
+    fi
+    sleep 0.1
+  done
+  echo "no window titled \"$1\" appeared" >&2
+  kill "$pid" 2>/dev/null || true
+  exit 1
+}
+
+# Mnemonics press their buttons a moment later, as a click does: each key gets time to act
+# (KEY_DELAY seconds, 0.3 unless set).
+key() {
+  for k in "$@"; do
+    xdotool key --clearmodifiers "$k"
+    sleep "${KEY_DELAY:-0.3}"
+  done
+}
+
+# Types a text into the focused box.
+typeText() {
+  xdotool type --delay 60 "$1"
+  sleep 0.15
+}
