@@ -1,9 +1,10 @@
 #include "graphs/chart_export_qt.h"
 
 // Qt
-#include <QFile>
+#include <QBuffer>
 #include <QPagedPaintDevice>
 #include <QPainter>
+#include <QSaveFile>
 #include <QSvgGenerator>
 
 namespace tnw {
@@ -20,8 +21,11 @@ QImage ChartExportQt::toImage(const ChartWidget::Painter& chart, QSize size) {
 
 bool ChartExportQt::toSvg(const ChartWidget::Painter& chart, const QString& path, QSize size,
                           const QString& title) {
+  // The picture is made in memory and then saved in one go: a file that could not be written
+  // whole is never reported as written, and an old file at the path is replaced only then.
+  QBuffer buffer;
   QSvgGenerator svg;
-  svg.setFileName(path);
+  svg.setOutputDevice(&buffer);
   svg.setSize(size);
   svg.setViewBox(QRect(QPoint(0, 0), size));
   svg.setTitle(title);
@@ -29,9 +33,17 @@ bool ChartExportQt::toSvg(const ChartWidget::Painter& chart, const QString& path
     QPainter p;
     if (!p.begin(&svg)) return false;
     if (chart) chart(p, QRectF(QPointF(0, 0), QSizeF(size)));
-    p.end();
+    if (!p.end()) return false;
   }
-  return QFile::exists(path);
+  const QByteArray& bytes = buffer.data();
+  if (bytes.isEmpty()) return false;
+  QSaveFile file(path);
+  if (!file.open(QIODevice::WriteOnly)) return false;
+  if (file.write(bytes) != bytes.size()) {
+    file.cancelWriting();
+    return false;
+  }
+  return file.commit();
 }
 
 void ChartExportQt::toPage(const ChartWidget::Painter& chart, QPagedPaintDevice& device) {

@@ -13,6 +13,11 @@ ChartWidget::ChartWidget(QWidget* parent) : QWidget(parent) {
 
 void ChartWidget::setPainter(Painter painter) {
   m_painter = std::move(painter);
+  redraw();
+}
+
+void ChartWidget::redraw() {
+  m_stale = true;
   update();
 }
 
@@ -27,12 +32,25 @@ QSize ChartWidget::minimumSizeHint() const {
 }
 
 void ChartWidget::paintEvent(QPaintEvent*) {
-  if (!m_painter) return;
-  // The charts are axis-parallel lines and boxes: drawn without antialiasing they stay crisp
-  // and keep their palette colours exactly.
-  QPainter p(this);
-  m_painter(p, QRectF(rect()));
   ++m_paintCount;
+  if (!m_painter) return;
+  const qreal ratio = devicePixelRatioF();
+  const QSize pixels(qRound(width() * ratio), qRound(height() * ratio));
+  if (m_stale || m_picture.size() != pixels || m_picture.devicePixelRatio() != ratio) {
+    m_picture = QImage(pixels, QImage::Format_RGB32);
+    m_picture.setDevicePixelRatio(ratio);
+    // The picture measures texts as the widget would.
+    m_picture.setDotsPerMeterX(qRound(logicalDpiX() / 0.0254));
+    m_picture.setDotsPerMeterY(qRound(logicalDpiY() / 0.0254));
+    m_picture.fill(palette().color(QPalette::Base));
+    QPainter picture(&m_picture);
+    picture.setFont(font());
+    m_painter(picture, QRectF(rect()));
+    ++m_drawCount;
+    m_stale = false;
+  }
+  QPainter p(this);
+  p.drawImage(QPointF(0, 0), m_picture);
 }
 
 }  // namespace tnw

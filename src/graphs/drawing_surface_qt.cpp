@@ -19,6 +19,29 @@ constexpr double kScreenDpi = 96.0;
 
 QString toQString(const std::string& text) { return QString::fromUtf8(text); }
 
+// The size of a font in points, also when it was given in pixels of the device.
+double pointsOf(const QFont& font, const QPaintDevice* device) {
+  if (font.pointSizeF() > 0) return font.pointSizeF();
+  const double dpi = device != nullptr && device->logicalDpiY() > 0 ? device->logicalDpiY() : 96.0;
+  return font.pixelSize() > 0 ? font.pixelSize() * 72.0 / dpi : 9.0;
+}
+
+// The font scaled by `factor`, in points so that it reads alike on a screen and on a printer,
+// and never below the smallest size the charts use.
+QFont scaledFont(const QFont& base, const QPaintDevice* device, double factor) {
+  QFont font = base;
+  font.setPointSizeF(
+      std::max(DrawingSurfaceQt::kMinimumPoints, pointsOf(base, device) * std::min(factor, 1.0)));
+  return font;
+}
+
+double longestWidth(const QFontMetricsF& fm, const std::vector<std::string>& texts) {
+  double longest = 0.0;
+  for (const std::string& t : texts)
+    longest = std::max(longest, fm.horizontalAdvance(toQString(t)));
+  return longest;
+}
+
 }  // namespace
 
 DrawingSurfaceQt::DrawingSurfaceQt(QPainter& painter, const QRectF& area)
@@ -37,12 +60,16 @@ QFont DrawingSurfaceQt::fittedFont(const QFont& base, const QPaintDevice* device
                                    double areaWidth) {
   // The charts keep 15 of their 155 horizontal units left of the plot for the scale labels.
   const double room = areaWidth * 12.0 / 155.0;
-  QFont font = base;
-  const double width = QFontMetricsF(font, device).horizontalAdvance(QStringLiteral("0.0000"));
-  if (width <= room || width <= 0) return font;
-  const double pixels = QFontMetricsF(font, device).height() * room / width;
-  font.setPixelSize(std::max(6, static_cast<int>(pixels * 0.8)));
-  return font;
+  const double width = QFontMetricsF(base, device).horizontalAdvance(QStringLiteral("0.0000"));
+  if (width <= room || width <= 0) return base;
+  return scaledFont(base, device, room / width * 0.95);
+}
+
+QFont DrawingSurfaceQt::fontFitting(const QFont& base, const QPaintDevice* device,
+                                    const std::vector<std::string>& texts, double width) {
+  const double longest = longestWidth(QFontMetricsF(base, device), texts);
+  if (longest <= width || longest <= 0.0 || width <= 0.0) return base;
+  return scaledFont(base, device, width / longest * 0.98);
 }
 
 void DrawingSurfaceQt::clear() {
@@ -58,6 +85,7 @@ void DrawingSurfaceQt::setScale(double left, double top, double right, double bo
   m_top = top;
   m_right = right;
   m_bottom = bottom;
+  m_itemLayout.reset();
 }
 
 void DrawingSurfaceQt::setLineWidth(int width) { m_lineWidth = std::max(1, width); }
@@ -70,6 +98,15 @@ QPointF DrawingSurfaceQt::toDevice(double x, double y) const {
   const double fx = w != 0.0 ? (x - m_left) / w : 0.0;
   const double fy = h != 0.0 ? (y - m_top) / h : 0.0;
   return {m_area.left() + fx * m_area.width(), m_area.top() + fy * m_area.height()};
+}
+
+double DrawingSurfaceQt::userPerDeviceX() const {
+  return m_area.width() > 0 ? std::abs(m_right - m_left) / m_area.width() : 0.0;
+}
+
+double DrawingSurfaceQt::userPerDeviceY() const {
+  // Signed as the y axis runs, so that y + height is one line further down the area.
+  return m_area.height() > 0 ? (m_bottom - m_top) / m_area.height() : 0.0;
 }
 
 void DrawingSurfaceQt::applyPen(const QColor& colour) {
@@ -91,47 +128,102 @@ void DrawingSurfaceQt::fillBox(double x1, double y1, double x2, double y2, int c
                      paletteColour(colour));
 }
 
-void DrawingSurfaceQt::setElidedTexts(std::vector<std::string> texts, double maxWidth) {
-  m_elidedTexts = std::move(texts);
-  m_elideWidth = maxWidth;
+void DrawingSurfaceQt::setItemTexts(std::vector<std::string> texts, double slotWidth, double room,
+                                    double row) {
+  m_itemTexts = std::move(texts);
+  m_slotWidth = slotWidth;
+  m_room = room;
+  m_itemRow = row;
+  m_itemLayout.reset();
 }
 
-QFont DrawingSurfaceQt::fontFitting(const QFont& base, const QPaintDevice* device,
-                                    const std::vector<std::string>& texts, double width) {
-  double longest = 0.0;
-  const QFontMetricsF fm(base, device);
-  for (const std::string& t : texts)
-    longest = std::max(longest, fm.horizontalAdvance(toQString(t)));
-  if (longest <= width || longest <= 0.0 || width <= 0.0) return base;
-  QFont font = base;
-  const double pixels = QFontMetricsF(base, device).height() / 1.2 * width / longest;
-  font.setPixelSize(std::max(7, static_cast<int>(pixels)));
-  return font;
+bool DrawingSurfaceQt::itemTextsTurned() const { return itemLayout().turned; }
+
+QFont DrawingSurfaceQt::itemFont() const { return itemLayout().font; }
+
+bool DrawingSurfaceQt::isItemText(const std::string& text) const {
+  // The chart routines print the item names, and only them, on the row under the plot.
+  return m_currentY == m_itemRow &&
+         std::find(m_itemTexts.begin(), m_itemTexts.end(), text) != m_itemTexts.end();
 }
 
-QString DrawingSurfaceQt::shown(const std::string& text) const {
-  const QString t = toQString(text);
-  if (m_elideWidth <= 0.0 || m_right == m_left ||
-      std::find(m_elidedTexts.begin(), m_elidedTexts.end(), text) == m_elidedTexts.end()) {
-    return t;
+const DrawingSurfaceQt::ItemLayout& DrawingSurfaceQt::itemLayout() const {
+  if (!m_itemLayout) m_itemLayout = makeItemLayout();
+  return *m_itemLayout;
+}
+
+DrawingSurfaceQt::ItemLayout DrawingSurfaceQt::makeItemLayout() const {
+  ItemLayout layout;
+  const QPaintDevice* device = m_painter.device();
+  const double perX = userPerDeviceX();
+  const double perY = std::abs(userPerDeviceY());
+  const double slot = perX > 0 ? m_slotWidth / perX : 0.0;
+  const double room = perY > 0 ? m_room / perY : 0.0;
+  const QFont base = m_painter.font();
+  // Each name is measured once, in the painter's font; a text's width grows with the font's
+  // size, so smaller fonts are judged from these widths.
+  std::vector<double> widths;
+  widths.reserve(m_itemTexts.size());
+  const QFontMetricsF baseMetrics(base, device);
+  for (const std::string& t : m_itemTexts) {
+    widths.push_back(baseMetrics.horizontalAdvance(toQString(t)));
   }
-  const QFontMetricsF fm(m_painter.font(), m_painter.device());
-  const double device = m_elideWidth * m_area.width() / std::abs(m_right - m_left);
-  return fm.elidedText(t, Qt::ElideRight, device);
+  // The font is chosen for the name at three quarters of the lengths, so that one long name
+  // does not make all the others small: the few longer are shortened.
+  std::vector<std::size_t> order(widths.size());
+  for (std::size_t i = 0; i < order.size(); ++i) order[i] = i;
+  std::sort(order.begin(), order.end(), [&](auto a, auto b) { return widths[a] < widths[b]; });
+  const std::size_t typicalIndex = order.empty() ? 0 : order[((order.size() - 1) * 3 + 3) / 4];
+  const double typical = order.empty() ? 0.0 : widths[typicalIndex];
+  double factor = typical > slot && typical > 0 ? slot / typical * 0.98 : 1.0;
+  layout.font = scaledFont(base, device, factor);
+  if (factor < 1.0) {
+    // Hinting does not scale quite linearly: that name is measured once more.
+    const QString name = toQString(m_itemTexts[typicalIndex]);
+    const double real = QFontMetricsF(layout.font, device).horizontalAdvance(name);
+    if (real > slot) {
+      factor *= slot / real;
+      layout.font = scaledFont(base, device, factor);
+    }
+  }
+  double length = slot;
+  if (layout.font.pointSizeF() > pointsOf(base, device) * factor * 1.001) {
+    // Upright, each name needs one line's height of its slot and may take the room below: the
+    // font shrinks for both, no further than the smallest size.
+    layout.turned = true;
+    const double line = baseMetrics.height();
+    factor = std::min(line > slot && line > 0 ? slot / line : 1.0,
+                      typical > room && typical > 0 ? room / typical * 0.98 : 1.0);
+    layout.font = scaledFont(base, device, factor);
+    length = room;
+  }
+  const double ratio = layout.font.pointSizeF() / pointsOf(base, device);
+  const QFontMetricsF fm(layout.font, device);
+  for (std::size_t i = 0; i < m_itemTexts.size(); ++i) {
+    const QString text = toQString(m_itemTexts[i]);
+    // Only a name that may be too long is measured again, in its own font.
+    layout.shown[m_itemTexts[i]] = widths[i] * ratio > length * 0.98 && length > 0
+                                       ? fm.elidedText(text, Qt::ElideRight, length)
+                                       : text;
+  }
+  return layout;
 }
 
 double DrawingSurfaceQt::textWidth(const std::string& text) const {
+  if (isItemText(text)) {
+    const ItemLayout& items = itemLayout();
+    const QFontMetricsF fm(items.font, m_painter.device());
+    // Turned, a name is one line wide.
+    return (items.turned ? fm.height() : fm.horizontalAdvance(items.shown.at(text))) *
+           userPerDeviceX();
+  }
   const QFontMetricsF fm(m_painter.font(), m_painter.device());
-  const double w = m_right - m_left;
-  if (m_area.width() <= 0) return 0.0;
-  return fm.horizontalAdvance(shown(text)) * std::abs(w) / m_area.width();
+  return fm.horizontalAdvance(toQString(text)) * userPerDeviceX();
 }
 
-double DrawingSurfaceQt::textHeight(const std::string&) const {
-  const QFontMetricsF fm(m_painter.font(), m_painter.device());
-  if (m_area.height() <= 0) return 0.0;
-  // Signed as the y axis runs, so that y + height is one line further down the area.
-  return fm.height() * (m_bottom - m_top) / m_area.height();
+double DrawingSurfaceQt::textHeight(const std::string& text) const {
+  const QFont font = isItemText(text) ? itemLayout().font : m_painter.font();
+  return QFontMetricsF(font, m_painter.device()).height() * userPerDeviceY();
 }
 
 void DrawingSurfaceQt::setCurrentX(double x) { m_currentX = x; }
@@ -139,14 +231,32 @@ void DrawingSurfaceQt::setCurrentX(double x) { m_currentX = x; }
 void DrawingSurfaceQt::setCurrentY(double y) { m_currentY = y; }
 
 void DrawingSurfaceQt::print(const std::string& text) {
+  const double height = textHeight(text);
   if (std::isfinite(m_currentX) && std::isfinite(m_currentY)) {
-    const QFontMetricsF fm(m_painter.font(), m_painter.device());
-    m_painter.setPen(Qt::black);
     const QPointF topLeft = toDevice(m_currentX, m_currentY);
-    m_painter.drawText(QPointF(topLeft.x(), topLeft.y() + fm.ascent()), shown(text));
+    m_painter.setPen(Qt::black);
+    if (isItemText(text)) {
+      const ItemLayout& items = itemLayout();
+      const QString shown = items.shown.at(text);
+      const QFontMetricsF fm(items.font, m_painter.device());
+      m_painter.save();
+      m_painter.setFont(items.font);
+      if (items.turned) {
+        // Read upwards, the name ends at the row under the plot.
+        m_painter.translate(topLeft.x() + fm.ascent(), topLeft.y() + fm.horizontalAdvance(shown));
+        m_painter.rotate(-90.0);
+        m_painter.drawText(QPointF(0.0, 0.0), shown);
+      } else {
+        m_painter.drawText(QPointF(topLeft.x(), topLeft.y() + fm.ascent()), shown);
+      }
+      m_painter.restore();
+    } else {
+      const QFontMetricsF fm(m_painter.font(), m_painter.device());
+      m_painter.drawText(QPointF(topLeft.x(), topLeft.y() + fm.ascent()), toQString(text));
+    }
   }
   m_currentX = m_left;
-  m_currentY += textHeight(text);
+  m_currentY += height;
 }
 
 }  // namespace tnw

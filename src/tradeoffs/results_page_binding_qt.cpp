@@ -15,6 +15,15 @@
 
 namespace tnw {
 
+namespace {
+
+bool sameChart(const ChartData& a, const ChartData& b) {
+  return a.title == b.title && a.n == b.n && a.names == b.names && a.divisions == b.divisions &&
+         a.seriesCount == b.seriesCount && a.data == b.data && a.legend == b.legend;
+}
+
+}  // namespace
+
 ResultsPageBindingQt::ResultsPageBindingQt(TradeOffsResultsWidget& widget,
                                            TradeOffsAPresenter& presenter, QObject* parent)
     : QObject(parent), m_widget(widget), m_presenter(presenter), m_page(presenter.resultsPage()) {
@@ -28,16 +37,13 @@ ResultsPageBindingQt::ResultsPageBindingQt(TradeOffsResultsWidget& widget,
   }
   const ResultsPage* shown = &m_page;
   c.picWeightGraph->setPainter([shown](QPainter& painter, const QRectF& area) {
-    // The charts span 155 user units, and each item has a slot of 100 / n under the plot:
-    // the font shrinks until the names fit their slots, and names still too long are elided.
+    // The charts span 155 user units; the scale labels set the font of the chart's texts, and
+    // each item name has a slot of 100 / n under the plot and the 28 units below the axis.
     const ChartData& chart = shown->chart();
     const double slot = chart.n > 0 ? 100.0 / chart.n : 100.0;
-    QFont font = DrawingSurfaceQt::fittedFont(painter.font(), painter.device(), area.width());
-    font = DrawingSurfaceQt::fontFitting(font, painter.device(), chart.names,
-                                         slot * 0.95 * area.width() / 155.0);
-    painter.setFont(font);
+    painter.setFont(DrawingSurfaceQt::fittedFont(painter.font(), painter.device(), area.width()));
     DrawingSurfaceQt surface(painter, area);
-    surface.setElidedTexts(chart.names, slot * 0.95);
+    surface.setItemTexts(chart.names, slot * 0.95, 27.0);
     shown->drawChart(surface);
   });
 }
@@ -46,9 +52,10 @@ void ResultsPageBindingQt::chooseChart(const char* key) {
   if (!m_rendering) m_presenter.tbWeightCharts_ButtonClick(key);
 }
 
-void ResultsPageBindingQt::renderGrid(QTableWidget& table, const GridState& grid) {
+bool ResultsPageBindingQt::renderGrid(QTableWidget& table, const GridState& grid) {
   const int cols = grid.cols();
   const int rows = grid.rows() > 0 ? grid.rows() - 1 : 0;
+  bool changed = false;
   if (table.columnCount() != cols) table.setColumnCount(cols);
   if (table.rowCount() != rows) table.setRowCount(rows);
   for (int c = 0; c < cols; ++c) {
@@ -56,8 +63,10 @@ void ResultsPageBindingQt::renderGrid(QTableWidget& table, const GridState& grid
     QTableWidgetItem* h = table.horizontalHeaderItem(c);
     if (h == nullptr) {
       table.setHorizontalHeaderItem(c, new QTableWidgetItem(heading));
+      changed = true;
     } else if (h->text() != heading) {
       h->setText(heading);
+      changed = true;
     }
   }
   for (int r = 0; r < rows; ++r) {
@@ -70,11 +79,18 @@ void ResultsPageBindingQt::renderGrid(QTableWidget& table, const GridState& grid
         item->setTextAlignment(c == 0 ? (Qt::AlignLeft | Qt::AlignVCenter)
                                       : (Qt::AlignRight | Qt::AlignVCenter));
         table.setItem(r, c, item);
+        changed = true;
       } else if (item->text() != text) {
         item->setText(text);
+        changed = true;
       }
     }
   }
+  // The number columns are measured once per change, not each time the grid is shown.
+  if (changed) {
+    for (int c = 1; c < cols; ++c) table.resizeColumnToContents(c);
+  }
+  return changed;
 }
 
 void ResultsPageBindingQt::render() {
@@ -85,14 +101,26 @@ void ResultsPageBindingQt::render() {
     c.tsTabsW->setCurrentIndex(tab);
     c.panels->setCurrentIndex(tab);
   }
-  renderGrid(*c.gridOverallRegression, m_page.gridOverallRegression());
-  renderGrid(*c.gridWeights, m_page.gridWeights());
+  // Most renders follow a tab or a chart key: the grids and the comment stay as they are.
+  if (m_shownOverall.cells != m_page.gridOverallRegression().cells) {
+    m_shownOverall = m_page.gridOverallRegression();
+    renderGrid(*c.gridOverallRegression, m_shownOverall);
+  }
+  if (m_shownWeights.cells != m_page.gridWeights().cells) {
+    m_shownWeights = m_page.gridWeights();
+    renderGrid(*c.gridWeights, m_shownWeights);
+  }
   const QString comment = QString::fromStdString(m_page.txtComments().text);
   if (c.txtComments->toPlainText() != comment) c.txtComments->setPlainText(comment);
   for (int i = 0; i < 3; ++i) {
     c.chartButton[i]->setChecked(m_page.chartKey() == TradeOffsResultsWidget::chartKey(i));
   }
-  c.picWeightGraph->update();
+  // The chart is drawn again only when it changed.
+  if (m_shownKey != m_page.chartKey() || !sameChart(m_shownChart, m_page.chart())) {
+    m_shownKey = m_page.chartKey();
+    m_shownChart = m_page.chart();
+    c.picWeightGraph->redraw();
+  }
   m_rendering = false;
 }
 

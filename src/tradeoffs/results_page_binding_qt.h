@@ -1,7 +1,13 @@
 #pragma once
 
+#include "graphs/chart_data.h"
+#include "tradeoffs/control_states.h"
+
 // Qt
 #include <QObject>
+
+// Std
+#include <string>
 
 class QTableWidget;
 
@@ -10,7 +16,6 @@ namespace tnw {
 class ResultsPage;
 class TradeOffsAPresenter;
 class TradeOffsResultsWidget;
-struct GridState;
 
 // Connects the controls of the results page widget to the trade-off presenter: the tabs and
 // the chart toolbar's keys go to the presenter, and render() shows the results page's grids,
@@ -27,8 +32,9 @@ class ResultsPageBindingQt : public QObject {
   // Shows the page's current state in the widgets.
   void render();
 
-  // Writes a grid's cells (row 0 the headings) into a table widget, changing only what differs.
-  static void renderGrid(QTableWidget& table, const GridState& grid);
+  // Writes a grid's cells (row 0 the headings) into a table widget, changing only what differs;
+  // true when something changed.
+  static bool renderGrid(QTableWidget& table, const GridState& grid);
 
  private:
   void chooseChart(const char* key);
@@ -36,6 +42,11 @@ class ResultsPageBindingQt : public QObject {
   TradeOffsResultsWidget& m_widget;
   TradeOffsAPresenter& m_presenter;
   const ResultsPage& m_page;
+  // What the widgets show, to leave them alone when it has not changed.
+  GridState m_shownOverall;
+  GridState m_shownWeights;
+  std::string m_shownKey;
+  ChartData m_shownChart;
   bool m_rendering = false;
 };
 

@@ -1,6 +1,7 @@
 #include "graphs/drawing_surface_qt.h"
 
 #include "graphs/chart_export_qt.h"
+#include "graphs/chart_widget.h"
 #include "graphs/graphs.h"
 #include "graphs/palette.h"
 
@@ -105,32 +106,79 @@ class DrawingSurfaceQtTest : public QObject {
     QVERIFY(countColour(image, qRgb(255, 0, 0)) >= 2 * 190);
   }
 
-  void itemNamesAreElidedToTheirSlotWhenMeasuredAndPrinted() {
-    QImage image(310, 300, QImage::Format_RGB32);
+  void itemNamesShrinkToTheirSlotOnlyOnTheRowUnderThePlot() {
+    QImage image(620, 600, QImage::Format_RGB32);
     QPainter p(&image);
-    DrawingSurfaceQt s(p, QRectF(0, 0, 310, 300));
-    chartScale(s);
-    const std::string name = "A very long attribute name indeed";
-    const double full = s.textWidth(name);
-    s.setElidedTexts({name}, 20.0);
-    QVERIFY(full > 20.0);
-    QVERIFY(s.textWidth(name) <= 20.0);
-    QVERIFY(s.textWidth(name) > 0.0);
-    // Other texts keep their width.
-    QCOMPARE(s.textWidth("0.2500"),
-             QFontMetricsF(p.font(), &image).horizontalAdvance(QStringLiteral("0.2500")) / 2.0);
-  }
-
-  void fontShrinksUntilTheLongestNameFits() {
-    QImage image(10, 10, QImage::Format_RGB32);
     QFont base;
     base.setPixelSize(20);
+    p.setFont(base);
+    DrawingSurfaceQt s(p, QRectF(0, 0, 620, 600));
+    chartScale(s);
+    const std::string name = "Fuel consumption";
+    s.setItemTexts({name, "Price"}, 25.0, 27.0);
+    const double full = s.textWidth(name);
+    s.setCurrentY(-2.0);
+    const double onRow = s.textWidth(name);
+    QVERIFY(full > 25.0);
+    QVERIFY(onRow <= 25.0);
+    QVERIFY(onRow > 12.0);
+    QVERIFY(!s.itemTextsTurned());
+    QVERIFY(s.itemFont().pointSizeF() >= DrawingSurfaceQt::kMinimumPoints);
+    QVERIFY(s.itemFont().pointSizeF() < 15.0);
+    // Other texts on the row, and the names elsewhere, keep the painter's font.
+    QCOMPARE(s.textWidth("0.2500"),
+             QFontMetricsF(base, &image).horizontalAdvance(QStringLiteral("0.2500")) / 4.0);
+  }
+
+  void itemNamesThatCannotFitTheirSlotsReadUpwards() {
+    QImage image(620, 600, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    std::vector<std::string> names;
+    for (int i = 1; i <= 31; ++i) names.push_back("Attribute " + std::to_string(i));
+    {
+      QPainter p(&image);
+      DrawingSurfaceQt s(p, QRectF(0, 0, 620, 600));
+      chartScale(s);
+      s.setItemTexts(names, 100.0 / 31 * 0.95, 27.0);
+      s.setCurrentY(-2.0);
+      QVERIFY(s.itemTextsTurned());
+      // Upright, a name takes one line of its slot.
+      const double line = QFontMetricsF(s.itemFont(), &image).height() / 4.0;
+      QCOMPARE(s.textWidth(names[0]), line);
+      QVERIFY(line <= 100.0 / 31);
+      s.setCurrentX(10.0);
+      s.print(names[0]);
+    }
+    // The printed name stands taller than it is wide, under the row.
+    QRect ink;
+    for (int y = 0; y < image.height(); ++y) {
+      for (int x = 0; x < image.width(); ++x) {
+        if (image.pixel(x, y) != qRgb(255, 255, 255)) ink |= QRect(x, y, 1, 1);
+      }
+    }
+    QVERIFY(!ink.isEmpty());
+    QVERIFY(ink.height() > 2 * ink.width());
+    QVERIFY(ink.top() >= 488);  // y = -2 is 488 pixels down
+  }
+
+  void fontSizesAreInPointsAndNeverBelowTheMinimumOnAnyDevice() {
     const std::vector<std::string> names = {"Short", "Fuel consumption"};
-    const QFont f = DrawingSurfaceQt::fontFitting(base, &image, names, 60.0);
-    QVERIFY(f.pixelSize() < 20);
-    QVERIFY(f.pixelSize() >= 7);
-    const QFont same = DrawingSurfaceQt::fontFitting(base, &image, names, 1000.0);
-    QCOMPARE(same.pixelSize(), 20);
+    for (const int dpi : {96, 1200}) {
+      QImage image(10, 10, QImage::Format_RGB32);
+      image.setDotsPerMeterX(qRound(dpi / 0.0254));
+      image.setDotsPerMeterY(qRound(dpi / 0.0254));
+      QFont base;
+      base.setPointSizeF(10.0);
+      // Room for a fraction of a name, or of a scale label: the minimum size, in points.
+      const QFont tiny = DrawingSurfaceQt::fontFitting(base, &image, names, dpi / 20.0);
+      QCOMPARE(tiny.pointSizeF(), DrawingSurfaceQt::kMinimumPoints);
+      QCOMPARE(DrawingSurfaceQt::fittedFont(base, &image, dpi / 10.0).pointSizeF(),
+               DrawingSurfaceQt::kMinimumPoints);
+      // Room enough: the font stays.
+      QCOMPARE(DrawingSurfaceQt::fontFitting(base, &image, names, dpi * 10.0), base);
+      const QFont some = DrawingSurfaceQt::fontFitting(base, &image, names, dpi * 1.0);
+      QVERIFY(some.pointSizeF() < 10.0 && some.pointSizeF() > DrawingSurfaceQt::kMinimumPoints);
+    }
   }
 
   void nonFiniteCoordinatesDrawNothing() {
@@ -188,6 +236,65 @@ class DrawingSurfaceQtTest : public QObject {
     QVERIFY(svg.contains("Comfort"));
     QVERIFY(svg.contains("<polyline") || svg.contains("<path") || svg.contains("<line"));
     QVERIFY(!svg.contains("<image"));
+  }
+
+  void svgExportReportsWhetherTheFileWasWritten() {
+    const ChartData d = threeItems();
+    Graphs g;
+    const ChartWidget::Painter chart = [&](QPainter& p, const QRectF& area) {
+      DrawingSurfaceQt s(p, area);
+      g.Display_HLCGraphBMain(s, d);
+    };
+    QTemporaryDir dir;
+    // An old file at the path is replaced, not taken for the new one.
+    const QString path = dir.filePath(QStringLiteral("chart.svg"));
+    {
+      QFile old(path);
+      QVERIFY(old.open(QIODevice::WriteOnly));
+      old.write("old picture");
+    }
+    QVERIFY(ChartExportQt::toSvg(chart, path, QSize(465, 450), QStringLiteral("Ranges")));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray svg = file.readAll();
+    QVERIFY(svg.contains("<svg"));
+    QVERIFY(!svg.contains("old picture"));
+    // A path that cannot be written fails: a folder that does not exist, or a folder itself.
+    const QString missing = dir.filePath(QStringLiteral("no such folder/chart.svg"));
+    QVERIFY(!ChartExportQt::toSvg(chart, missing, QSize(465, 450), QStringLiteral("Ranges")));
+    QVERIFY(!QFile::exists(missing));
+    QVERIFY(!ChartExportQt::toSvg(chart, dir.path(), QSize(465, 450), QStringLiteral("Ranges")));
+    QVERIFY(QFileInfo(dir.path()).isDir());
+  }
+
+  void chartWidgetDrawsAgainOnlyWhenTheChartOrItsSizeChanges() {
+    ChartWidget w;
+    int runs = 0;
+    w.setPainter([&runs](QPainter& p, const QRectF& area) {
+      ++runs;
+      p.fillRect(area, Qt::red);
+    });
+    w.resize(200, 150);
+    w.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&w));
+    QTRY_COMPARE(w.drawCount(), 1);
+    // Shown again, or painted over, the widget copies the picture it has.
+    const int paints = w.paintCount();
+    w.hide();
+    w.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&w));
+    w.repaint();
+    QTRY_VERIFY(w.paintCount() > paints);
+    QCOMPARE(w.drawCount(), 1);
+    QCOMPARE(runs, 1);
+    QCOMPARE(w.grab().toImage().pixelColor(100, 75), QColor(Qt::red));
+    w.redraw();
+    w.repaint();
+    QCOMPARE(w.drawCount(), 2);
+    w.resize(300, 150);
+    w.repaint();
+    QCOMPARE(w.drawCount(), 3);
+    QCOMPARE(runs, 3);
   }
 
   void chartsPrintOnAPdfPage() {

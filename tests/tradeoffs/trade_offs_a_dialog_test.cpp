@@ -294,11 +294,18 @@ void TradeOffsADialogTest::fullRunOfThreeAttributesExportsCloseEstimatesAsWeight
   QVERIFY(countColour(hlcA, 12) > 0 && countColour(hlcB, 12) > 0);
   QVERIFY(countColour(bars, 0) > 0);  // axes and texts
 
-  // The regression-status tab brings its panel to the front.
+  // The regression-status tab brings its panel to the front; coming back shows the chart drawn
+  // before, without drawing it again.
+  auto* chart = child<ChartWidget>(d.get(), "picWeightGraph");
+  const int draws = chart->drawCount();
   auto* tabsW = child<QTabBar>(d.get(), "tsTabsW");
   QTest::mouseClick(tabsW, Qt::LeftButton, {}, tabsW->tabRect(1).center());
   QVERIFY(child<QWidget>(d.get(), "picRegStatus")->isVisible());
   QVERIFY(!child<QWidget>(d.get(), "picWeightEst")->isVisible());
+  QTest::mouseClick(tabsW, Qt::LeftButton, {}, tabsW->tabRect(0).center());
+  QCOMPARE(chart->grab().toImage(), hlcB);
+  QCOMPARE(chart->drawCount(), draws);
+  QTest::mouseClick(tabsW, Qt::LeftButton, {}, tabsW->tabRect(1).center());
 
   m_events.log.clear();
   clickButton(d.get(), "cmdFinish");
