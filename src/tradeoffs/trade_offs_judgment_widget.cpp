@@ -1,6 +1,7 @@
 #include "tradeoffs/trade_offs_judgment_widget.h"
 
 #include "tradeoffs/elided_label_widget.h"
+#include "tradeoffs/item_text_delegate_qt.h"
 #include "tradeoffs/judgment_controls.h"
 #include "tradeoffs/pc_graph_widget.h"
 
@@ -130,6 +131,7 @@ QWidget* TradeOffsJudgmentWidget::buildSelection() {
   second->setBuddy(m_c.lstTradeOffSecondC);
   const int rows = fontMetrics().height() * 4 + 8;
   for (QListWidget* list : {m_c.lstTradeOffFirstC, m_c.lstTradeOffSecondC}) {
+    list->setItemDelegate(new ItemTextDelegateQt(list));
     list->setUniformItemSizes(true);
     list->setMinimumHeight(rows);
     list->setMaximumHeight(rows);

@@ -1,6 +1,7 @@
 #include "tradeoffs/trade_offs_results_widget.h"
 
 #include "graphs/chart_widget.h"
+#include "tradeoffs/item_text_delegate_qt.h"
 
 // Qt
 #include <QAction>
@@ -57,13 +58,16 @@ QIcon chartIcon(int kind) {
 QTableWidget* makeGrid(const char* name, const QStringList& headings, QWidget* parent) {
   auto* grid = new QTableWidget(0, static_cast<int>(headings.size()), parent);
   grid->setObjectName(QString::fromLatin1(name));
+  grid->setItemDelegate(new ItemTextDelegateQt(grid));
   grid->setHorizontalHeaderLabels(headings);
   grid->verticalHeader()->setVisible(false);
   grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
   grid->setSelectionMode(QAbstractItemView::NoSelection);
   grid->setAlternatingRowColors(true);
   grid->horizontalHeader()->setHighlightSections(false);
-  grid->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  // The number columns take their width when the grid is filled (ResizeToContents would measure
+  // every cell each time the grid is shown); the names take the rest.
+  grid->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   grid->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
   grid->horizontalHeader()->setMinimumSectionSize(
       grid->fontMetrics().horizontalAdvance(QStringLiteral("0.0000")) + 16);

@@ -1,0 +1,66 @@
+#include "tradeoffs/item_text_delegate_qt.h"
+
+// Qt
+#include <QApplication>
+#include <QPainter>
+#include <QStyle>
+
+namespace tnw {
+
+namespace {
+
+// The cache holds the texts of one dialog's lists and grids; it is emptied when it grows past
+// them, as when the model changes.
+constexpr qsizetype kMostTexts = 512;
+
+}  // namespace
+
+ItemTextDelegateQt::ItemTextDelegateQt(QObject* parent) : QStyledItemDelegate(parent) {}
+
+const QStaticText& ItemTextDelegateQt::laidOut(const QString& text, const QFont& font) const {
+  if (font != m_font || m_texts.size() > kMostTexts) {
+    m_texts.clear();
+    m_font = font;
+  }
+  auto it = m_texts.find(text);
+  if (it == m_texts.end()) {
+    QStaticText laid(text);
+    laid.setTextFormat(Qt::PlainText);
+    laid.prepare(QTransform(), font);
+    it = m_texts.insert(text, laid);
+  }
+  return *it;
+}
+
+void ItemTextDelegateQt::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                               const QModelIndex& index) const {
+  QStyleOptionViewItem opt = option;
+  initStyleOption(&opt, index);
+  const QWidget* widget = opt.widget;
+  QStyle* style = widget != nullptr ? widget->style() : QApplication::style();
+  const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, widget) + 1;
+  const QRect textRect = opt.rect.adjusted(margin, 0, -margin, 0);
+  const QStaticText& text = laidOut(opt.text, opt.font);
+  if (!opt.icon.isNull() || text.size().width() > textRect.width()) {
+    QStyledItemDelegate::paint(painter, option, index);
+    return;
+  }
+  // The panel, the selection and the focus frame as the style draws them, without the text.
+  opt.text.clear();
+  style->drawControl(QStyle::CE_ItemViewItem, &opt, painter, widget);
+  const QPalette::ColorGroup group = !(opt.state & QStyle::State_Enabled)  ? QPalette::Disabled
+                                     : !(opt.state & QStyle::State_Active) ? QPalette::Inactive
+                                                                           : QPalette::Normal;
+  const QPalette::ColorRole role =
+      (opt.state & QStyle::State_Selected) ? QPalette::HighlightedText : QPalette::Text;
+  const QSizeF size = text.size();
+  const QRect placed =
+      QStyle::alignedRect(opt.direction, opt.displayAlignment, size.toSize(), textRect);
+  painter->save();
+  painter->setPen(opt.palette.color(group, role));
+  painter->setFont(opt.font);
+  painter->drawStaticText(placed.topLeft(), text);
+  painter->restore();
+}
+
+}  // namespace tnw
