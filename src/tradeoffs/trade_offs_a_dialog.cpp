@@ -24,6 +24,9 @@
 #include <QTextEdit>
 #include <QVBoxLayout>
 
+// Std
+#include <memory>
+
 namespace tnw {
 
 namespace {
@@ -174,12 +177,17 @@ TradeOffsPrintoutQt TradeOffsADialog::printout() const {
 void TradeOffsADialog::printResults(QPagedPaintDevice& device) const { printout().print(device); }
 
 void TradeOffsADialog::print() {
-  QPrinter printer(QPrinter::HighResolution);
-  printer.setDocName(windowTitle());
-  QPrintDialog dialog(&printer, this);
-  dialog.setWindowTitle(tr("Print the results"));
-  if (dialog.exec() != QDialog::Accepted) return;
-  printResults(printer);
+  // Window-modal without a nested event loop: the print-out is made when the dialog is accepted.
+  // The dialog deletes itself when it closes, or goes with this dialog; its printer lives as long
+  // as the connection that prints, which ends with the print dialog.
+  auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
+  printer->setDocName(windowTitle());
+  auto* dialog = new QPrintDialog(printer.get(), this);
+  dialog->setObjectName(QStringLiteral("dlgPrint"));
+  dialog->setWindowTitle(tr("Print the results"));
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  connect(dialog, &QDialog::accepted, this, [this, printer] { printResults(*printer); });
+  dialog->open();
 }
 
 }  // namespace tnw

@@ -1,7 +1,8 @@
 #include "tradeoffs/trade_offs_printout_qt.h"
 
+#include "tradeoffs/printed_table_qt.h"
+
 // Qt
-#include <QHeaderView>
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QTableWidget>
@@ -14,10 +15,6 @@ namespace tnw {
 
 namespace {
 
-// The font sizes of the print-out, in points, so a page reads the same on any printer.
-constexpr double kTitlePoints = 14.0;
-constexpr double kTextPoints = 10.0;
-
 QFont printFont(const QPainter& painter, double points, bool bold) {
   QFont f = painter.font();
   f.setPointSizeF(points);
@@ -26,6 +23,39 @@ QFont printFont(const QPainter& painter, double points, bool bold) {
 }
 
 }  // namespace
+
+// Where the print-out stands: the page in hand and how far down it is filled. Every page is laid
+// out alike, but only the page being rendered is drawn, so that counting the pages and drawing
+// one of them take the same path.
+class TradeOffsPrintoutQt::Flow {
+ public:
+  Flow(QPainter& painter, const QRectF& page, int target)
+      : m_painter(painter), m_page(page), m_target(target), m_y(page.top()) {}
+
+  QPainter& painter() { return m_painter; }
+  const QRectF& page() const { return m_page; }
+  // Whether what is placed now is drawn.
+  bool drawing() const { return m_index == m_target; }
+  int pageIndex() const { return m_index; }
+  double y() const { return m_y; }
+  double room() const { return m_page.bottom() - m_y; }
+  // The space between two parts: one line of the text size.
+  double gap() const {
+    return QFontMetricsF(printFont(m_painter, kTextPoints, false), m_painter.device()).height();
+  }
+  void advance(double height) { m_y += height; }
+  void newPage() {
+    ++m_index;
+    m_y = m_page.top();
+  }
+
+ private:
+  QPainter& m_painter;
+  QRectF m_page;
+  int m_target;
+  int m_index = 0;
+  double m_y;
+};
 
 TradeOffsPrintoutQt::Table TradeOffsPrintoutQt::fromGrid(const QTableWidget& grid) {
   Table t;
@@ -47,100 +77,131 @@ TradeOffsPrintoutQt::Table TradeOffsPrintoutQt::fromGrid(const QTableWidget& gri
 void TradeOffsPrintoutQt::print(QPagedPaintDevice& device) const {
   QPainter painter(&device);
   const QRectF page(0, 0, device.width(), device.height());
-  render(painter, page);
+  const int pages = pageCount(painter, page);
+  for (int i = 0; i < pages; ++i) {
+    if (i > 0) device.newPage();
+    renderPage(painter, page, i);
+  }
 }
 
-void TradeOffsPrintoutQt::render(QPainter& painter, const QRectF& page) const {
+int TradeOffsPrintoutQt::pageCount(QPainter& painter, const QRectF& page) const {
+  Flow flow(painter, page, -1);
+  run(flow);
+  return flow.pageIndex() + 1;
+}
+
+void TradeOffsPrintoutQt::renderPage(QPainter& painter, const QRectF& page, int index) const {
+  Flow flow(painter, page, index);
+  run(flow);
+}
+
+void TradeOffsPrintoutQt::run(Flow& flow) const {
+  QPainter& painter = flow.painter();
   painter.save();
-  painter.setFont(printFont(painter, kTitlePoints, true));
-  const double titleHeight = painter.fontMetrics().height();
   painter.setPen(Qt::black);
-  painter.drawText(QRectF(page.left(), page.top(), page.width(), titleHeight * 1.5),
-                   Qt::AlignLeft | Qt::AlignTop, title);
-  double y = page.top() + titleHeight * 2;
-  const double gap = titleHeight;
-  const double half = (page.width() - gap) / 2;
-  const double left = drawTable(painter, weights, page.left(), y, half);
-  const double right = drawTable(painter, regression, page.left() + half + gap, y, half);
-  y = std::max(left, right) + gap;
-  y = drawComment(painter, page.left(), y, page.width()) + gap;
-  if (chart) {
-    const double height = std::min(page.bottom() - y, page.width() * 0.7);
-    if (height > 0) {
-      painter.setFont(printFont(painter, kTextPoints, false));
-      const QRectF area(page.left(), y, page.width(), height);
-      // The chart clears its area first, so its border comes after it.
-      chart(painter, area);
-      painter.setPen(QPen(Qt::gray, 0));
-      painter.setBrush(Qt::NoBrush);
-      painter.drawRect(area);
+  drawHeading(flow);
+  drawRegressionAndComment(flow);
+  flow.advance(flow.gap());
+  // The weight grid, page after page, with its headings at the top of each.
+  const PrintedTableQt grid(weights.headings, weights.rows, printFont(painter, kTextPoints, false),
+                            painter.device(), flow.page().width());
+  if (!weights.headings.isEmpty()) {
+    const double left = flow.page().left();
+    if (flow.room() < grid.headingHeight() + (grid.rowCount() > 0 ? grid.rowHeight(0) : 0.0)) {
+      flow.newPage();
+    }
+    if (flow.drawing()) grid.drawHeading(painter, QPointF(left, flow.y()));
+    flow.advance(grid.headingHeight());
+    for (int r = 0; r < grid.rowCount(); ++r) {
+      if (flow.room() < grid.rowHeight(r) && flow.y() > flow.page().top() + grid.headingHeight()) {
+        flow.newPage();
+        if (flow.drawing()) grid.drawHeading(painter, QPointF(left, flow.y()));
+        flow.advance(grid.headingHeight());
+      }
+      if (flow.drawing()) grid.drawRow(painter, r, QPointF(left, flow.y()));
+      flow.advance(grid.rowHeight(r));
     }
   }
+  drawChart(flow);
   painter.restore();
 }
 
-double TradeOffsPrintoutQt::drawTable(QPainter& painter, const Table& table, double left,
-                                      double top, double width) const {
-  const int columns = static_cast<int>(table.headings.size());
-  if (columns == 0) return top;
-  painter.setFont(printFont(painter, kTextPoints, false));
-  const QFontMetricsF fm(painter.font(), painter.device());
-  const double rowHeight = fm.height() * 1.5;
-  const double pad = fm.averageCharWidth() / 2;
-  // The first column holds names and takes what the number columns leave.
-  const double numberWidth = std::min(
-      width / columns, fm.horizontalAdvance(QStringLiteral("Std Err of Actual Est")) * 0.6);
-  const double firstWidth = width - numberWidth * (columns - 1);
-  auto cellRect = [&](int row, int col) {
-    const double x = col == 0 ? left : left + firstWidth + numberWidth * (col - 1);
-    const double w = col == 0 ? firstWidth : numberWidth;
-    return QRectF(x, top + row * rowHeight, w, rowHeight);
-  };
-  const int rows = static_cast<int>(table.rows.size()) + 1;
-  painter.fillRect(QRectF(left, top, width, rowHeight), QColor(224, 224, 224));
-  for (int r = 0; r < rows; ++r) {
-    const QStringList& texts = r == 0 ? table.headings : table.rows[r - 1];
-    QFont f = painter.font();
-    f.setBold(r == 0);
-    painter.setFont(f);
-    for (int c = 0; c < columns && c < texts.size(); ++c) {
-      const QRectF cell = cellRect(r, c).adjusted(pad, 0, -pad, 0);
-      const Qt::Alignment align = (c == 0 || r == 0 ? Qt::AlignLeft : Qt::AlignRight);
-      painter.drawText(cell, align | Qt::AlignVCenter,
-                       fm.elidedText(texts[c], Qt::ElideRight, cell.width()));
-    }
+void TradeOffsPrintoutQt::drawHeading(Flow& flow) const {
+  QPainter& painter = flow.painter();
+  painter.setFont(printFont(painter, kTitlePoints, true));
+  const double height = QFontMetricsF(painter.font(), painter.device()).height();
+  if (flow.drawing()) {
+    painter.drawText(QRectF(flow.page().left(), flow.y(), flow.page().width(), height * 1.5),
+                     Qt::AlignLeft | Qt::AlignTop, title);
   }
-  painter.setPen(QPen(Qt::black, 0));
-  for (int r = 0; r <= rows; ++r) {
-    painter.drawLine(QPointF(left, top + r * rowHeight),
-                     QPointF(left + width, top + r * rowHeight));
-  }
-  for (int c = 0; c <= columns; ++c) {
-    const double x = c == columns ? left + width : cellRect(0, c).left();
-    painter.drawLine(QPointF(x, top), QPointF(x, top + rows * rowHeight));
-  }
-  return top + rows * rowHeight;
+  flow.advance(height * 2);
 }
 
-double TradeOffsPrintoutQt::drawComment(QPainter& painter, double left, double top,
-                                        double width) const {
+void TradeOffsPrintoutQt::drawRegressionAndComment(Flow& flow) const {
+  // The overall figures on the left, the comment on the right.
+  QPainter& painter = flow.painter();
+  const double gap = flow.gap();
+  const double half = (flow.page().width() - gap) / 2;
+  const double top = flow.y();
+  const PrintedTableQt grid(regression.headings, regression.rows,
+                            printFont(painter, kTextPoints, false), painter.device(), half);
+  double left = top;
+  if (!regression.headings.isEmpty()) {
+    if (flow.drawing()) grid.drawHeading(painter, QPointF(flow.page().left(), left));
+    left += grid.headingHeight();
+    for (int r = 0; r < grid.rowCount(); ++r) {
+      if (flow.drawing()) grid.drawRow(painter, r, QPointF(flow.page().left(), left));
+      left += grid.rowHeight(r);
+    }
+  }
+  const double x = flow.page().left() + half + gap;
   painter.setFont(printFont(painter, kTextPoints, true));
   const QFontMetricsF bold(painter.font(), painter.device());
-  painter.drawText(QPointF(left, top + bold.ascent()), QStringLiteral("Comments:"));
-  double y = top + bold.height() * 1.3;
-  painter.setFont(printFont(painter, kTextPoints, false));
-  QTextLayout layout(comment, painter.font(), painter.device());
+  if (flow.drawing())
+    painter.drawText(QPointF(x, top + bold.ascent()), QStringLiteral("Comments:"));
+  double right = top + bold.height() * 1.3;
+  QTextLayout layout(comment, printFont(painter, kTextPoints, false), painter.device());
+  QTextOption option;
+  option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  layout.setTextOption(option);
   double height = 0;
   layout.beginLayout();
   for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-    line.setLineWidth(width);
+    line.setLineWidth(half);
     line.setPosition(QPointF(0, height));
     height += line.height();
   }
   layout.endLayout();
-  layout.draw(&painter, QPointF(left, y));
-  y += height;
-  return y;
+  if (flow.drawing()) layout.draw(&painter, QPointF(x, right));
+  right += height;
+  flow.advance(std::max(left, right) - top);
+}
+
+void TradeOffsPrintoutQt::drawChart(Flow& flow) const {
+  if (!chart) return;
+  QPainter& painter = flow.painter();
+  const QRectF& page = flow.page();
+  // The chart is nearly square; below the grids it needs three quarters of its height at least,
+  // else it takes a page of its own, where it may be a little taller.
+  const double wanted = std::min(page.height(), page.width() * 0.9);
+  flow.advance(flow.gap());
+  double height = std::min(flow.room(), wanted);
+  if (flow.room() < wanted * 0.75) {
+    flow.newPage();
+    height = std::min(page.height(), page.width() * 1.3);
+  }
+  if (flow.drawing() && height > 0) {
+    painter.setFont(printFont(painter, kTextPoints, false));
+    const QRectF area(page.left(), flow.y(), page.width(), height);
+    // The chart clears its area first, so its border comes after it.
+    painter.save();
+    chart(painter, area);
+    painter.restore();
+    painter.setPen(QPen(Qt::gray, 0));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(area);
+  }
+  flow.advance(height);
 }
 
 }  // namespace tnw

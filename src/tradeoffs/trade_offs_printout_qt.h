@@ -13,9 +13,12 @@ class QTableWidget;
 
 namespace tnw {
 
-// The print-out of the trade-off results page: a heading, the weight grid, the overall
-// regression grid, the comment and the chart, drawn with a painter so that texts and lines stay
-// vectors on a printer or in a PDF file.
+// The print-out of the trade-off results page: a heading, the overall regression grid beside the
+// comment, the weight grid and the chart, drawn with a painter so that texts and lines stay
+// vectors on a printer or in a PDF file. Sizes are in points, so a page reads alike on any
+// printer. Long texts in the grids wrap; a grid longer than the page goes on over the next page
+// with its headings again; the chart takes the room left under the grids, or a page of its own
+// when that room is too small for it.
 class TradeOffsPrintoutQt {
  public:
   // One grid as it is shown: its column headings and the texts of its cells, row by row.
@@ -24,7 +27,12 @@ class TradeOffsPrintoutQt {
     QVector<QStringList> rows;
   };
 
-  // The heading printed at the top of the page.
+  // The size of the heading, in points.
+  static constexpr double kTitlePoints = 14.0;
+  // The size of every other text before the chart fits its own, in points.
+  static constexpr double kTextPoints = 10.0;
+
+  // The heading printed at the top of the first page.
   QString title;
   // The weight estimates (gridWeights).
   Table weights;
@@ -38,15 +46,20 @@ class TradeOffsPrintoutQt {
   // The texts of a grid as it is shown.
   static Table fromGrid(const QTableWidget& grid);
 
-  // Draws the print-out on one page of the device (a printer or a PDF writer).
+  // Draws the print-out on the device (a printer or a PDF writer), page after page.
   void print(QPagedPaintDevice& device) const;
-  // Draws the print-out into the given page rectangle, in device units.
-  void render(QPainter& painter, const QRectF& page) const;
+  // How many pages the print-out takes, each the given rectangle of the painter's device.
+  int pageCount(QPainter& painter, const QRectF& page) const;
+  // Draws page `index` (from 0) into the given rectangle, in device units.
+  void renderPage(QPainter& painter, const QRectF& page, int index) const;
 
  private:
-  double drawTable(QPainter& painter, const Table& table, double left, double top,
-                   double width) const;
-  double drawComment(QPainter& painter, double left, double top, double width) const;
+  class Flow;
+
+  void run(Flow& flow) const;
+  void drawHeading(Flow& flow) const;
+  void drawRegressionAndComment(Flow& flow) const;
+  void drawChart(Flow& flow) const;
 };
 
 }  // namespace tnw
