@@ -17,9 +17,15 @@ void ElidedLabelWidget::setFullText(const QString& text) {
   setToolTip(text);
 }
 
-QSize ElidedLabelWidget::minimumSizeHint() const {
-  return {fontMetrics().horizontalAdvance(QStringLiteral("Mmmm\u2026")),
-          QLabel::minimumSizeHint().height()};
+QSize ElidedLabelWidget::minimumSizeHint() const { return sizeHint(); }
+
+QSize ElidedLabelWidget::sizeHint() const {
+  // The width is ignored by the size policy; the height is one line, as QLabel gives it.
+  const QMargins m = contentsMargins();
+  const int extra = 2 * margin();
+  return {
+      fontMetrics().horizontalAdvance(QStringLiteral("Mmmm\u2026")) + m.left() + m.right() + extra,
+      fontMetrics().height() + m.top() + m.bottom() + extra};
 }
 
 void ElidedLabelWidget::paintEvent(QPaintEvent*) {

@@ -19,6 +19,8 @@ class ElidedLabelWidget : public QLabel {
 
   // Small enough that a long name never widens the dialog.
   QSize minimumSizeHint() const override;
+  // One line of the font, whatever the text: a new name asks the layout for nothing.
+  QSize sizeHint() const override;
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -3,6 +3,7 @@
 #include "tradeoffs/pc_point_widget.h"
 
 // Qt
+#include <QEvent>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -92,22 +93,34 @@ void PcGraphWidget::dragPointTo(PcPointWidget* shape, QPointF widgetPos, bool fi
   emit pointDragged(which, fraction, final);
 }
 
+void PcGraphWidget::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::PaletteChange) m_grid = QPixmap();
+  QFrame::changeEvent(event);
+}
+
 void PcGraphWidget::paintEvent(QPaintEvent* event) {
   QFrame::paintEvent(event);
-  QPainter p(this);
   const QRectF r = plotRect();
-  const QColor axis = palette().color(QPalette::WindowText);
-  QPen grid(palette().color(QPalette::Mid), 1, Qt::DotLine);
-  p.setPen(grid);
-  for (int i = 1; i < 4; ++i) {
-    const double x = r.left() + r.width() * i / 4.0;
-    const double y = r.top() + r.height() * i / 4.0;
-    p.drawLine(QPointF(x, r.top()), QPointF(x, r.bottom()));
-    p.drawLine(QPointF(r.left(), y), QPointF(r.right(), y));
+  const qreal ratio = devicePixelRatioF();
+  if (m_grid.isNull() || m_grid.size() != size() * ratio || m_grid.devicePixelRatio() != ratio) {
+    m_grid = QPixmap(size() * ratio);
+    m_grid.setDevicePixelRatio(ratio);
+    m_grid.fill(Qt::transparent);
+    QPainter g(&m_grid);
+    QPen dotted(palette().color(QPalette::Mid), 1, Qt::DotLine);
+    g.setPen(dotted);
+    for (int i = 1; i < 4; ++i) {
+      const double x = r.left() + r.width() * i / 4.0;
+      const double y = r.top() + r.height() * i / 4.0;
+      g.drawLine(QPointF(x, r.top()), QPointF(x, r.bottom()));
+      g.drawLine(QPointF(r.left(), y), QPointF(r.right(), y));
+    }
+    g.setPen(QPen(palette().color(QPalette::WindowText), 1.5));
+    g.drawLine(r.bottomLeft(), r.topLeft());
+    g.drawLine(r.bottomLeft(), r.bottomRight());
   }
-  p.setPen(QPen(axis, 1.5));
-  p.drawLine(r.bottomLeft(), r.topLeft());
-  p.drawLine(r.bottomLeft(), r.bottomRight());
+  QPainter p(this);
+  p.drawPixmap(0, 0, m_grid);
   // The projections of A and B onto the axes make the two score differences visible.
   const QColor colours[2] = {QColor(0, 0, 160), QColor(176, 0, 0)};
   for (int i = 0; i < 2; ++i) {

@@ -3,6 +3,7 @@
 // Qt
 #include <QCursor>
 #include <QFrame>
+#include <QPixmap>
 #include <QPointF>
 
 class QLabel;
@@ -50,6 +51,7 @@ class PcGraphWidget : public QFrame {
  protected:
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   friend class PcPointWidget;
@@ -58,6 +60,9 @@ class PcGraphWidget : public QFrame {
 
   PcPointWidget* m_points[2];
   QPointF m_fractions[2];
+  // The grid and the axes as last drawn: a drag repaints the panel at every step, and only the
+  // projections of A and B move.
+  QPixmap m_grid;
 };
 
 }  // namespace tnw

@@ -52,16 +52,31 @@ QCursor PcPointWidget::loadDragCursor(const QString& hostDir, const QString& ico
 int PcPointWidget::diameter() { return 22; }
 
 void PcPointWidget::paintEvent(QPaintEvent*) {
+  const qreal ratio = devicePixelRatioF();
+  if (m_picture.isNull() || m_picture.devicePixelRatio() != ratio) {
+    m_picture = QPixmap(size() * ratio);
+    m_picture.setDevicePixelRatio(ratio);
+    m_picture.fill(Qt::transparent);
+    QPainter p(&m_picture);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(QPen(palette().color(QPalette::WindowText), 1.2));
+    p.setBrush(m_fill);
+    p.drawEllipse(QRectF(rect()).adjusted(1, 1, -1, -1));
+    QFont f = font();
+    f.setBold(true);
+    p.setFont(f);
+    p.setPen(Qt::white);
+    p.drawText(rect(), Qt::AlignCenter, m_letter);
+  }
   QPainter p(this);
-  p.setRenderHint(QPainter::Antialiasing);
-  p.setPen(QPen(palette().color(QPalette::WindowText), 1.2));
-  p.setBrush(m_fill);
-  p.drawEllipse(QRectF(rect()).adjusted(1, 1, -1, -1));
-  QFont f = font();
-  f.setBold(true);
-  p.setFont(f);
-  p.setPen(Qt::white);
-  p.drawText(rect(), Qt::AlignCenter, m_letter);
+  p.drawPixmap(0, 0, m_picture);
+}
+
+void PcPointWidget::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) {
+    m_picture = QPixmap();
+  }
+  QWidget::changeEvent(event);
 }
 
 void PcPointWidget::mousePressEvent(QMouseEvent* event) {

@@ -2,6 +2,7 @@
 
 // Qt
 #include <QCursor>
+#include <QPixmap>
 #include <QWidget>
 
 namespace tnw {
@@ -34,6 +35,7 @@ class PcPointWidget : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void changeEvent(QEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
@@ -42,6 +44,8 @@ class PcPointWidget : public QWidget {
   PcGraphWidget* m_panel;
   QString m_letter;
   QColor m_fill;
+  // The disc as last drawn: it is copied at every repaint of the panel.
+  QPixmap m_picture;
   QCursor m_dragCursor;
   QPointF m_grabOffset;
   bool m_dragging = false;
