@@ -15,7 +15,8 @@ constexpr qsizetype kMostTexts = 512;
 
 }  // namespace
 
-ItemTextDelegateQt::ItemTextDelegateQt(QObject* parent) : QStyledItemDelegate(parent) {}
+ItemTextDelegateQt::ItemTextDelegateQt(QObject* parent, bool gridLines)
+    : QStyledItemDelegate(parent), m_gridLines(gridLines) {}
 
 const QStaticText& ItemTextDelegateQt::laidOut(const QString& text, const QFont& font) const {
   if (font != m_font || m_texts.size() > kMostTexts) {
@@ -45,9 +46,19 @@ void ItemTextDelegateQt::paint(QPainter* painter, const QStyleOptionViewItem& op
     QStyledItemDelegate::paint(painter, option, index);
     return;
   }
-  // The panel, the selection and the focus frame as the style draws them, without the text.
-  opt.text.clear();
-  style->drawControl(QStyle::CE_ItemViewItem, &opt, painter, widget);
+  if (m_gridLines) {
+    const QColor grid = QColor::fromRgba(
+        static_cast<QRgb>(style->styleHint(QStyle::SH_Table_GridLineColor, &opt, widget)));
+    painter->fillRect(QRect(opt.rect.right(), opt.rect.top(), 1, opt.rect.height()), grid);
+    painter->fillRect(QRect(opt.rect.left(), opt.rect.bottom(), opt.rect.width(), 1), grid);
+  }
+  // The selection, a cell's own background and the focus frame as the style draws them; a plain
+  // item has none of them (the view has drawn the row's background).
+  if ((opt.state & (QStyle::State_Selected | QStyle::State_HasFocus)) ||
+      opt.backgroundBrush.style() != Qt::NoBrush) {
+    opt.text.clear();
+    style->drawControl(QStyle::CE_ItemViewItem, &opt, painter, widget);
+  }
   const QPalette::ColorGroup group = !(opt.state & QStyle::State_Enabled)  ? QPalette::Disabled
                                      : !(opt.state & QStyle::State_Active) ? QPalette::Inactive
                                                                            : QPalette::Normal;

@@ -58,7 +58,8 @@ QIcon chartIcon(int kind) {
 QTableWidget* makeGrid(const char* name, const QStringList& headings, QWidget* parent) {
   auto* grid = new QTableWidget(0, static_cast<int>(headings.size()), parent);
   grid->setObjectName(QString::fromLatin1(name));
-  grid->setItemDelegate(new ItemTextDelegateQt(grid));
+  grid->setItemDelegate(new ItemTextDelegateQt(grid, true));
+  grid->setShowGrid(false);
   grid->setHorizontalHeaderLabels(headings);
   grid->verticalHeader()->setVisible(false);
   grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
