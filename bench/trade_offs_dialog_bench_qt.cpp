@@ -27,6 +27,7 @@
 
 // Std
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <functional>
 #include <memory>
@@ -155,6 +156,18 @@ void runAction(benchmark::State& state, const UserAction& action) {
   state.counters["max_us"] = micros.back();
 }
 
+// Each tab of a tab strip, coming from the other one.
+template <typename Register>
+void registerTabs(const Register& reg, const char* strip, std::function<void(Fixture&)> prepare,
+                  const std::array<const char*, 2>& tabs) {
+  for (int t = 0; t < 2; ++t) {
+    const auto bar = [strip](Fixture& f) { return f.child<QTabBar>(QString::fromLatin1(strip)); };
+    reg((std::string("Tab/") + strip + "/" + tabs[static_cast<std::size_t>(t)]).c_str(),
+        {prepare, [bar, t](Fixture& f, int) { clickTab(bar(f), 1 - t); },
+         [bar, t](Fixture& f, int) { clickTab(bar(f), t); }});
+  }
+}
+
 void registerJudgmentPage() {
   const auto reg = [](const char* name, UserAction a) {
     return benchmark::RegisterBenchmark(name, [a](benchmark::State& s) { runAction(s, a); })
@@ -222,10 +235,7 @@ void registerJudgmentPage() {
          [other](Fixture& f, int) { click(f.child(QString::fromLatin1(other)), QPoint(8, 8)); },
          [mode](Fixture& f, int) { click(f.child(QString::fromLatin1(mode)), QPoint(8, 8)); }});
   }
-  reg("Tab/tsComparisonApproaches",
-      {{}, {}, [](Fixture& f, int i) {
-         clickTab(f.child<QTabBar>(QStringLiteral("tsComparisonApproaches")), 1 - i % 2);
-       }});
+  registerTabs(reg, "tsComparisonApproaches", {}, {"Numerical", "Verbal"});
   // A judgment is recorded first, so that Clear All has a count to restart.
   reg("ClearAll", {{},
                    [](Fixture& f, int) { f.button("cmdTradeOffEnter")->click(); },
@@ -238,9 +248,7 @@ void registerResultsPage() {
         ->Unit(benchmark::kMicrosecond);
   };
   const auto results = [](Fixture& f) { f.showResults(); };
-  reg("Tab/tsTabsW", {results, {}, [](Fixture& f, int i) {
-                        clickTab(f.child<QTabBar>(QStringLiteral("tsTabsW")), 1 - i % 2);
-                      }});
+  registerTabs(reg, "tsTabsW", results, {"WeightEstimates", "RegressionStatus"});
   // Each key of the chart toolbar, coming from another chart.
   const char* keys[3] = {"WeightBars", "HLCa", "HLCb"};
   for (int k = 0; k < 3; ++k) {
