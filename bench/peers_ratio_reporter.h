@@ -45,7 +45,7 @@ class RatioReporter : public benchmark::ConsoleReporter {
     const auto [a, sa] = stat(ours);
     const auto [b, sb] = stat(peer);
     if (a <= 0.0 || b <= 0.0) return;
-    std::printf("%-34s %11.2f us ±%3.0f%% %11.2f us ±%3.0f%%   %6.2f\n", what, a / 1000.0,
+    std::printf("%-34s %11.3f us ±%3.0f%% %11.3f us ±%3.0f%%   %6.2f\n", what, a / 1000.0,
                 50.0 * sa, b / 1000.0, 50.0 * sb, a / b);
   }
 
