@@ -177,6 +177,36 @@ TEST(RegressionPlainSumsTest, TheSweepFromThePivotOnGivesTheFullSweepsInverseExa
   }
 }
 
+TEST(RegressionPlainSumsTest, RepairedZeroPivotsGiveTheFullSweepsInverseExactly) {
+  // Symmetric matrices with zeros on the diagonal; in every other one the first pivot is 0 and
+  // a later row must repair it.
+  std::mt19937 rng(91);
+  std::uniform_int_distribution<int> entry(-4, 4);
+  int invertible = 0;
+  for (int trial = 0; trial < 400; ++trial) {
+    const int k = 2 + trial % 6;
+    Regression reg;
+    RegressionWork& w = reg.work();
+    w.dimension(k + 2, k);
+    for (int i = 1; i <= k; ++i) {
+      for (int j = i; j <= k; ++j) {
+        const double v = i == j && (i + trial) % 2 == 0 ? 0.0 : entry(rng) / 3.0;
+        w.CrossProd(i, j) = v;
+        w.CrossProd(j, i) = v;
+      }
+    }
+    Matrix inverse;
+    const bool inverted = plainInverse(w.CrossProd, k, inverse);
+    ASSERT_EQ(reg.Matrix_Invert(), inverted);
+    if (!inverted) continue;
+    ++invertible;
+    for (int i = 1; i <= k; ++i) {
+      for (int j = 1; j <= k; ++j) ASSERT_EQ(w.InvMatrix(i, j), inverse(i, j));
+    }
+  }
+  EXPECT_GT(invertible, 100);
+}
+
 TEST(RegressionPlainSumsTest, PairJudgmentsFitAsWithThePlainSums) {
   for (int k = 3; k <= 31; ++k) compareWithPlainForms(k, Shape::Pairs, 100u + k);
 }
