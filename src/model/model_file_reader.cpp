@@ -7,9 +7,6 @@
 #include <bit>
 #include <charconv>
 #include <cstring>
-#include <filesystem>
-#include <fstream>
-#include <functional>
 #include <type_traits>
 #include <vector>
 
@@ -74,7 +71,15 @@ class Cursor {
     }
     if (out != nullptr) {
       const auto* first = reinterpret_cast<const char*>(m_bytes.data() + m_pos);
-      *out = windows1252ToUtf8(std::string_view(first, length));
+      const std::string_view text(first, length);
+      // Plain ASCII, the usual case, is the same in UTF-8 and is taken whole.
+      const bool ascii = std::all_of(text.begin(), text.end(),
+                                     [](char ch) { return static_cast<std::uint8_t>(ch) < 0x80; });
+      if (ascii) {
+        out->assign(text);
+      } else {
+        *out = windows1252ToUtf8(text);
+      }
     }
     m_pos += length;
     return true;
@@ -82,6 +87,21 @@ class Cursor {
 
   // A type code and its value; numbers are kept as doubles, Empty and Null as no value.
   bool variant(std::optional<double>* out) {
+    // Empty, Null and Double, the Variants a model file is made of, are read straight through.
+    if (!failed() && m_bytes.size() - m_pos >= 2) {
+      const auto type = load<std::uint16_t>(m_pos);
+      if (type == kVtEmpty || type == kVtNull) {
+        m_pos += 2;
+        if (out != nullptr) out->reset();
+        return true;
+      }
+      if (type == kVtR8 && m_bytes.size() - m_pos >= 10) {
+        const double v = std::bit_cast<double>(load<std::uint64_t>(m_pos + 2));
+        m_pos += 10;
+        if (out != nullptr) *out = v;
+        return true;
+      }
+    }
     const std::size_t start = m_pos;
     std::uint16_t type = 0;
     if (!raw(type)) return false;
@@ -99,13 +119,28 @@ class Cursor {
   bool raw(T& out) {
     if (failed()) return false;
     if (m_bytes.size() - m_pos < sizeof(T)) return fail(ModelReadProblem::Truncated);
-    T v = 0;
-    for (std::size_t i = 0; i < sizeof(T); ++i) {
-      v = static_cast<T>(v | static_cast<T>(static_cast<T>(m_bytes[m_pos + i]) << (8 * i)));
-    }
+    out = load<T>(m_pos);
     m_pos += sizeof(T);
-    out = v;
     return true;
+  }
+
+  // The little-endian T at offset at, which must be in range.
+  template <typename T>
+  T load(std::size_t at) const {
+    T v = 0;
+    std::memcpy(&v, m_bytes.data() + at, sizeof(T));
+    if constexpr (std::endian::native == std::endian::big) v = byteSwapped(v);
+    return v;
+  }
+
+  template <typename T>
+  static T byteSwapped(T v) {
+    T r = 0;
+    for (std::size_t i = 0; i < sizeof(T); ++i) {
+      r = static_cast<T>((r << 8) | static_cast<T>(v & 0xFF));
+      v = static_cast<T>(v >> 8);
+    }
+    return r;
   }
 
   bool variantValue(std::uint16_t type, std::optional<double>& value) {
@@ -253,65 +288,36 @@ ModelReadReport ModelFileReader::read(std::span<const std::uint8_t> bytes, Attri
   Cursor c(bytes);
   ModelReadReport report;
   report.opened = true;
-  const std::function<bool()> blocks[] = {
-      [&] { return readModelHeader(c, model); },
-      [&] { return c.skip(kBlock2Size); },
-      [&] { return readStringsOver(c, kBlock3Strings); },
-      [&] { return readAttributeTexts(c, model); },
-      [&] { return readVariantsOver(c, kBlock5Variants); },
-      [&] { return c.skip(kBlock6Size); },
-      [&] { return readAttributeScales(c, model); },
-      [&] { return readPrevWeights(c, model); },
-  };
-  for (const auto& readBlock : blocks) {
+  // The blocks in file order; report.block counts those begun.
+  const auto begin = [&report] {
     ++report.block;
-    if (!readBlock()) break;
-  }
-  report.complete = !c.failed();
+    return true;
+  };
+  const bool read =
+      begin() && readModelHeader(c, model) && begin() && c.skip(kBlock2Size) && begin() &&
+      readStringsOver(c, kBlock3Strings) && begin() && readAttributeTexts(c, model) && begin() &&
+      readVariantsOver(c, kBlock5Variants) && begin() && c.skip(kBlock6Size) && begin() &&
+      readAttributeScales(c, model) && begin() && readPrevWeights(c, model);
+  report.complete = read && !c.failed();
   report.offset = c.offset();
   report.problem = c.problem();
   return report;
 }
 
-namespace {
-
-// The path as a file-system path: the text is UTF-8, also where the platform's own narrow
-// encoding is not (Windows). Empty when the text cannot be a path.
-std::filesystem::path pathFromUtf8(const std::string& text) {
-  try {
-    return std::filesystem::path(
-        std::u8string(reinterpret_cast<const char8_t*>(text.data()), text.size()));
-  } catch (const std::exception&) {
-    return {};
-  }
-}
-
-// Reads at most kMaxModelFileBytes from the start of the file. Nothing the reader uses can lie
-// beyond them, so a larger file, or an endless one, reads as its model part alone.
-bool readImage(std::ifstream& file, std::vector<std::uint8_t>& bytes) {
-  constexpr std::size_t kChunk = std::size_t{1} << 20;
-  while (bytes.size() < ModelFileReader::kMaxModelFileBytes) {
-    const std::size_t old = bytes.size();
-    const std::size_t want = std::min(kChunk, ModelFileReader::kMaxModelFileBytes - old);
-    bytes.resize(old + want);
-    file.read(reinterpret_cast<char*>(bytes.data() + old), static_cast<std::streamsize>(want));
-    bytes.resize(old + static_cast<std::size_t>(file.gcount()));
-    if (!file) break;
-  }
-  return !file.bad();
-}
-
-}  // namespace
-
 ModelReadReport OpenRelatedFileForTNW(const std::string& PathAndFileName, AttributeModel& model,
                                       UiServices& ui) {
-  std::error_code ec;
-  std::ifstream file;
-  const std::filesystem::path path = pathFromUtf8(PathAndFileName);
-  if (!path.empty() && !std::filesystem::is_directory(path, ec)) {
-    file.open(path, std::ios::binary);
+  ModelFileBytes file;
+  try {
+    file = readModelFileBytes(PathAndFileName, &ui);
+  } catch (const std::exception&) {
+    // Only memory can run out here. Nothing could be read, so the model is left as an empty
+    // read leaves it: every block cleared.
+    ModelReadReport report = ModelFileReader::read({}, model);
+    report.problem = ModelReadProblem::ReadError;
+    ui.setBusy(false);
+    return report;
   }
-  if (!file.is_open()) {
+  if (!file.opened) {
     ui.beep();
     ui.messageBox("There are problems in accessing the relevant data.", MessageIcon::Information,
                   "NORIX");
@@ -320,21 +326,9 @@ ModelReadReport OpenRelatedFileForTNW(const std::string& PathAndFileName, Attrib
     report.problem = ModelReadProblem::CannotOpen;
     return report;
   }
-  ui.setBusy(true);
-  ModelReadReport report;
-  try {
-    std::vector<std::uint8_t> bytes;
-    const bool readWell = readImage(file, bytes);
-    file.close();
-    report = ModelFileReader::read(bytes, model);
-    if (!readWell && report.complete) {
-      report.complete = false;
-      report.problem = ModelReadProblem::ReadError;
-    }
-  } catch (const std::exception&) {
-    // Only memory can run out here. Nothing could be read, so the model is left as an empty
-    // read leaves it: every block cleared.
-    report = ModelFileReader::read({}, model);
+  ModelReadReport report = ModelFileReader::read(file.bytes(), model);
+  if (file.readError && report.complete) {
+    report.complete = false;
     report.problem = ModelReadProblem::ReadError;
   }
   ui.setBusy(false);

@@ -7,10 +7,21 @@
 namespace tnw {
 namespace {
 
+// The points as they are stored, read in place: an Empty Variant counts as 0, as the host
+// language's Variant arithmetic takes it.
+class Points {
+ public:
+  explicit Points(std::span<const std::optional<double>> p) : m_p(p.data()) {}
+  double operator[](std::size_t i) const { return m_p[i].value_or(0.0); }
+
+ private:
+  const std::optional<double>* m_p;
+};
+
 // The interval k (0..N-2) whose ends enclose XEval in the points' own order, the first for
 // scores before the second point and the last for scores from the last point on. The bisection
 // runs over point numbers 1..N and compares XEval with the point before the midpoint.
-int findInterval(const std::array<double, kMaxPoints + 1>& x, int n, double xEval) {
+int findInterval(const Points& x, int n, double xEval) {
   const bool rising = x[static_cast<std::size_t>(n - 1)] >= x[0];
   auto before = [&](int point) {
     const double a = x[static_cast<std::size_t>(point)];
@@ -40,11 +51,10 @@ double akimaSlope(double mA, double mB, double mC, double mD) {
   return (w1 * mB + w2 * mC) / (w1 + w2);
 }
 
-bool allFinite(std::initializer_list<double> values) {
-  return std::all_of(values.begin(), values.end(), [](double v) { return std::isfinite(v); });
+template <typename... T>
+bool allFinite(T... values) {
+  return (std::isfinite(values) && ...);
 }
-
-using Points = std::array<double, kMaxPoints + 1>;
 
 // A cubic p0 + p1 d + p2 d^2 + p3 d^3 in d = score - base.
 struct Cubic {
@@ -80,9 +90,29 @@ std::optional<Cubic> akimaCubic(const Points& x, const Points& y, int n, double 
   const double tRight = akimaSlope(m1, m2, m3, m4);
   const auto ki = static_cast<std::size_t>(k);
   const double h = x[ki + 1] - x[ki];
-  if (!allFinite({m0, m1, m2, m3, m4, tLeft, tRight, h})) return std::nullopt;
+  if (!allFinite(m0, m1, m2, m3, m4, tLeft, tRight, h)) return std::nullopt;
   return Cubic{y[ki], tLeft, (3.0 * m2 - 2.0 * tLeft - tRight) / h,
                (tLeft + tRight - 2.0 * m2) / (h * h), x[ki]};
+}
+
+}  // namespace
+
+namespace {
+
+// The cubic that serves xEval through the first n >= 1 points and its value there, with false
+// where the host language would stop with a run-time error.
+bool interpolate(const Points& x, const Points& y, int n, double xEval, Cubic& c, double& value) {
+  c = Cubic{y[0], 0.0, 0.0, 0.0, x[0]};
+  if (n == 2) {
+    c.p1 = (y[0] - y[1]) / (x[0] - x[1]);
+  } else if (n >= 3) {
+    const std::optional<Cubic> akima = akimaCubic(x, y, n, xEval);
+    if (!akima) return false;
+    c = *akima;
+  }
+  const double d = xEval - c.base;
+  value = c.p0 + c.p1 * d + c.p2 * d * d + c.p3 * d * d * d;
+  return allFinite(c.p0, c.p1, c.p2, c.p3, d, value);
 }
 
 }  // namespace
@@ -94,29 +124,15 @@ std::optional<GnsplValues> gnspl(std::span<const std::optional<double>> X,
   const int available = static_cast<int>(std::min({X.size(), Y.size(), std::size_t{kMaxPoints}}));
   const int n = std::min(N, available);
   if (n < 1) return R;
-  // Local copies with Empty read as 0, as the host language's Variant arithmetic does.
-  Points x{};
-  Points y{};
-  for (int i = 0; i < n; ++i) {
-    x[static_cast<std::size_t>(i)] = X[static_cast<std::size_t>(i)].value_or(0.0);
-    y[static_cast<std::size_t>(i)] = Y[static_cast<std::size_t>(i)].value_or(0.0);
-  }
-  std::optional<Cubic> c = Cubic{y[0], 0.0, 0.0, 0.0, x[0]};
-  if (n == 2) {
-    c->p1 = (y[0] - y[1]) / (x[0] - x[1]);
-  } else if (n >= 3) {
-    c = akimaCubic(x, y, n, XEval);
-    if (!c) return std::nullopt;
-  }
-  const double d = XEval - c->base;
-  const double value = c->p0 + c->p1 * d + c->p2 * d * d + c->p3 * d * d * d;
-  if (!allFinite({c->p0, c->p1, c->p2, c->p3, d, value})) return std::nullopt;
+  Cubic c;
+  double value = 0.0;
+  if (!interpolate(Points(X), Points(Y), n, XEval, c, value)) return std::nullopt;
   R[4] = value;
   if (Flag) {
-    R[0] = c->p0;
-    R[1] = c->p1;
-    R[2] = c->p2;
-    R[3] = c->p3;
+    R[0] = c.p0;
+    R[1] = c.p1;
+    R[2] = c.p2;
+    R[3] = c.p3;
   }
   return R;
 }
@@ -128,11 +144,12 @@ AttValueResult SingleAttValue(const AttributeModel& model, int AttID, double Sco
   const int n = model.NumPoints[att];
   if (n > kMaxPoints) return {std::nullopt, ValueFailure::TooManyPoints};
   if (n < 1) return {std::nullopt, ValueFailure::NoPoints};
-  const auto count = static_cast<std::size_t>(n);
-  const auto R = gnspl(std::span(model.PointScore[att]).first(count),
-                       std::span(model.PointValue[att]).first(count), n, true, Score);
-  if (!R) return {std::nullopt, ValueFailure::NotComputable};
-  double v = (*R)[4].value_or(0.0);
+  // gnspl's value, without its result Variants.
+  Cubic c;
+  double v = 0.0;
+  if (!interpolate(Points(model.PointScore[att]), Points(model.PointValue[att]), n, Score, c, v)) {
+    return {std::nullopt, ValueFailure::NotComputable};
+  }
   if (v > 1.0) {
     v = 1.0;
   } else if (v < 0.0) {

@@ -59,10 +59,14 @@ void Regression::RegressMain(JudgmentStore& store, int numAtt, MultiRegressionDa
   }
   loadObservations(store, numAtt < 0 ? 0 : numAtt);
   RegressionWork& w = m_work;
+  // Column sums row by row: each column is still summed in observation order.
+  std::vector<double> sums(static_cast<std::size_t>(w.K + 1), 0.0);
+  for (int k = 1; k <= w.N; ++k) {
+    const double* x = &w.X(k, 0);
+    for (int j = 1; j <= w.K; ++j) sums[static_cast<std::size_t>(j)] += x[j];
+  }
   for (int j = 1; j <= w.K; ++j) {
-    double sum = 0.0;
-    for (int k = 1; k <= w.N; ++k) sum += w.X(k, j);
-    w.XMean[static_cast<std::size_t>(j)] = sum / w.N;
+    w.XMean[static_cast<std::size_t>(j)] = sums[static_cast<std::size_t>(j)] / w.N;
   }
   double ySum = 0.0;
   for (int k = 1; k <= w.N; ++k) ySum += w.Y[static_cast<std::size_t>(k)];
@@ -106,39 +110,81 @@ void Regression::loadObservations(JudgmentStore& store, int numAtt) {
   m_work.dimension(n, numAtt);
   for (int k = 1; k <= n; ++k) {
     const auto& row = store.ValueDiff[static_cast<std::size_t>(k - 1)];
-    for (int j = 1; j <= numAtt; ++j) {
-      const auto col = static_cast<std::size_t>(j - 1);
-      m_work.X(k, j) = col < row.size() ? row[col] : 0.0;
-    }
+    const std::size_t given = std::min(row.size(), static_cast<std::size_t>(numAtt));
+    std::copy_n(row.begin(), given, &m_work.X(k, 1));
     m_work.Y[static_cast<std::size_t>(k)] = store.PrefResponse[static_cast<std::size_t>(k - 1)];
   }
 }
 
+// One pass over the observations in order. An observation's centred difference on an attribute
+// it leaves at 0 is -XMean(j), the same in every such observation, so an observation adds its
+// products only to the pairs (i, j) where i or j is one of its non-zero attributes; the
+// observations that touch neither add (N - touching) × XMean(i) × XMean(j) at the end. A
+// judgment has two non-zero differences, so the pass costs about 2·N·K products instead of
+// N·K², and each pair still sums the same terms as the plain centred sum.
 void Regression::CalCoeffMatrix() {
   RegressionWork& w = m_work;
-  const auto mean = [&w](int j) { return w.XMean[static_cast<std::size_t>(j)]; };
-  for (int i = 1; i <= w.K; ++i) {
-    for (int j = 1; j <= w.K; ++j) {
-      double sum = 0.0;
-      for (int k = 1; k <= w.N; ++k) sum += (w.X(k, j) - mean(j)) * (w.X(k, i) - mean(i));
-      w.CrossProd(i, j) = sum;
-    }
-    double sum = 0.0;
-    for (int k = 1; k <= w.N; ++k) {
-      sum += (w.X(k, i) - mean(i)) * (w.Y[static_cast<std::size_t>(k)] - w.YMean);
-    }
-    w.CrossProd(i, 0) = sum;
-  }
+  const int k = w.K;
+  const auto att = static_cast<std::size_t>(k + 1);
+  // Row p of part holds the products of the observations where p is non-zero; a pair of two
+  // non-zero attributes goes to the row of the first, so each product is taken once.
+  Matrix part(k + 1, k + 1);
+  std::vector<double> d(att, 0.0);
+  std::vector<int> cols(att, 0);
+  std::vector<int> touchingOne(att, 0);         // observations where i is non-zero
+  std::vector<int> touchingBoth(att * att, 0);  // observations where i and j are non-zero
+  std::vector<double> yTouching(att, 0.0);      // Σ (Y - YMean) over the observations touching i
+  std::vector<double> xy(att, 0.0);             // Σ centred X(i) × (Y - YMean) over the same
+  const double* mean = w.XMean.data();
+  double yTotal = 0.0;
   double total = 0.0;
-  for (int k = 1; k <= w.N; ++k) {
-    const double d = w.Y[static_cast<std::size_t>(k)] - w.YMean;
-    total += d * d;
+  for (int obs = 1; obs <= w.N; ++obs) {
+    const double* x = &w.X(obs, 0);
+    // The non-zero attributes listed without a branch: a judgment's two are at random places.
+    std::size_t count = 0;
+    for (int j = 1; j <= k; ++j) {
+      d[static_cast<std::size_t>(j)] = x[j] - mean[j];
+      cols[count] = j;
+      count += x[j] != 0.0 ? 1 : 0;
+    }
+    const double e = w.Y[static_cast<std::size_t>(obs)] - w.YMean;
+    yTotal += e;
+    total += e * e;
+    for (std::size_t t = 0; t < count; ++t) {
+      const int p = cols[t];
+      const auto pp = static_cast<std::size_t>(p);
+      const double dp = d[pp];
+      yTouching[pp] += e;
+      xy[pp] += dp * e;
+      ++touchingOne[pp];
+      double* row = &part(p, 0);
+      for (int j = 1; j <= k; ++j) row[j] += dp * d[static_cast<std::size_t>(j)];
+      for (std::size_t u = t + 1; u < count; ++u) {
+        ++touchingBoth[pp * att + static_cast<std::size_t>(cols[u])];
+      }
+      d[pp] = 0.0;  // the later non-zero attributes skip the pair with p
+    }
   }
-  w.CrossProd(0, 0) = total;
+  Matrix& c = w.CrossProd;
+  c = Matrix(k + 1, k + 1);
+  for (int i = 1; i <= k; ++i) {
+    const auto ii = static_cast<std::size_t>(i);
+    c(i, i) = part(i, i) + (w.N - touchingOne[ii]) * (mean[i] * mean[i]);
+    for (int j = i + 1; j <= k; ++j) {
+      const auto jj = static_cast<std::size_t>(j);
+      const int rest = w.N - touchingOne[ii] - touchingOne[jj] + touchingBoth[ii * att + jj];
+      c(i, j) = part(i, j) + part(j, i) + rest * (mean[i] * mean[j]);
+      c(j, i) = c(i, j);
+    }
+    c(i, 0) = xy[ii] + (-mean[i]) * (yTotal - yTouching[ii]);
+  }
+  c(0, 0) = total;
 }
 
 // Gauss-Jordan without row exchange: a zero pivot is repaired by adding the first later row
-// that has a non-zero entry in the pivot column. The zero tests are exact on purpose.
+// that has a non-zero entry in the pivot column. The zero tests are exact on purpose. Columns
+// left of the pivot are not read again (neither as factors, nor by a repair's test, nor into
+// InvMatrix), so each step works on the columns from the pivot on only.
 bool Regression::Matrix_Invert() {
   RegressionWork& w = m_work;
   const int k = w.K;
@@ -151,7 +197,7 @@ bool Regression::Matrix_Invert() {
     if (a(r, r) == 0.0) {
       for (int s = r + 1; s <= k; ++s) {
         if (a(s, r) != 0.0) {
-          for (int c = 1; c <= 2 * k; ++c) a(r, c) += a(s, c);
+          for (int c = r; c <= 2 * k; ++c) a(r, c) += a(s, c);
           break;
         }
       }
@@ -161,12 +207,14 @@ bool Regression::Matrix_Invert() {
       w.NoInverse = 1;
       return false;
     }
-    const double factor = 1.0 / a(r, r);
-    for (int c = 1; c <= 2 * k; ++c) a(r, c) *= factor;
+    double* pivotRow = &a(r, 0);
+    const double factor = 1.0 / pivotRow[r];
+    for (int c = r + 1; c <= 2 * k; ++c) pivotRow[c] *= factor;
     for (int i = 1; i <= k; ++i) {
       if (i == r) continue;
-      const double f = a(i, r);
-      for (int c = 1; c <= 2 * k; ++c) a(i, c) -= f * a(r, c);
+      double* row = &a(i, 0);
+      const double f = row[r];
+      for (int c = r + 1; c <= 2 * k; ++c) row[c] -= f * pivotRow[c];
     }
   }
   for (int i = 1; i <= k; ++i) {
@@ -244,9 +292,20 @@ void Regression::LowHighEstimation() {
 
 void Regression::CalModelValues() {
   RegressionWork& w = m_work;
+  std::vector<int> cols(static_cast<std::size_t>(w.K + 1), 0);
   for (int k = 1; k <= w.N; ++k) {
+    // A zero difference adds nothing (the coefficients are finite or the fit is rejected), so
+    // only the non-zero ones are summed, in order; they are listed without a branch.
+    const double* x = &w.X(k, 0);
+    std::size_t count = 0;
+    for (int i = 1; i <= w.K; ++i) {
+      cols[count] = i;
+      count += x[i] != 0.0 ? 1 : 0;
+    }
     double sum = 0.0;
-    for (int i = 1; i <= w.K; ++i) sum += w.Coef[static_cast<std::size_t>(i)] * w.X(k, i);
+    for (std::size_t t = 0; t < count; ++t) {
+      sum += w.Coef[static_cast<std::size_t>(cols[t])] * x[cols[t]];
+    }
     const auto kk = static_cast<std::size_t>(k);
     w.ModelValue[kk] = sum;
     w.Residual[kk] = w.Y[kk] - sum;

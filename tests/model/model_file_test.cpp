@@ -417,16 +417,5 @@ TEST(OpenRelatedFileForTNWTest, APathIsReadAsUtf8) {
       std::u8string(reinterpret_cast<const char8_t*>(path.data()), path.size())));
 }
 
-TEST(OpenRelatedFileForTNWTest, AnEndlessFileIsReadOnlyAsFarAsAModelCanReach) {
-  RecordingUiServices ui;
-  AttributeModel model = variedModel();
-  const ModelReadReport r = OpenRelatedFileForTNW("/dev/zero", model, ui);
-  // Zeros read as empty texts, empty Variants and zero numbers: a complete, empty model.
-  EXPECT_TRUE(r.opened);
-  EXPECT_TRUE(r.complete);
-  EXPECT_EQ(model, AttributeModel{});
-  EXPECT_FALSE(ui.busy());
-}
-
 }  // namespace
 }  // namespace tnw
