@@ -5,7 +5,9 @@
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QSaveFile>
+#ifdef TNW_HAVE_QT_SVG
 #include <QSvgGenerator>
+#endif
 
 namespace tnw {
 
@@ -19,6 +21,7 @@ QImage ChartExportQt::toImage(const ChartWidget::Painter& chart, QSize size) {
   return image;
 }
 
+#ifdef TNW_HAVE_QT_SVG
 bool ChartExportQt::toSvg(const ChartWidget::Painter& chart, const QString& path, QSize size,
                           const QString& title) {
   // The picture is made in memory and then saved in one go: a file that could not be written
@@ -45,6 +48,12 @@ bool ChartExportQt::toSvg(const ChartWidget::Painter& chart, const QString& path
   }
   return file.commit();
 }
+#else
+// A Qt without its Svg module writes no SVG.
+bool ChartExportQt::toSvg(const ChartWidget::Painter&, const QString&, QSize, const QString&) {
+  return false;
+}
+#endif
 
 void ChartExportQt::toPage(const ChartWidget::Painter& chart, QPagedPaintDevice& device) {
   QPainter p(&device);

@@ -18,7 +18,8 @@ class ChartExportQt {
   // The chart drawn into a white image of the given size.
   static QImage toImage(const ChartWidget::Painter& chart, QSize size);
   // Writes the chart as an SVG file of the given size in pixels, replacing a file at the path;
-  // false, and any old file left as it was, when the new one cannot be written whole.
+  // false, and any old file left as it was, when the new one cannot be written whole (always
+  // with a Qt built without its Svg module).
   static bool toSvg(const ChartWidget::Painter& chart, const QString& path, QSize size,
                     const QString& title);
   // Draws the chart over the whole page of a printer or PDF writer.

@@ -12,8 +12,8 @@ namespace tnw {
 class MessageWindow;
 
 // What the automation server builds each component object from: the dialogs, the UI services
-// and the reader of the host's model file. The DLL is linked with one backend: the Qt dialogs
-// where a Windows Qt is available, the scripted dialogs of the test build otherwise.
+// and the reader of the host's model file. TNWizard_MAVT.dll is linked with the Qt dialogs, the
+// test server TNWizard_MAVT_Test.dll with scripted ones.
 class DialogBackend {
  public:
   virtual ~DialogBackend() = default;

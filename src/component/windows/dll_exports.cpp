@@ -1,5 +1,5 @@
-// The four entry points of an in-process COM server, and DllMain. Each is a boundary that no C++
-// exception may cross.
+// The entry points of an in-process COM server (with DllInstall for per-user registration), and
+// DllMain. Each is a boundary that no C++ exception may cross.
 #include "component/windows/class_factory.h"
 #include "component/windows/com_boundary.h"
 #include "component/windows/server_module.h"
@@ -35,4 +35,8 @@ extern "C" HRESULT STDAPICALLTYPE DllRegisterServer() {
 
 extern "C" HRESULT STDAPICALLTYPE DllUnregisterServer() {
   return tnw::ServerRegistration::unregisterServer();
+}
+
+extern "C" HRESULT STDAPICALLTYPE DllInstall(BOOL install, LPCWSTR commandLine) {
+  return tnw::ServerRegistration::install(install != FALSE, commandLine);
 }

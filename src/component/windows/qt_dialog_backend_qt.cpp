@@ -9,6 +9,15 @@
 // Qt
 #include <QFileInfo>
 #include <QString>
+#include <QtPlugin>
+
+// A static Qt has its plugins inside this DLL; they are registered here.
+#ifdef QT_STATIC
+Q_IMPORT_PLUGIN(QWindowsIntegrationPlugin)
+#ifdef TNW_IMPORT_VISTA_STYLE
+Q_IMPORT_PLUGIN(QWindowsVistaStylePlugin)
+#endif
+#endif
 
 // Windows
 #include <windows.h>

@@ -148,7 +148,7 @@ class EventSink final : public IDispatch {
 
 HRESULT canUnloadNow() {
   using Entry = HRESULT(STDAPICALLTYPE*)();
-  HMODULE module = GetModuleHandleW(L"TNWizard_MAVT.dll");
+  HMODULE module = GetModuleHandleW(L"TNWizard_MAVT_Test.dll");
   if (!module) return E_FAIL;
   auto entry =
       reinterpret_cast<Entry>(reinterpret_cast<void*>(GetProcAddress(module, "DllCanUnloadNow")));
@@ -301,7 +301,7 @@ ComPtr<_TNW_MAVT> createWizard(const std::wstring& dir, const std::wstring& scen
 
 void checkFactory() {
   using Entry = HRESULT(STDAPICALLTYPE*)(REFCLSID, REFIID, void**);
-  HMODULE module = GetModuleHandleW(L"TNWizard_MAVT.dll");
+  HMODULE module = GetModuleHandleW(L"TNWizard_MAVT_Test.dll");
   auto entry =
       reinterpret_cast<Entry>(reinterpret_cast<void*>(GetProcAddress(module, "DllGetClassObject")));
   ComPtr<IClassFactory> factory;

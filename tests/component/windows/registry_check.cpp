@@ -1,6 +1,8 @@
 // tnw_registry_check: prints every registry entry of the server (present with its values, or
 // absent) in a fixed text form that the conformance test compares before and after
 // registration. The server's path is printed as its file name and whether that file exists.
+// With the argument "user" it reads the current user's classes (HKCU\Software\Classes), where
+// regsvr32 /n /i:user registers, instead of HKEY_CLASSES_ROOT.
 #include "component/windows/tnwizard_mavt_h.h"
 
 // Windows
@@ -36,10 +38,18 @@ std::string describeValue(const std::wstring& key, const std::wstring& name,
   return "\"" + narrow(file) + "\"" + (exists ? " (file exists)" : " (file missing)");
 }
 
-void printKey(const std::wstring& path) {
+// Where the keys are read: the root key, the key under it and the name printed for both.
+struct Classes {
+  HKEY root;
+  std::wstring prefix;
+  std::string name;
+};
+
+void printKey(const Classes& classes, const std::wstring& path) {
   HKEY key = nullptr;
-  if (RegOpenKeyExW(HKEY_CLASSES_ROOT, path.c_str(), 0, KEY_READ, &key) != ERROR_SUCCESS) {
-    std::printf("HKCR\\%s: absent\n", narrow(path).c_str());
+  if (RegOpenKeyExW(classes.root, (classes.prefix + path).c_str(), 0, KEY_READ, &key) !=
+      ERROR_SUCCESS) {
+    std::printf("%s\\%s: absent\n", classes.name.c_str(), narrow(path).c_str());
     return;
   }
   std::vector<std::string> values;
@@ -61,7 +71,7 @@ void printKey(const std::wstring& path) {
   }
   RegCloseKey(key);
   std::sort(values.begin(), values.end());
-  std::string line = "HKCR\\" + narrow(path) + ":";
+  std::string line = classes.name + "\\" + narrow(path) + ":";
   if (values.empty()) line += " present";
   for (const std::string& value : values) line += " " + value;
   std::printf("%s\n", line.c_str());
@@ -69,7 +79,11 @@ void printKey(const std::wstring& path) {
 
 }  // namespace
 
-int main() {
+int main(int argc, char** argv) {
+  const bool user = argc > 1 && std::string(argv[1]) == "user";
+  const Classes classes =
+      user ? Classes{HKEY_CURRENT_USER, L"Software\\Classes\\", "HKCU\\Software\\Classes"}
+           : Classes{HKEY_CLASSES_ROOT, L"", "HKCR"};
   const std::wstring clsid = L"CLSID\\" + guidText(CLSID_TNW_MAVT);
   const std::wstring typeLib = L"TypeLib\\" + guidText(LIBID_TNWizard_MAVT);
   const std::wstring keys[] = {
@@ -89,6 +103,6 @@ int main() {
       L"Interface\\" + guidText(DIID___TNW_MAVT),
       L"Interface\\" + guidText(DIID___TNW_MAVT) + L"\\TypeLib",
   };
-  for (const std::wstring& key : keys) printKey(key);
+  for (const std::wstring& key : keys) printKey(classes, key);
   return 0;
 }

@@ -99,7 +99,7 @@ End Sub
 Sub ReleaseAndCheckUnload()
   WScript.DisconnectObject o
   Set o = Nothing
-  WScript.Echo "DllCanUnloadNow " & Host.DllCanUnloadNow("TNWizard_MAVT.dll")
+  WScript.Echo "DllCanUnloadNow " & Host.DllCanUnloadNow("TNWizard_MAVT_Test.dll")
 End Sub
 
 ' ---- scenario

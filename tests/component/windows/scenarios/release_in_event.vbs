@@ -6,4 +6,4 @@ o.GetCurFileData dir, 6, dir & "\three_cars.mod"
 o.ShowTNWizard
 WaitForUnload
 WScript.Sleep 50
-WScript.Echo "DllCanUnloadNow " & Host.DllCanUnloadNow("TNWizard_MAVT.dll")
+WScript.Echo "DllCanUnloadNow " & Host.DllCanUnloadNow("TNWizard_MAVT_Test.dll")

@@ -1,4 +1,4 @@
-#include "component/windows/scripted_ui_services.h"
+#include "scripted/scripted_ui_services.h"
 
 #include "common/win_help.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/ui_services.h"
-#include "component/windows/scripted_trace.h"
+#include "scripted/scripted_trace.h"
 
 namespace tnw {
 

@@ -25,7 +25,7 @@ class ScriptedDialogFactory : public WizardDialogFactory {
   // Destroys the dialogs released and not destroyed yet.
   ~ScriptedDialogFactory() override;
 
-  // A new, loaded frmTNWSelMethod.
+  // A new, loaded frmTNWSelMethod; throws std::runtime_error when no scenario is given.
   std::unique_ptr<WizardDialog> createSelMethod(WizardContext& context,
                                                 SelMethodEvents& events) override;
   // A new frmDirectA.

@@ -1,7 +1,7 @@
-#include "component/windows/scripted_sel_method_dialog.h"
+#include "scripted/scripted_sel_method_dialog.h"
 
-#include "component/windows/scripted_dialogs.h"
-#include "component/windows/scripted_scenario.h"
+#include "scripted/scripted_dialogs.h"
+#include "scripted/scripted_scenario.h"
 
 // Std
 #include <utility>

@@ -17,12 +17,15 @@ class ScriptedTrace;
 //    "tradeOffs": [run, ...]}
 // The selection dialog takes the next "selMethod" entry each time it is shown; each direct or
 // trade-off dialog made takes the next run of its list. A dialog with nothing left waits, as a
-// user who does nothing.
+// user who does nothing. Without TNW_SCRIPTED_SCENARIO there is no scenario at all, and the
+// wizard is not shown.
 class ScriptedScenario {
  public:
   // Reads the scenario; a missing or unreadable file gives an empty one (traced).
   explicit ScriptedScenario(const ScriptedTrace& trace);
 
+  // Whether TNW_SCRIPTED_SCENARIO names a scenario.
+  bool given() const { return m_given; }
   // The selection dialog's next action; empty when none is left.
   std::string nextSelMethodAction();
   // The next direct-method run; null when none is left.
@@ -31,6 +34,7 @@ class ScriptedScenario {
   nlohmann::json nextTradeOffsRun();
 
  private:
+  bool m_given = false;
   std::deque<std::string> m_selMethod;
   std::deque<nlohmann::json> m_direct;
   std::deque<nlohmann::json> m_tradeOffs;

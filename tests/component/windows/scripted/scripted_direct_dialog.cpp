@@ -1,7 +1,7 @@
-#include "component/windows/scripted_direct_dialog.h"
+#include "scripted/scripted_direct_dialog.h"
 
-#include "component/windows/scripted_dialogs.h"
-#include "component/windows/scripted_scenario.h"
+#include "scripted/scripted_dialogs.h"
+#include "scripted/scripted_scenario.h"
 
 // Std
 #include <cstdio>

@@ -1,12 +1,13 @@
-#include "component/windows/scripted_dialog_factory.h"
+#include "scripted/scripted_dialog_factory.h"
 
 #include "component/windows/message_window.h"
-#include "component/windows/scripted_dialog.h"
-#include "component/windows/scripted_dialogs.h"
-#include "component/windows/scripted_scenario.h"
-#include "component/windows/scripted_trace.h"
+#include "scripted/scripted_dialog.h"
+#include "scripted/scripted_dialogs.h"
+#include "scripted/scripted_scenario.h"
+#include "scripted/scripted_trace.h"
 
 // Std
+#include <stdexcept>
 #include <utility>
 
 namespace tnw {
@@ -23,6 +24,9 @@ ScriptedDialogFactory::~ScriptedDialogFactory() { destroyReleased(); }
 
 std::unique_ptr<WizardDialog> ScriptedDialogFactory::createSelMethod(WizardContext& context,
                                                                      SelMethodEvents& events) {
+  // A selection dialog with nothing to play would wait for ever; the host gets an error instead.
+  if (!m_scenario.given())
+    throw std::runtime_error("No scenario: TNW_SCRIPTED_SCENARIO names none, so nothing is shown.");
   reserveRelease();
   return makeScriptedSelMethodDialog(nextName("frmTNWSelMethod"), context, events, m_ui, m_scenario,
                                      m_window, m_trace);

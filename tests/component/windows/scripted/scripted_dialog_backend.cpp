@@ -1,4 +1,4 @@
-#include "component/windows/scripted_dialog_backend.h"
+#include "scripted/scripted_dialog_backend.h"
 
 #include "model/model_file_reader.h"
 

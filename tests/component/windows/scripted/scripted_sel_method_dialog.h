@@ -1,6 +1,6 @@
 #pragma once
 
-#include "component/windows/scripted_dialog.h"
+#include "scripted/scripted_dialog.h"
 #include "selmethod/sel_method_presenter.h"
 
 namespace tnw {

@@ -1,4 +1,4 @@
-#include "component/windows/scripted_trace.h"
+#include "scripted/scripted_trace.h"
 
 // Windows
 #include <windows.h>

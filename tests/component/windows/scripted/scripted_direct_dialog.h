@@ -1,7 +1,7 @@
 #pragma once
 
-#include "component/windows/scripted_dialog.h"
 #include "direct/direct_a_presenter.h"
+#include "scripted/scripted_dialog.h"
 
 // nlohmann
 #include <nlohmann/json.hpp>

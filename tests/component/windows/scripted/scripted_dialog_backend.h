@@ -1,10 +1,10 @@
 #pragma once
 
 #include "component/windows/dialog_backend.h"
-#include "component/windows/scripted_dialog_factory.h"
-#include "component/windows/scripted_scenario.h"
-#include "component/windows/scripted_trace.h"
-#include "component/windows/scripted_ui_services.h"
+#include "scripted/scripted_dialog_factory.h"
+#include "scripted/scripted_scenario.h"
+#include "scripted/scripted_trace.h"
+#include "scripted/scripted_ui_services.h"
 
 namespace tnw {
 

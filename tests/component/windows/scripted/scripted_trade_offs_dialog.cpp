@@ -1,9 +1,9 @@
-#include "component/windows/scripted_trade_offs_dialog.h"
+#include "scripted/scripted_trade_offs_dialog.h"
 
 #include "common/number_format.h"
-#include "component/windows/scripted_dialogs.h"
-#include "component/windows/scripted_scenario.h"
 #include "component/wizard_context.h"
+#include "scripted/scripted_dialogs.h"
+#include "scripted/scripted_scenario.h"
 #include "tradeoffs/trade_offs_a_events.h"
 
 // Std

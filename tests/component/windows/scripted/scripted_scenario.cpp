@@ -1,6 +1,6 @@
-#include "component/windows/scripted_scenario.h"
+#include "scripted/scripted_scenario.h"
 
-#include "component/windows/scripted_trace.h"
+#include "scripted/scripted_trace.h"
 
 // Windows
 #include <windows.h>
@@ -8,6 +8,12 @@
 namespace tnw {
 
 namespace {
+
+bool scenarioGiven() {
+  wchar_t path[MAX_PATH] = {};
+  const DWORD length = GetEnvironmentVariableW(L"TNW_SCRIPTED_SCENARIO", path, MAX_PATH);
+  return length > 0 && length < MAX_PATH;
+}
 
 std::string readScenarioFile(const ScriptedTrace& trace) {
   wchar_t path[MAX_PATH] = {};
@@ -30,7 +36,7 @@ std::string readScenarioFile(const ScriptedTrace& trace) {
 
 }  // namespace
 
-ScriptedScenario::ScriptedScenario(const ScriptedTrace& trace) {
+ScriptedScenario::ScriptedScenario(const ScriptedTrace& trace) : m_given(scenarioGiven()) {
   const std::string text = readScenarioFile(trace);
   if (text.empty()) return;
   try {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "component/windows/scripted_dialog.h"
+#include "scripted/scripted_dialog.h"
 #include "tradeoffs/clock_random_source.h"
 #include "tradeoffs/trade_offs_a_events.h"
 #include "tradeoffs/trade_offs_a_presenter.h"

@@ -1,7 +1,7 @@
-#include "component/windows/scripted_dialog.h"
+#include "scripted/scripted_dialog.h"
 
 #include "component/windows/message_window.h"
-#include "component/windows/scripted_trace.h"
+#include "scripted/scripted_trace.h"
 
 // Std
 #include <utility>
