@@ -148,6 +148,8 @@ HRESULT VariantChangeType(VARIANTARG* target, const VARIANTARG* source, USHORT f
 
 // A one-dimensional array of count elements of type from index lower; null for an unsupported type.
 SAFEARRAY* SafeArrayCreateVector(VARTYPE type, LONG lower, ULONG count);
+// A deep copy of source in *target.
+HRESULT SafeArrayCopy(SAFEARRAY* source, SAFEARRAY** target);
 // Frees array and what its elements own.
 HRESULT SafeArrayDestroy(SAFEARRAY* array);
 // Locks array and gives its elements.
