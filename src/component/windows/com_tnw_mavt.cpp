@@ -163,23 +163,16 @@ HRESULT STDMETHODCALLTYPE ComTnwMavt::ShowTNWizard() {
 HRESULT STDMETHODCALLTYPE ComTnwMavt::GetCurFileData(VARIANT* NorixDir, short FileIndex,
                                                      BSTR PathAndFileName) {
   return guarded([&]() -> HRESULT {
-    if (!NorixDir) return fail(E_POINTER, L"NorixDir is missing.");
-    std::string dir;
-    HRESULT hr = variantToText(*NorixDir, dir);
-    if (FAILED(hr)) return fail(DISP_E_TYPEMISMATCH, L"Type mismatch: NorixDir is not a text.");
-    const std::string before = dir;
-    m_component->GetCurFileData(dir, std::int16_t(FileIndex), fromBstr(PathAndFileName));
-    if (dir != before) {
-      VARIANT changed;
-      VariantInit(&changed);
-      V_VT(&changed) = VT_BSTR;
-      V_BSTR(&changed) = toBstr(dir);
-      if (!V_BSTR(&changed)) return fail(E_OUTOFMEMORY, L"Out of memory.");
-      VARIANT* target =
-          V_VT(NorixDir) == (VT_BYREF | VT_VARIANT) ? V_VARIANTREF(NorixDir) : NorixDir;
-      VariantClear(target);
-      *target = changed;
-    }
+    CurFileDataArgs args;
+    const wchar_t* problem = nullptr;
+    const HRESULT hr = readCurFileDataArgs(NorixDir, FileIndex, PathAndFileName, args, problem);
+    if (FAILED(hr)) return fail(hr, problem);
+    const std::string before = args.NorixDir;
+    m_component->GetCurFileData(args.NorixDir, args.FileIndex, args.PathAndFileName);
+    if (args.NorixDir == before) return S_OK;
+    const HRESULT written = setVariantText(*NorixDir, args.NorixDir);
+    if (written == E_OUTOFMEMORY) return fail(written, L"Out of memory.");
+    if (FAILED(written)) return fail(written, L"NorixDir cannot be changed.");
     return S_OK;
   });
 }
