@@ -4,7 +4,7 @@
 //   tnw_sample_writer INPUT.json OUTPUT [EMBED.cpp]
 
 #include "model/model_file_writer.h"
-#include "model_json.h"
+#include "model_json/model_json.h"
 
 // Std
 #include <cstdio>

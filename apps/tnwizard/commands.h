@@ -1,6 +1,7 @@
 #pragma once
 
 // Std
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -24,3 +25,8 @@ int runTradeOffs(const std::vector<std::string>& args);
 
 // Exit status when a model file cannot be opened.
 inline constexpr int kExitCannotOpen = 2;
+
+// Reads the JSON input file at path, at most maxBytes: 0 when it was read into text, else the
+// exit status after the message was printed (2 and the host's message when it is missing or not
+// a regular file, 1 and a located message when it is too large).
+int readJsonInputFile(const std::string& path, std::size_t maxBytes, std::string& text);

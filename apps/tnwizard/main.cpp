@@ -1,6 +1,7 @@
 // The tnwizard command line: a host for the wizard and headless tools over the same code.
 
 #include "commands.h"
+#include "model_json/json_input.h"
 
 // Std
 #include <cstdio>
@@ -29,10 +30,7 @@ constexpr Command kCommands[] = {
 #ifdef TNW_WITH_SHOW
     {"show", runShow},
 #endif
-    {"model", runModel},
-    {"value", runValue},
-    {"direct", runDirect},
-    {"tradeoffs", runTradeOffs},
+    {"model", runModel}, {"value", runValue}, {"direct", runDirect}, {"tradeoffs", runTradeOffs},
 };
 
 }  // namespace
@@ -40,6 +38,22 @@ constexpr Command kCommands[] = {
 int tnwUsage() {
   std::fputs(kUsage, stderr);
   return 1;
+}
+
+int readJsonInputFile(const std::string& path, std::size_t maxBytes, std::string& text) {
+  switch (tnw::readInputFile(path, maxBytes, text)) {
+    case tnw::InputFileStatus::Read:
+      return 0;
+    case tnw::InputFileStatus::TooLarge:
+      std::fprintf(stderr, "%s\n",
+                   tnw::inputErrorLine(
+                       path, {"the file", "larger than " + std::to_string(maxBytes) + " bytes"})
+                       .c_str());
+      return 1;
+    default:
+      std::fputs("There are problems in accessing the relevant data.\n", stderr);
+      return kExitCannotOpen;
+  }
 }
 
 int main(int argc, char** argv) {

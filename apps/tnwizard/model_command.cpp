@@ -4,12 +4,10 @@
 #include "console_ui_services.h"
 #include "model/model_file_reader.h"
 #include "model/model_file_writer.h"
-#include "model_json.h"
+#include "model_json/model_json.h"
 
 // Std
 #include <cstdio>
-#include <filesystem>
-#include <fstream>
 #include <iostream>
 
 namespace {
@@ -39,18 +37,13 @@ int make(const std::vector<std::string>& args) {
     }
   }
   if (input.empty() || output.empty()) return tnwUsage();
-  std::error_code ec;
-  std::ifstream in;
-  if (!std::filesystem::is_directory(input, ec)) in.open(input);
-  if (!in.is_open()) {
-    std::fprintf(stderr, "%s\n", kCannotAccess);
-    return kExitCannotOpen;
+  std::string text;
+  if (const int status = readJsonInputFile(input, tnw::kModelJsonLimits.maxBytes, text)) {
+    return status;
   }
   tnw::AttributeModel model;
-  try {
-    model = tnw::modelFromJson(nlohmann::json::parse(in));
-  } catch (const std::exception& e) {
-    std::fprintf(stderr, "tnwizard: %s: %s\n", input.c_str(), e.what());
+  if (const auto error = tnw::modelFromJsonText(text, model)) {
+    std::fprintf(stderr, "%s\n", tnw::inputErrorLine(input, *error).c_str());
     return 1;
   }
   if (!tnw::ModelFileWriter::writeFile(model, output)) {

@@ -2,17 +2,9 @@
 
 #include "direct/attribute_texts.h"
 #include "direct/previous_judgments.h"
+#include "model/model_check.h"
 
 namespace tnw {
-
-namespace {
-
-std::string unusableModelMessage(int numAtt) {
-  return "The current model has " + std::to_string(numAtt) +
-         " attributes. The wizard can only weigh from 1 to 31 attributes.";
-}
-
-}  // namespace
 
 DirectAPresenter::DirectAPresenter(WizardContext& context, UiServices& ui, DirectAEvents& events)
     : m_context(context),
@@ -67,14 +59,13 @@ void DirectAPresenter::setStep(int step, bool withCaption) {
 void DirectAPresenter::Form_Load() {
   m_controls.setEnabled("cmdNext", false);
   m_controls.setEnabled("cmdFinish", false);
-  const int numAtt = m_context.model.NumAtt;
   m_usable = usableCount(m_context) > 0;
   m_ordering.IniAttList();
   m_ordering.IniOrderList();
   if (!m_usable) {
     m_controls.setEnabled("cmdAdd", false);
     m_controls.setEnabled("cmdInsert", false);
-    m_shared.warn(unusableModelMessage(numAtt));
+    m_shared.warn(attributeCountProblem(m_context.model).value_or(""));
   } else if (PreviousJudgments::hasPreviousResult(m_context.model)) {
     WeightRatioJudgments judgments(m_context);
     PreviousJudgments::Order order;

@@ -23,6 +23,11 @@ class RatioBoundCheck {
   // The value of a box: the leading number of its trimmed text, 0 where there is none
   // or where it would not be finite.
   static double boxValue(std::string_view text);
+  // Whether the box's leading number is too large for a double (boxValue then reads 0).
+  static bool beyondRange(std::string_view text);
+  // The message for a box whose number is too large.
+  static constexpr const char* kTooLarge =
+      "The weight ratio you entered is too large to be a number the wizard can use!";
 };
 
 }  // namespace tnw

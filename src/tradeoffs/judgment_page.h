@@ -84,6 +84,8 @@ class JudgmentPage {
   void cmdTradeOffClearAll_Click();
   // Re-enables Enter (Back from the results page).
   void enableEnter() { m_controls.cmdTradeOffEnter.enabled = true; }
+  // Disables Enter, for a model the method cannot weigh.
+  void disableEnter() { m_controls.cmdTradeOffEnter.enabled = false; }
 
   // Draws A and B for the pair and fills the four boxes.
   void DisplayScoresInTxtBox(int first, int second);

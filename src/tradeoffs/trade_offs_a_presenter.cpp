@@ -2,6 +2,7 @@
 
 #include "common/ui_services.h"
 #include "component/wizard_context.h"
+#include "model/model_check.h"
 #include "tradeoffs/trade_offs_a_events.h"
 
 namespace tnw {
@@ -31,6 +32,17 @@ void TradeOffsAPresenter::Form_Load() {
   m_judgment.reset();
   m_instruction.caption = JudgmentPage::kInstruction;
   m_events.SendMasseges(JudgmentPage::kInstruction);
+  // Every judgment evaluates value functions, and the fit weighs every attribute: a model with
+  // too many attributes or a value function that cannot be evaluated ends the method here, with
+  // its message, before any judgment, and nothing can be exported.
+  m_modelProblem = valueModelProblem(m_context.model);
+  if (m_modelProblem) {
+    m_fitError = m_modelProblem;
+    m_judgment.disableEnter();
+    m_cmdNext.enabled = false;
+    m_cmdFinish.enabled = false;
+    warn(*m_modelProblem);
+  }
   changed();
 }
 
@@ -40,7 +52,7 @@ void TradeOffsAPresenter::warn(const std::string& text) {
 }
 
 void TradeOffsAPresenter::cmdNext_Click() {
-  if (m_step != 1 || !m_cmdNext.enabled) return;
+  if (m_step != 1 || !m_cmdNext.enabled || m_modelProblem) return;
   m_step = 2;
   m_cmdFinish.enabled = true;
   m_cmdNext.enabled = false;
@@ -81,7 +93,7 @@ void TradeOffsAPresenter::cmdBack_Click() {
 }
 
 void TradeOffsAPresenter::cmdFinish_Click() {
-  if (!m_cmdFinish.enabled) return;
+  if (!m_cmdFinish.enabled || m_modelProblem) return;
   if (m_fitError) {
     // The fit could not be completed: nothing is handed to the host.
     warn(*m_fitError);
@@ -164,12 +176,14 @@ void TradeOffsAPresenter::optPCVerbal_Click(int index) {
 }
 
 void TradeOffsAPresenter::cmdTradeOffEnter_Click() {
+  if (m_modelProblem) return;
   m_judgment.cmdTradeOffEnter_Click();
   changed();
 }
 
 void TradeOffsAPresenter::cmdTradeOffClearAll_Click() {
   m_judgment.cmdTradeOffClearAll_Click();
+  if (m_modelProblem) m_judgment.disableEnter();
   changed();
 }
 

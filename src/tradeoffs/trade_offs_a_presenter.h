@@ -62,6 +62,9 @@ class TradeOffsAPresenter {
   const Regression& regression() const { return m_regression; }
   const MultiRegressionData& record() const { return m_record; }
   const std::optional<std::string>& fitError() const { return m_fitError; }
+  // Why the method cannot weigh the model (too many attributes, a value function that cannot be
+  // evaluated), found on loading; nothing while it can.
+  const std::optional<std::string>& modelProblem() const { return m_modelProblem; }
 
   // Wizard buttons.
   void cmdNext_Click();
@@ -102,6 +105,7 @@ class TradeOffsAPresenter {
   Regression m_regression;
   MultiRegressionData m_record;
   std::optional<std::string> m_fitError;
+  std::optional<std::string> m_modelProblem;
   std::function<void()> m_changed;
   int m_step = 1;
   int m_tabW = 1;

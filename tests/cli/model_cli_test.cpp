@@ -182,7 +182,7 @@ TEST(ModelCliTest, MalformedJsonIsAUsageErrorNamingTheField) {
   const std::string input = tempFile("tnw-cli-bad.json");
   const std::string model = tempFile("tnw-cli-bad.nrx");
   const std::pair<const char*, const char*> cases[] = {
-      {"{not json", "parse"},
+      {"{not json", "line 1, column 3: not valid JSON at 'o'"},
       {R"({"numAtt": "two"})", "model.numAtt: expected an integer"},
       {R"({"numAtt": 40000})", "model.numAtt: outside -32768..32767"},
       {R"({"numAtt": 18446744073709551615})", "model.numAtt: outside -32768..32767"},

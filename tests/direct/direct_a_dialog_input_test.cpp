@@ -44,6 +44,7 @@ class DirectADialogInputTest : public QObject {
   void aModelWithoutUsableAttributesStillCancels();
   void noTextIsClippedOnAnyStep();
   void resumesFromTheSampleWithAnEarlierResult();
+  void aZeroEarlierReferenceWeightIsToldAndNothingIsResumedOrExported();
 
  private:
   void open(WizardContext context);
@@ -317,6 +318,10 @@ void DirectADialogInputTest::aModelWithoutUsableAttributesStillCancels() {
     WizardContext context = test::makeContext(0);
     context.model.NumAtt = static_cast<std::int16_t>(numAtt);
     open(std::move(context));
+    QVERIFY(!m_ui.messages().empty());
+    QCOMPARE(m_ui.messages().back().text,
+             "The current model has " + std::to_string(numAtt) +
+                 " attributes. The wizard can only weigh from 1 to 31 attributes.");
     QVERIFY(!button("cmdNext")->isEnabled());
     QVERIFY(m_dialog->findChildren<AttributeButtonWidget*>(QStringLiteral("cmdAttA")).isEmpty());
     QTest::mouseClick(button("cmdCancel"), Qt::LeftButton);
@@ -392,6 +397,27 @@ void DirectADialogInputTest::resumesFromTheSampleWithAnEarlierResult() {
   // The earlier intervals against the reference: 0.22 / 0.20 low, 0.30 / 0.26 high.
   QCOMPARE(m_context.LowerWeights[0], 0.22 / 0.2);
   QCOMPARE(m_context.UpperWeights[0], 0.3 / 0.26);
+}
+
+void DirectADialogInputTest::aZeroEarlierReferenceWeightIsToldAndNothingIsResumedOrExported() {
+  WizardContext context = test::makeContext(3);
+  context.model.PrevTNType = "MAVT_DIRECT";
+  context.model.PrevRefAtt = 1.0;
+  context.model.PrevWeight = {0.5, 0.0, 0.5};
+  context.model.PrevWeightL = {0.5, 0.0, 0.5};
+  context.model.PrevWeightH = {0.5, 0.0, 0.5};
+  open(std::move(context));
+  QVERIFY(!m_ui.messages().empty());
+  QCOMPARE(m_ui.messages().back().text,
+           std::string("The earlier weights cannot be resumed: the earlier weight of the "
+                       "reference attribute is zero. The judgments start afresh."));
+  // Nothing was placed from the earlier result: Next and Finish stay disabled.
+  QVERIFY(!button("cmdNext")->isEnabled());
+  QVERIFY(!button("cmdFinish")->isEnabled());
+  QTest::mouseClick(button("cmdNext"), Qt::LeftButton);
+  QTest::mouseClick(button("cmdFinish"), Qt::LeftButton);
+  QCOMPARE(m_dialog->presenter().WizardStep(), 0);
+  QVERIFY(m_events.exports.empty());
 }
 
 }  // namespace tnw

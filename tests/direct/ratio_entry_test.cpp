@@ -106,5 +106,25 @@ TEST(RatioBoundCheckTest, BoxesAreReadByTheirLeadingNumber) {
   EXPECT_EQ(RatioBoundCheck::boxValue(std::string(400, '9')), 0.0);
 }
 
+TEST(RatioBoundCheckTest, ARatioTooLargeForANumberIsToldAsSuchInEitherBox) {
+  const std::string huge(401, '1');
+  EXPECT_TRUE(RatioBoundCheck::beyondRange(huge));
+  EXPECT_TRUE(RatioBoundCheck::beyondRange(" 2e400 "));
+  EXPECT_FALSE(RatioBoundCheck::beyondRange("2e-400"));
+  EXPECT_FALSE(RatioBoundCheck::beyondRange(std::string(401, '0')));
+  EXPECT_FALSE(RatioBoundCheck::beyondRange("1e300"));
+  EXPECT_FALSE(RatioBoundCheck::beyondRange(""));
+  const std::string tooLarge =
+      "The weight ratio you entered is too large to be a number the wizard can use!";
+  // The upper box holds the huge number: the lower box is not held to it, the upper box says why.
+  EXPECT_TRUE(RatioBoundCheck::CheckLowerWeightRatio("1", huge).ok);
+  const auto upper = RatioBoundCheck::CheckUpperWeightRatio("1", huge);
+  EXPECT_FALSE(upper.ok);
+  EXPECT_EQ(upper.message, tooLarge);
+  const auto lower = RatioBoundCheck::CheckLowerWeightRatio(huge, "2");
+  EXPECT_FALSE(lower.ok);
+  EXPECT_EQ(lower.message, tooLarge);
+}
+
 }  // namespace
 }  // namespace tnw

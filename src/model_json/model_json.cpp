@@ -1,4 +1,6 @@
-#include "model_json.h"
+#include "model_json/model_json.h"
+
+#include "common/windows1252.h"
 
 // Std
 #include <cmath>
@@ -23,7 +25,7 @@ ordered_json weights(const std::array<double, kMaxAttributes>& w) {
 }
 
 [[noreturn]] void fail(const std::string& field, const std::string& what) {
-  throw ModelJsonError(field + ": " + what);
+  throw ModelJsonError(field, what);
 }
 
 // A whole number of the JSON text, or nothing when it does not fit in 64 bits.
@@ -46,7 +48,13 @@ std::string text(const json& object, const char* key, const std::string& where) 
   const json* v = member(object, key, where);
   if (v == nullptr || v->is_null()) return {};
   if (!v->is_string()) fail(where + "." + key, "expected a text");
-  return v->get<std::string>();
+  const auto& s = v->get_ref<const std::string&>();
+  // The file stores each text with a 2-byte length: a longer one is refused, not cut.
+  if (utf8ToWindows1252(s).size() > kMaxModelTextBytes) {
+    fail(where + "." + key, "longer than " + std::to_string(kMaxModelTextBytes) +
+                                " characters, the most a model file holds");
+  }
+  return s;
 }
 
 double real(const json& object, const char* key, const std::string& where) {
@@ -178,6 +186,17 @@ AttributeModel modelFromJson(const nlohmann::json& j) {
     readWeights(*prev, "weightL", m.PrevWeightL);
   }
   return m;
+}
+
+std::optional<JsonInputError> modelFromJsonText(std::string_view text, AttributeModel& model) {
+  json j;
+  if (auto error = parseJsonText(text, kModelJsonLimits, j)) return error;
+  try {
+    model = modelFromJson(j);
+  } catch (const ModelJsonError& e) {
+    return e.error();
+  }
+  return std::nullopt;
 }
 
 }  // namespace tnw

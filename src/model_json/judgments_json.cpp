@@ -1,0 +1,71 @@
+#include "model_json/judgments_json.h"
+
+#include "model_json/json_fields.h"
+
+namespace tnw {
+namespace {
+
+using nlohmann::json;
+
+// The attribute index of field `key` of judgment `at`, which must be an index of the model.
+int attributeIndex(const json& item, const char* key, std::size_t at, int numAtt) {
+  const std::string pointer = jsonPointer(jsonPointer("", at), key);
+  const std::string where = "judgment [" + std::to_string(at) + "]: \"" + key + "\" ";
+  const auto it = item.find(key);
+  if (it == item.end()) throw JsonFieldError(pointer, where + "is missing");
+  if (!it->is_number_integer()) throw JsonFieldError(pointer, where + "is not an integer");
+  try {
+    return static_cast<int>(integerFrom(*it, pointer, 0, numAtt - 1));
+  } catch (const JsonFieldError&) {
+    const std::string range = numAtt > 0 ? "0 to " + std::to_string(numAtt - 1) : "none";
+    throw JsonFieldError(
+        pointer, where + it->dump() +
+                     " is not an attribute index of the model (its indexes: " + range + ")");
+  }
+}
+
+TradeOffJudgment readJudgment(const json& item, std::size_t at, int numAtt) {
+  const std::string pointer = jsonPointer("", at);
+  const std::string where = "judgment [" + std::to_string(at) + "]: ";
+  if (!item.is_object()) throw JsonFieldError(pointer, where + "is not a JSON object");
+  TradeOffJudgment jd;
+  jd.first = attributeIndex(item, "first", at, numAtt);
+  jd.second = attributeIndex(item, "second", at, numAtt);
+  const std::string scores = jsonPointer(pointer, "scores");
+  const std::string four = where + "\"scores\" must be an array of four numbers [a1,b1,a2,b2]";
+  const auto it = item.find("scores");
+  if (it == item.end() || !it->is_array() || it->size() != 4) throw JsonFieldError(scores, four);
+  for (std::size_t i = 0; i < 4; ++i) {
+    const json& v = (*it)[i];
+    if (!v.is_number()) throw JsonFieldError(jsonPointer(scores, i), four);
+    jd.scores[i] = finiteNumber(v, jsonPointer(scores, i));
+  }
+  if (const auto r = item.find("response"); r != item.end()) {
+    try {
+      jd.response = static_cast<int>(integerFrom(*r, jsonPointer(pointer, "response"), -3, 3));
+    } catch (const JsonFieldError& e) {
+      throw JsonFieldError(e.error().where, where + "\"response\" must be an integer from -3 to 3");
+    }
+  }
+  return jd;
+}
+
+}  // namespace
+
+std::optional<JsonInputError> readTradeOffJudgments(std::string_view text, int numAtt,
+                                                    std::vector<TradeOffJudgment>& judgments) {
+  judgments.clear();
+  json j;
+  if (auto error = parseJsonText(text, kJudgmentsJsonLimits, j)) return error;
+  try {
+    if (!j.is_array()) throw JsonFieldError("the file", "the judgments are not a JSON array");
+    for (std::size_t at = 0; at < j.size(); ++at)
+      judgments.push_back(readJudgment(j[at], at, numAtt));
+  } catch (const JsonFieldError& e) {
+    judgments.clear();
+    return e.error();
+  }
+  return std::nullopt;
+}
+
+}  // namespace tnw
