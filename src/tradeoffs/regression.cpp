@@ -58,16 +58,7 @@ void Regression::RegressMain(JudgmentStore& store, int numAtt, MultiRegressionDa
     return;
   }
   loadObservations(store, numAtt < 0 ? 0 : numAtt);
-  RegressionWork& w = m_work;
-  for (int j = 1; j <= w.K; ++j) {
-    double sum = 0.0;
-    for (int k = 1; k <= w.N; ++k) sum += w.X(k, j);
-    w.XMean[static_cast<std::size_t>(j)] = sum / w.N;
-  }
-  double ySum = 0.0;
-  for (int k = 1; k <= w.N; ++k) ySum += w.Y[static_cast<std::size_t>(k)];
-  w.YMean = ySum / w.N;
-
+  CalMeans();
   CalCoeffMatrix();
   if (!Matrix_Invert()) return;
   CalCoefficients();
@@ -112,6 +103,20 @@ void Regression::loadObservations(JudgmentStore& store, int numAtt) {
     }
     m_work.Y[static_cast<std::size_t>(k)] = store.PrefResponse[static_cast<std::size_t>(k - 1)];
   }
+}
+
+void Regression::CalMeans() {
+  RegressionWork& w = m_work;
+  // Without observations there is no mean: they stay 0 (a run always has at least one).
+  if (w.N <= 0) return;
+  for (int j = 1; j <= w.K; ++j) {
+    double sum = 0.0;
+    for (int k = 1; k <= w.N; ++k) sum += w.X(k, j);
+    w.XMean[static_cast<std::size_t>(j)] = sum / w.N;
+  }
+  double ySum = 0.0;
+  for (int k = 1; k <= w.N; ++k) ySum += w.Y[static_cast<std::size_t>(k)];
+  w.YMean = ySum / w.N;
 }
 
 void Regression::CalCoeffMatrix() {
