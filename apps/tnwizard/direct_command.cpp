@@ -161,6 +161,23 @@ ordered_json gridRows(const tnw::ResultsGrid& grid) {
   return rows;
 }
 
+// The exact weight ranges of the results step: [] before it, null when they cannot be computed.
+ordered_json exactBounds(const tnw::DirectAPresenter& p) {
+  if (p.WizardStep() != 3) return ordered_json::array();
+  const auto& r = p.exactBounds();
+  if (r.outcome != tnw::ExactWeightBounds::Outcome::Computed) return nullptr;
+  ordered_json bounds = ordered_json::array();
+  for (const auto& b : r.bounds) bounds.push_back(ordered_json{{"low", b.low}, {"high", b.high}});
+  return bounds;
+}
+
+// Why the results step shows no exact weight ranges; null when it shows them (or is not reached).
+ordered_json exactBoundsError(const tnw::WizardContext& c, const tnw::DirectAPresenter& p) {
+  if (p.WizardStep() != 3) return nullptr;
+  const std::string text = tnw::ExactWeightBounds::message(c.model, p.exactBounds());
+  return text.empty() ? ordered_json(nullptr) : ordered_json(text);
+}
+
 ordered_json result(const tnw::WizardContext& c, const tnw::DirectAPresenter& p, ordered_json steps,
                     const ordered_json& exported) {
   const auto& judged = p.judgment().judgments().judgedFlags();
@@ -174,7 +191,9 @@ ordered_json result(const tnw::WizardContext& c, const tnw::DirectAPresenter& p,
                       {"judged", std::vector<bool>(judged.begin(), judged.end())},
                       {"complete", p.judgment().judgments().isComplete()},
                       {"grid", p.WizardStep() == 3 ? gridRows(p.grid()) : ordered_json::array()},
-                      {"export", exported}};
+                      {"export", exported},
+                      {"exactBounds", exactBounds(p)},
+                      {"exactBoundsError", exactBoundsError(c, p)}};
 }
 
 ordered_json runScenario(tnw::WizardContext& context, tnw::RecordingUiServices& ui,
