@@ -133,6 +133,21 @@ ordered_json statusName(tnw::JudgmentState state) {
   }
 }
 
+// Why the lit lamp is "Inconsistent" or "Invalid"; null while neither is lit.
+ordered_json diagnosisJson(const tnw::JudgmentDiagnosis::Result& d) {
+  if (d.text.empty()) return nullptr;
+  const auto attribute = [](int i) { return i >= 0 ? ordered_json(i) : ordered_json(nullptr); };
+  ordered_json nearest = nullptr;
+  if (d.nearestLower && d.nearestUpper) {
+    nearest = ordered_json{{"lower", *d.nearestLower}, {"upper", *d.nearestUpper}};
+  }
+  return ordered_json{{"bound", tnw::JudgmentDiagnosis::boundName(d.bound)},
+                      {"lowerLimitAttribute", attribute(d.lowerLimitAttribute)},
+                      {"upperLimitAttribute", attribute(d.upperLimitAttribute)},
+                      {"nearest", nearest},
+                      {"text", d.text}};
+}
+
 ordered_json runStep(tnw::DirectAPresenter& p, const tnw::RecordingUiServices& ui,
                      const json& step) {
   const std::size_t before = ui.messages().size();
@@ -146,7 +161,8 @@ ordered_json runStep(tnw::DirectAPresenter& p, const tnw::RecordingUiServices& u
                       {"lowerText", p.judgment().box(Box::Lower).text},
                       {"upperText", p.judgment().box(Box::Upper).text},
                       {"status", statusName(p.lamps().state())},
-                      {"recorded", recorded}};
+                      {"recorded", recorded},
+                      {"diagnosis", diagnosisJson(p.judgment().diagnosis())}};
 }
 
 ordered_json gridRows(const tnw::ResultsGrid& grid) {

@@ -1,4 +1,5 @@
-// The analysis fields of `tnwizard direct`: the exact weight ranges.
+// The analysis fields of `tnwizard direct`: the exact weight ranges and the diagnosis of a faulty
+// judgment.
 
 #include "cli_runner.h"
 #include "model/model_file_writer.h"
@@ -60,6 +61,7 @@ TEST(AnalysisCliTest, DirectPrintsTheExactWeightRangesBesideTheGrid) {
   EXPECT_DOUBLE_EQ(out["exactBounds"][2]["low"].get<double>(), 1.0 / 3.0);
   EXPECT_DOUBLE_EQ(out["exactBounds"][2]["high"].get<double>(), 4.0 / 7.0);
   EXPECT_TRUE(out["exactBoundsError"].is_null());
+  EXPECT_TRUE(out["steps"][0]["diagnosis"].is_null());
 }
 
 TEST(AnalysisCliTest, AnUnfinishedDirectRunHasNoExactRanges) {
@@ -67,6 +69,26 @@ TEST(AnalysisCliTest, AnUnfinishedDirectRunHasNoExactRanges) {
       "reference": 1, "steps": []})");
   EXPECT_EQ(out["exactBounds"], json::array());
   EXPECT_TRUE(out["exactBoundsError"].is_null());
+}
+
+TEST(AnalysisCliTest, AnInconsistentStepNamesTheConflictAndTheNearestInterval) {
+  const json out = run("direct", writeModel("tnw-diagnosis"), R"({"order": [1, 2, 3],
+      "reference": 1, "steps": [{"target": 2, "lower": "0.5", "upper": "1.5"},
+                                {"target": 2, "lower": "0.01", "upper": "0.5"}]})");
+  const json& d = out["steps"][0]["diagnosis"];
+  EXPECT_EQ(out["steps"][0]["status"], "inconsistent");
+  EXPECT_EQ(d["bound"], "upper");
+  EXPECT_EQ(d["upperLimitAttribute"], 1);
+  EXPECT_TRUE(d["lowerLimitAttribute"].is_null());
+  EXPECT_EQ(d["nearest"], json::parse(R"({"lower": 0.5, "upper": 1.0})"));
+  EXPECT_EQ(d["text"],
+            "Conflict: the upper bound 1.50 is above 1.00, the lower ratio of \"Att2\" (more "
+            "important). Nearest consistent interval: 0.50 to 1.00.");
+  // A ratio too small for the drawing area: the lower bound's handle lies outside it.
+  const json& invalid = out["steps"][1]["diagnosis"];
+  EXPECT_EQ(out["steps"][1]["status"], "invalid");
+  EXPECT_EQ(invalid["bound"], "lower");
+  EXPECT_EQ(invalid["nearest"], json::parse(R"({"lower": 0.06, "upper": 0.5})"));
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
-// The direct method's analysis controls driven through the real widgets: the exact weight ranges
-// beside the results grid.
+// The direct method's analysis controls driven through the real widgets: the line under the
+// status lights that names a conflict, and the exact weight ranges beside the results grid.
 
 #include "common/recording_ui_services.h"
 #include "direct/attribute_button_widget.h"
@@ -29,6 +29,7 @@ class DirectAAnalysisDialogTest : public QObject {
 
  private slots:
   void cleanup();
+  void anInconsistentJudgmentIsExplainedUnderTheLights();
   void theResultsStepShowsTheExactWeightRangesBesideTheGrid();
 
  private:
@@ -80,6 +81,24 @@ void DirectAAnalysisDialogTest::judge(int target, const QString& lower, const QS
     QTest::keyClicks(box, text);
   }
   QTest::keyClick(control<QLineEdit>(m_dialog.get(), "txtWRLower"), Qt::Key_Return);
+}
+
+void DirectAAnalysisDialogTest::anInconsistentJudgmentIsExplainedUnderTheLights() {
+  openOnJudgments({1, 2, 3}, 1);
+  auto* line = control<QLabel>(m_dialog.get(), "lblJudgmentDiagnosis");
+  QVERIFY(line != nullptr);
+  QVERIFY(line->isVisible());
+  QVERIFY(line->text().isEmpty());
+  // Attribute 3 is less important than the reference, so its ratio cannot pass 1.
+  judge(2, QStringLiteral("0.5"), QStringLiteral("1.5"));
+  QTRY_COMPARE(line->text(),
+               QStringLiteral("Conflict: the upper bound 1.50 is above 1.00, the lower ratio of "
+                              "\"Att2\" (more important). Nearest consistent interval: 0.50 to "
+                              "1.00."));
+  QVERIFY(!button("cmdEnter")->isEnabled());
+  judge(2, QStringLiteral("0.5"), QStringLiteral("1"));
+  QTRY_VERIFY(line->text().isEmpty());
+  QVERIFY(button("cmdEnter")->isEnabled());
 }
 
 void DirectAAnalysisDialogTest::theResultsStepShowsTheExactWeightRangesBesideTheGrid() {
