@@ -18,6 +18,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <fstream>
+#include <optional>
 #include <stdexcept>
 #include <string>
 
@@ -154,6 +155,30 @@ ordered_json firstK(const std::array<double, tnw::kMaxAttributes>& a, int k) {
   return std::vector<double>(a.begin(), a.begin() + k);
 }
 
+// The judgments that lower the consistency index most, as the regression status tab lists them.
+ordered_json worstJudgments(const tnw::TradeOffsAPresenter& p) {
+  ordered_json list = ordered_json::array();
+  const auto optional = [](const std::optional<double>& v) {
+    return v ? ordered_json(*v) : ordered_json(nullptr);
+  };
+  const auto& lines = p.worstJudgmentLines();
+  std::size_t at = 0;
+  for (const tnw::JudgmentInfluence& j : p.worstJudgments()) {
+    list.push_back(ordered_json{{"judgment", j.judgment},
+                                {"first", j.first},
+                                {"second", j.second},
+                                {"scores", j.scores},
+                                {"response", j.response},
+                                {"indexWithout", j.indexWithout},
+                                {"gain", j.gain},
+                                {"fittedBSecond", optional(j.fittedBSecond)},
+                                {"fittedBFirst", optional(j.fittedBFirst)},
+                                {"text", at < lines.size() ? lines[at] : std::string()}});
+    ++at;
+  }
+  return list;
+}
+
 ordered_json result(const tnw::TradeOffsAPresenter& p, const tnw::RecordingUiServices& ui,
                     const tnw::WizardContext& ctx, const ordered_json& exported) {
   const tnw::MultiRegressionData& r = p.record();
@@ -180,7 +205,8 @@ ordered_json result(const tnw::TradeOffsAPresenter& p, const tnw::RecordingUiSer
                       {"highEst", firstK(r.HighEst, k)},
                       {"weights", weights},
                       {"comment", ctx.RegressionComment},
-                      {"export", exported}};
+                      {"export", exported},
+                      {"worstJudgments", worstJudgments(p)}};
 }
 
 }  // namespace

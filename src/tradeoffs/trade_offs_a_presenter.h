@@ -2,6 +2,7 @@
 
 #include "tradeoffs/control_states.h"
 #include "tradeoffs/judgment_page.h"
+#include "tradeoffs/leave_one_out.h"
 #include "tradeoffs/multi_regression_data.h"
 #include "tradeoffs/regression.h"
 #include "tradeoffs/results_page.h"
@@ -62,6 +63,12 @@ class TradeOffsAPresenter {
   const Regression& regression() const { return m_regression; }
   const MultiRegressionData& record() const { return m_record; }
   const std::optional<std::string>& fitError() const { return m_fitError; }
+  // The judgments that lower the consistency index most (leave-one-out), worst first; empty
+  // when the fit could not be completed or no judgment lowers the index.
+  const std::vector<JudgmentInfluence>& worstJudgments() const { return m_worst; }
+  // The lines of the list lstWorstJudgments: one per judgment above, or the line saying that no
+  // judgment lowers the index; empty when the fit could not be completed.
+  const std::vector<std::string>& worstJudgmentLines() const { return m_worstLines; }
 
   // Wizard buttons.
   void cmdNext_Click();
@@ -102,6 +109,8 @@ class TradeOffsAPresenter {
   Regression m_regression;
   MultiRegressionData m_record;
   std::optional<std::string> m_fitError;
+  std::vector<JudgmentInfluence> m_worst;
+  std::vector<std::string> m_worstLines;
   std::function<void()> m_changed;
   int m_step = 1;
   int m_tabW = 1;

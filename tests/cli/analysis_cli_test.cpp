@@ -1,5 +1,5 @@
-// The analysis fields of `tnwizard direct`: the exact weight ranges and the diagnosis of a faulty
-// judgment.
+// The analysis fields of `tnwizard direct` and `tnwizard tradeoffs`: the exact weight ranges,
+// the diagnosis of a faulty judgment, and the judgments that lower the consistency index most.
 
 #include "cli_runner.h"
 #include "model/model_file_writer.h"
@@ -89,6 +89,40 @@ TEST(AnalysisCliTest, AnInconsistentStepNamesTheConflictAndTheNearestInterval) {
   EXPECT_EQ(out["steps"][1]["status"], "invalid");
   EXPECT_EQ(invalid["bound"], "lower");
   EXPECT_EQ(invalid["nearest"], json::parse(R"({"lower": 0.06, "upper": 0.5})"));
+}
+
+TEST(AnalysisCliTest, TradeOffsListTheJudgmentThatHurtsTheConsistencyIndexMost) {
+  // Five judgments agree with the weights (0.5, 0.3, 0.2); the sixth does not.
+  const json out = run("tradeoffs", writeModel("tnw-worst"), R"([
+      {"first": 0, "second": 1, "scores": [6, 3, 2, 7], "response": 0},
+      {"first": 1, "second": 2, "scores": [5, 3, 1, 4], "response": 0},
+      {"first": 2, "second": 0, "scores": [7, 2, 3, 5], "response": 0},
+      {"first": 0, "second": 1, "scores": [4, 2.2, 1, 4], "response": 0},
+      {"first": 1, "second": 2, "scores": [3, 2, 2.5, 4], "response": 0},
+      {"first": 2, "second": 0, "scores": [8, 3, 1, 6], "response": 0}])");
+  ASSERT_TRUE(out["error"].is_null());
+  const json& worst = out["worstJudgments"];
+  ASSERT_GE(worst.size(), 1u);
+  ASSERT_LE(worst.size(), 3u);
+  EXPECT_EQ(worst[0]["judgment"], 6);
+  EXPECT_EQ(worst[0]["first"], 2);
+  EXPECT_EQ(worst[0]["second"], 0);
+  EXPECT_EQ(worst[0]["scores"], json::parse("[8, 3, 1, 6]"));
+  EXPECT_NEAR(worst[0]["indexWithout"].get<double>(), 1.0, 1e-12);
+  EXPECT_NEAR(worst[0]["gain"].get<double>(), 1.0 - out["consistencyIndex"].get<double>(), 1e-12);
+  EXPECT_TRUE(worst[0]["fittedBSecond"].is_number());
+  EXPECT_EQ(
+      worst[0]["text"].get<std::string>().rfind("Judgment 6 (Att3, Att1): A 8 / 1, B 3 / 6", 0),
+      0u);
+}
+
+TEST(AnalysisCliTest, AFitThatCannotBeCompletedListsNoJudgments) {
+  // Two attributes: the two trade-offs and the appended observation leave N - K - 1 = 0.
+  const json out = run("tradeoffs", writeModel("tnw-worst-none", 2), R"([
+      {"first": 0, "second": 1, "scores": [6, 3, 2, 7], "response": 0},
+      {"first": 1, "second": 0, "scores": [6, 3, 2, 7], "response": 0}])");
+  EXPECT_FALSE(out["error"].is_null());
+  EXPECT_EQ(out["worstJudgments"], json::array());
 }
 
 }  // namespace
