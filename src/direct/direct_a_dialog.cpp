@@ -241,6 +241,7 @@ void DirectADialog::render() {
         break;
       default:
         m_resultsPage->render(m_presenter.grid());
+        m_resultsPage->renderExactBounds(m_context.model, m_presenter.exactBounds());
         break;
     }
     renderControls();
@@ -321,7 +322,7 @@ void DirectADialog::applyTabOrder(int step) {
       chain.append(m_judgmentPage->orderList()->tabChain());
       break;
     default:
-      chain << m_resultsPage->grid();
+      chain << m_resultsPage->grid() << m_resultsPage->exactGrid();
       break;
   }
   chain << m_cmdHelp << m_cmdBack << m_cmdNext << m_cmdFinish << m_cmdCancel;

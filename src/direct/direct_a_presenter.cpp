@@ -4,6 +4,10 @@
 #include "direct/previous_judgments.h"
 #include "model/model_check.h"
 
+// Std
+#include <algorithm>
+#include <cstddef>
+
 namespace tnw {
 
 DirectAPresenter::DirectAPresenter(WizardContext& context, UiServices& ui, DirectAEvents& events)
@@ -135,6 +139,15 @@ void DirectAPresenter::nextFromJudgments() {
   m_controls.setEnabled("cmdNext", false);
   m_grid.SetNTTable(m_ordering.order().numAtt());
   m_grid.Fill_gridTN(m_context.model, m_context.LowerWeights, m_context.UpperWeights);
+  // The bounds cover the model's attributes only, as the grid does.
+  const auto n = static_cast<std::size_t>(m_ordering.order().numAtt());
+  const auto firstN = [n](const std::vector<double>& v) {
+    return std::vector<double>(v.begin(),
+                               v.begin() + static_cast<std::ptrdiff_t>(std::min(n, v.size())));
+  };
+  m_exactBounds =
+      ExactWeightBounds::compute(firstN(m_context.LowerWeights), firstN(m_context.UpperWeights),
+                                 m_context.FinalAttGroup, m_context.RefAtt);
 }
 
 void DirectAPresenter::cmdBack_Click() {

@@ -3,6 +3,7 @@
 #include "direct/control_registry.h"
 #include "direct/direct_a_shared.h"
 #include "direct/direct_export.h"
+#include "direct/exact_weight_bounds.h"
 #include "direct/judgment_page.h"
 #include "direct/ordering_page.h"
 #include "direct/results_grid.h"
@@ -107,6 +108,8 @@ class DirectAPresenter {
   const JudgmentPage& judgment() const { return m_judgment; }
   // Step 3's grid gridTN.
   const ResultsGrid& grid() const { return m_grid; }
+  // Step 3's exact weight ranges, shown beside gridTN (computed on entering step 3).
+  const ExactWeightBounds::Result& exactBounds() const { return m_exactBounds; }
   // The status lamps, the indicator's colour and Timer1's interval.
   const StatusLamps& lamps() const { return m_lamps; }
   // Timer1's interval in milliseconds (0 when stopped).
@@ -138,6 +141,7 @@ class DirectAPresenter {
   OrderingPage m_ordering;
   JudgmentPage m_judgment;
   ResultsGrid m_grid;
+  ExactWeightBounds::Result m_exactBounds;
   DirectExport::Weights m_export;
   std::function<void()> m_listener;
   int m_step = 0;

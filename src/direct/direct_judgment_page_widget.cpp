@@ -63,6 +63,9 @@ DirectJudgmentPageWidget::DirectJudgmentPageWidget(QWidget* parent) : QWidget(pa
   left->addWidget(buildRatioFrame());
   left->addLayout(buttons);
   left->addWidget(m_lights);
+  m_diagnosis = namedLabel(QStringLiteral("lblJudgmentDiagnosis"), this);
+  m_diagnosis->setWordWrap(true);
+  left->addWidget(m_diagnosis);
   left->addStretch(1);
 
   auto* layout = new QHBoxLayout(this);
@@ -176,6 +179,8 @@ void DirectJudgmentPageWidget::render(const DirectAPresenter& presenter,
   for (int i = 0; i < 3; ++i) {
     m_lights->setLamp(i, colourFromBgr(lamps.lampColor(i)), lamps.labelHighlighted(i));
   }
+  const QString why = QString::fromStdString(page.diagnosis().text);
+  if (m_diagnosis->text() != why) m_diagnosis->setText(why);
   renderOrderTab(presenter, context);
 }
 

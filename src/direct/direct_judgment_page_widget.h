@@ -49,6 +49,9 @@ class DirectJudgmentPageWidget : public QWidget {
   // The drawing area (picTradeOffsRange) and the status lights (picJudgmentState).
   ConeAreaWidget* coneArea() const { return m_cone; }
   StatusLightsWidget* statusLights() const { return m_lights; }
+  // The line under the status lights that says why a judgment is inconsistent or invalid
+  // (lblJudgmentDiagnosis).
+  QLabel* diagnosis() const { return m_diagnosis; }
   // The tab strip (tsTab) and the order shown on its second page (picOrderList).
   QTabWidget* tabs() const { return m_tabs; }
   FinalOrderWidget* orderList() const { return m_orderList; }
@@ -74,6 +77,7 @@ class DirectJudgmentPageWidget : public QWidget {
   QPushButton* m_restart = nullptr;
   ConeAreaWidget* m_cone = nullptr;
   StatusLightsWidget* m_lights = nullptr;
+  QLabel* m_diagnosis = nullptr;
   QTabWidget* m_tabs = nullptr;
   FinalOrderWidget* m_orderList = nullptr;
   QStringList m_itemTexts;

@@ -30,6 +30,51 @@ DirectResultsPageWidget::DirectResultsPageWidget(QWidget* parent) : QWidget(pare
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(caption);
   layout->addWidget(m_grid, 1);
+
+  m_exactTitle = new QLabel(QString::fromUtf8(ExactWeightBounds::kTitle), this);
+  m_exactTitle->setObjectName(QStringLiteral("lblExactBounds"));
+  m_exactTitle->setWordWrap(true);
+  QFont bold = m_exactTitle->font();
+  bold.setBold(true);
+  m_exactTitle->setFont(bold);
+  m_exactGrid = new QTableWidget(this);
+  m_exactGrid->setObjectName(QStringLiteral("gridExactBounds"));
+  m_exactGrid->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  m_exactGrid->setSelectionBehavior(QAbstractItemView::SelectRows);
+  m_exactGrid->verticalHeader()->hide();
+  m_exactGrid->setWordWrap(false);
+  m_exactTitle->setBuddy(m_exactGrid);
+  layout->addWidget(m_exactTitle);
+  layout->addWidget(m_exactGrid, 1);
+}
+
+void DirectResultsPageWidget::renderExactBounds(const AttributeModel& model,
+                                                const ExactWeightBounds::Result& bounds) {
+  const auto rows = ExactWeightBounds::rows(model, bounds);
+  const std::string note = ExactWeightBounds::message(model, bounds);
+  QString signature = QString::fromStdString(note);
+  for (const auto& row : rows) {
+    for (const auto& cell : row) signature += QString::fromStdString(cell) + QLatin1Char('\t');
+  }
+  if (signature == m_exactSignature && m_exactGrid->columnCount() > 0) return;
+  m_exactSignature = signature;
+  m_exactTitle->setText(QString::fromUtf8(note.empty() ? ExactWeightBounds::kTitle : note.c_str()));
+  m_exactGrid->clear();
+  m_exactGrid->setColumnCount(ExactWeightBounds::kColumns);
+  QStringList headers;
+  for (const char* h : ExactWeightBounds::kHeaders) headers.append(QString::fromUtf8(h));
+  m_exactGrid->setHorizontalHeaderLabels(headers);
+  m_exactGrid->setRowCount(static_cast<int>(rows.size()));
+  for (int r = 0; r < static_cast<int>(rows.size()); ++r) {
+    for (int c = 0; c < ExactWeightBounds::kColumns; ++c) {
+      auto* item = new QTableWidgetItem(
+          QString::fromStdString(rows[static_cast<std::size_t>(r)][static_cast<std::size_t>(c)]));
+      item->setTextAlignment((c == 1 ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+      m_exactGrid->setItem(r, c, item);
+    }
+  }
+  m_exactGrid->resizeColumnsToContents();
+  m_exactGrid->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
 }
 
 void DirectResultsPageWidget::setTable(const QStringList& headers,

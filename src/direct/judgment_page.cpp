@@ -123,6 +123,13 @@ JudgmentStatusCheck::Result JudgmentPage::evaluate() const {
   return JudgmentStatusCheck::check(m_cone, m_handles, m_judgments, m_targets.currentTarget());
 }
 
+JudgmentDiagnosis::Result JudgmentPage::diagnosis() const {
+  const JudgmentState lit = m_lamps.state();
+  const int t = m_targets.currentTarget();
+  if (t < 0 || (lit != JudgmentState::Inconsistent && lit != JudgmentState::Invalid)) return {};
+  return JudgmentDiagnosis::diagnose(m_cone, m_handles, m_judgments, t, m_shared.context.model);
+}
+
 void JudgmentPage::Check_Judgment_Status() {
   const auto result = evaluate();
   if (result.state != JudgmentState::Invalid) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "direct/direct_a_shared.h"
+#include "direct/judgment_diagnosis.h"
 #include "direct/judgment_status_check.h"
 #include "direct/preference_cone.h"
 #include "direct/status_lamps.h"
@@ -86,6 +87,9 @@ class JudgmentPage {
   std::array<IntPoint, 3> coneTriangle() const;
   // The status the current handles would give (the check without its display).
   JudgmentStatusCheck::Result evaluate() const;
+  // Why the lit status is "Inconsistent" or "Invalid", with the nearest consistent interval;
+  // an empty diagnosis while no such status is lit.
+  JudgmentDiagnosis::Result diagnosis() const;
   // Whether the final-order frames of the tab are shown.
   bool orderTabVisible() const { return m_orderTabVisible; }
   // The attributes of final group k (1-based) in model order: the buttons cmdAttBtn of frame

@@ -117,6 +117,21 @@ ordered_json statusName(JudgmentState state) {
   }
 }
 
+// Why the lit lamp is "Inconsistent" or "Invalid"; null while neither is lit.
+ordered_json diagnosisJson(const JudgmentDiagnosis::Result& d) {
+  if (d.text.empty()) return nullptr;
+  const auto attribute = [](int i) { return i >= 0 ? ordered_json(i) : ordered_json(nullptr); };
+  ordered_json nearest = nullptr;
+  if (d.nearestLower && d.nearestUpper) {
+    nearest = ordered_json{{"lower", *d.nearestLower}, {"upper", *d.nearestUpper}};
+  }
+  return ordered_json{{"bound", JudgmentDiagnosis::boundName(d.bound)},
+                      {"lowerLimitAttribute", attribute(d.lowerLimitAttribute)},
+                      {"upperLimitAttribute", attribute(d.upperLimitAttribute)},
+                      {"nearest", nearest},
+                      {"text", d.text}};
+}
+
 ordered_json runStep(DirectAPresenter& p, const RecordingUiServices& ui, const ScenarioStep& step) {
   const std::size_t before = ui.messages().size();
   bool recorded = false;
@@ -129,7 +144,8 @@ ordered_json runStep(DirectAPresenter& p, const RecordingUiServices& ui, const S
                       {"lowerText", p.judgment().box(Box::Lower).text},
                       {"upperText", p.judgment().box(Box::Upper).text},
                       {"status", statusName(p.lamps().state())},
-                      {"recorded", recorded}};
+                      {"recorded", recorded},
+                      {"diagnosis", diagnosisJson(p.judgment().diagnosis())}};
 }
 
 ordered_json gridRows(const ResultsGrid& grid) {
@@ -142,6 +158,23 @@ ordered_json gridRows(const ResultsGrid& grid) {
                                 {"range", grid.cell(r, 4)}});
   }
   return rows;
+}
+
+// The exact weight ranges of the results step: [] before it, null when they cannot be computed.
+ordered_json exactBounds(const DirectAPresenter& p) {
+  if (p.WizardStep() != 3) return ordered_json::array();
+  const auto& r = p.exactBounds();
+  if (r.outcome != ExactWeightBounds::Outcome::Computed) return nullptr;
+  ordered_json bounds = ordered_json::array();
+  for (const auto& b : r.bounds) bounds.push_back(ordered_json{{"low", b.low}, {"high", b.high}});
+  return bounds;
+}
+
+// Why the results step shows no exact weight ranges; null when it shows them (or is not reached).
+ordered_json exactBoundsError(const WizardContext& c, const DirectAPresenter& p) {
+  if (p.WizardStep() != 3) return nullptr;
+  const std::string text = ExactWeightBounds::message(c.model, p.exactBounds());
+  return text.empty() ? ordered_json(nullptr) : ordered_json(text);
 }
 
 ordered_json result(const WizardContext& c, const DirectAPresenter& p, ordered_json steps,
@@ -157,7 +190,9 @@ ordered_json result(const WizardContext& c, const DirectAPresenter& p, ordered_j
                       {"judged", std::vector<bool>(judged.begin(), judged.end())},
                       {"complete", p.judgment().judgments().isComplete()},
                       {"grid", p.WizardStep() == 3 ? gridRows(p.grid()) : ordered_json::array()},
-                      {"export", exported}};
+                      {"export", exported},
+                      {"exactBounds", exactBounds(p)},
+                      {"exactBoundsError", exactBoundsError(c, p)}};
 }
 
 ordered_json runScenario(WizardContext& context, RecordingUiServices& ui,

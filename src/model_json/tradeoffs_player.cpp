@@ -8,6 +8,7 @@
 
 // Std
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace tnw {
@@ -77,6 +78,30 @@ ordered_json firstK(const std::array<double, kMaxAttributes>& a, int k) {
   return std::vector<double>(a.begin(), a.begin() + k);
 }
 
+// The judgments that lower the consistency index most, as the regression status tab lists them.
+ordered_json worstJudgments(const TradeOffsAPresenter& p) {
+  ordered_json list = ordered_json::array();
+  const auto optional = [](const std::optional<double>& v) {
+    return v ? ordered_json(*v) : ordered_json(nullptr);
+  };
+  const auto& lines = p.worstJudgmentLines();
+  std::size_t at = 0;
+  for (const JudgmentInfluence& j : p.worstJudgments()) {
+    list.push_back(ordered_json{{"judgment", j.judgment},
+                                {"first", j.first},
+                                {"second", j.second},
+                                {"scores", j.scores},
+                                {"response", j.response},
+                                {"indexWithout", j.indexWithout},
+                                {"gain", j.gain},
+                                {"fittedBSecond", optional(j.fittedBSecond)},
+                                {"fittedBFirst", optional(j.fittedBFirst)},
+                                {"text", at < lines.size() ? lines[at] : std::string()}});
+    ++at;
+  }
+  return list;
+}
+
 ordered_json result(const TradeOffsAPresenter& p, const RecordingUiServices& ui,
                     const WizardContext& ctx, const ordered_json& exported) {
   const MultiRegressionData& r = p.record();
@@ -103,7 +128,8 @@ ordered_json result(const TradeOffsAPresenter& p, const RecordingUiServices& ui,
                       {"highEst", firstK(r.HighEst, k)},
                       {"weights", weights},
                       {"comment", ctx.RegressionComment},
-                      {"export", exported}};
+                      {"export", exported},
+                      {"worstJudgments", worstJudgments(p)}};
 }
 
 }  // namespace

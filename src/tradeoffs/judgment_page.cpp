@@ -279,6 +279,8 @@ bool JudgmentPage::recordJudgment() {
     }
   }
   m_store.PrefResponse[at] = response;
+  m_store.FirstAtt[at] = m_first;
+  m_store.SecondAtt[at] = m_second;
   m_store.ValueDiff[at] = std::move(diffs);
   m_store.JudgmentCount = k;
   return true;

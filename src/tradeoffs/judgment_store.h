@@ -20,6 +20,9 @@ struct JudgmentStore {
   std::vector<std::int16_t> PrefResponse;
   // The value difference of each attribute (0-based) in each judgment: ValueDiff[k - 1][j - 1].
   std::vector<std::vector<double>> ValueDiff;
+  // The two attributes (0-based) each judgment compared: the first and the second of its pair.
+  std::vector<std::int16_t> FirstAtt;
+  std::vector<std::int16_t> SecondAtt;
 
   // Forgets every judgment and makes room for `size` judgments over `numAtt` attributes.
   void dimension(int size, int numAtt) {
@@ -30,6 +33,8 @@ struct JudgmentStore {
     ScoreASecond.assign(n, 0.0);
     ScoreBSecond.assign(n, 0.0);
     PrefResponse.assign(n, 0);
+    FirstAtt.assign(n, 0);
+    SecondAtt.assign(n, 0);
     ValueDiff.assign(n, std::vector<double>(static_cast<std::size_t>(numAtt < 0 ? 0 : numAtt)));
   }
 
@@ -42,6 +47,8 @@ struct JudgmentStore {
     ScoreASecond.resize(n, 0.0);
     ScoreBSecond.resize(n, 0.0);
     PrefResponse.resize(n, 0);
+    FirstAtt.resize(n, 0);
+    SecondAtt.resize(n, 0);
     ValueDiff.resize(n, std::vector<double>(static_cast<std::size_t>(numAtt < 0 ? 0 : numAtt)));
   }
 };

@@ -58,20 +58,7 @@ void Regression::RegressMain(JudgmentStore& store, int numAtt, MultiRegressionDa
     return;
   }
   loadObservations(store, numAtt < 0 ? 0 : numAtt);
-  RegressionWork& w = m_work;
-  // Column sums row by row: each column is still summed in observation order.
-  std::vector<double> sums(static_cast<std::size_t>(w.K + 1), 0.0);
-  for (int k = 1; k <= w.N; ++k) {
-    const double* x = &w.X(k, 0);
-    for (int j = 1; j <= w.K; ++j) sums[static_cast<std::size_t>(j)] += x[j];
-  }
-  for (int j = 1; j <= w.K; ++j) {
-    w.XMean[static_cast<std::size_t>(j)] = sums[static_cast<std::size_t>(j)] / w.N;
-  }
-  double ySum = 0.0;
-  for (int k = 1; k <= w.N; ++k) ySum += w.Y[static_cast<std::size_t>(k)];
-  w.YMean = ySum / w.N;
-
+  CalMeans();
   CalCoeffMatrix();
   if (!Matrix_Invert()) return;
   CalCoefficients();
@@ -114,6 +101,24 @@ void Regression::loadObservations(JudgmentStore& store, int numAtt) {
     std::copy_n(row.begin(), given, &m_work.X(k, 1));
     m_work.Y[static_cast<std::size_t>(k)] = store.PrefResponse[static_cast<std::size_t>(k - 1)];
   }
+}
+
+void Regression::CalMeans() {
+  RegressionWork& w = m_work;
+  // Without observations there is no mean: they stay 0 (a run always has at least one).
+  if (w.N <= 0) return;
+  // Column sums row by row: each column is still summed in observation order.
+  std::vector<double> sums(static_cast<std::size_t>(w.K + 1), 0.0);
+  for (int k = 1; k <= w.N; ++k) {
+    const double* x = &w.X(k, 0);
+    for (int j = 1; j <= w.K; ++j) sums[static_cast<std::size_t>(j)] += x[j];
+  }
+  for (int j = 1; j <= w.K; ++j) {
+    w.XMean[static_cast<std::size_t>(j)] = sums[static_cast<std::size_t>(j)] / w.N;
+  }
+  double ySum = 0.0;
+  for (int k = 1; k <= w.N; ++k) ySum += w.Y[static_cast<std::size_t>(k)];
+  w.YMean = ySum / w.N;
 }
 
 // One pass over the observations in order. An observation's centred difference on an attribute

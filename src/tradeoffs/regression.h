@@ -56,6 +56,8 @@ class Regression {
   void RegressMain(JudgmentStore& store, int numAtt, MultiRegressionData& record,
                    WizardContext& shared);
 
+  // The column means XMean of X and the mean YMean of Y.
+  void CalMeans();
   // Fills CrossProd from X and Y.
   void CalCoeffMatrix();
   // Inverts the attribute block of CrossProd into InvMatrix; false (and NoInverse) on failure.

@@ -8,6 +8,7 @@
 
 // Qt
 #include <QAction>
+#include <QListWidget>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QTableWidget>
@@ -93,6 +94,18 @@ bool ResultsPageBindingQt::renderGrid(QTableWidget& table, const GridState& grid
   return changed;
 }
 
+void ResultsPageBindingQt::renderWorstJudgments() {
+  QStringList lines;
+  for (const std::string& line : m_presenter.worstJudgmentLines()) {
+    lines.append(QString::fromStdString(line));
+  }
+  if (lines == m_shownWorst) return;
+  m_shownWorst = lines;
+  QListWidget& list = *m_widget.controls().lstWorstJudgments;
+  list.clear();
+  list.addItems(lines);
+}
+
 void ResultsPageBindingQt::render() {
   m_rendering = true;
   const auto& c = m_widget.controls();
@@ -112,6 +125,7 @@ void ResultsPageBindingQt::render() {
   }
   const QString comment = QString::fromStdString(m_page.txtComments().text);
   if (c.txtComments->toPlainText() != comment) c.txtComments->setPlainText(comment);
+  renderWorstJudgments();
   for (int i = 0; i < 3; ++i) {
     c.chartButton[i]->setChecked(m_page.chartKey() == TradeOffsResultsWidget::chartKey(i));
   }

@@ -5,6 +5,7 @@
 
 // Qt
 #include <QObject>
+#include <QStringList>
 
 // Std
 #include <string>
@@ -38,6 +39,7 @@ class ResultsPageBindingQt : public QObject {
 
  private:
   void chooseChart(const char* key);
+  void renderWorstJudgments();
 
   TradeOffsResultsWidget& m_widget;
   TradeOffsAPresenter& m_presenter;
@@ -47,6 +49,7 @@ class ResultsPageBindingQt : public QObject {
   GridState m_shownWeights;
   std::string m_shownKey;
   ChartData m_shownChart;
+  QStringList m_shownWorst;
   bool m_rendering = false;
 };
 

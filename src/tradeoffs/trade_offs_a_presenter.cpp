@@ -77,6 +77,16 @@ void TradeOffsAPresenter::runRegression() {
   const std::optional<std::string> weightsError = m_regression.CalWeights();
   m_fitError = m_regression.error() ? m_regression.error() : weightsError;
   if (m_fitError) warn(*m_fitError);
+  m_worst.clear();
+  m_worstLines.clear();
+  if (!m_fitError) {
+    m_worst = LeaveOneOut::worst(m_judgment.store(), m_context.model, m_regression.work().Coef,
+                                 m_record.ConsistencyIndex);
+    for (const JudgmentInfluence& j : m_worst) {
+      m_worstLines.push_back(LeaveOneOut::describe(m_context.model, j));
+    }
+    if (m_worst.empty()) m_worstLines.emplace_back(LeaveOneOut::kNoneHurts);
+  }
   m_ui.setBusy(false);
 }
 

@@ -2,6 +2,7 @@
 
 #include "tradeoffs/control_states.h"
 #include "tradeoffs/judgment_page.h"
+#include "tradeoffs/leave_one_out.h"
 #include "tradeoffs/multi_regression_data.h"
 #include "tradeoffs/regression.h"
 #include "tradeoffs/results_page.h"
@@ -66,6 +67,13 @@ class TradeOffsAPresenter {
   // evaluated), found on loading; nothing while it can.
   const std::optional<std::string>& modelProblem() const { return m_modelProblem; }
 
+  // The judgments that lower the consistency index most (leave-one-out), worst first; empty
+  // when the fit could not be completed or no judgment lowers the index.
+  const std::vector<JudgmentInfluence>& worstJudgments() const { return m_worst; }
+  // The lines of the list lstWorstJudgments: one per judgment above, or the line saying that no
+  // judgment lowers the index; empty when the fit could not be completed.
+  const std::vector<std::string>& worstJudgmentLines() const { return m_worstLines; }
+
   // Wizard buttons.
   void cmdNext_Click();
   void cmdBack_Click();
@@ -106,6 +114,9 @@ class TradeOffsAPresenter {
   MultiRegressionData m_record;
   std::optional<std::string> m_fitError;
   std::optional<std::string> m_modelProblem;
+
+  std::vector<JudgmentInfluence> m_worst;
+  std::vector<std::string> m_worstLines;
   std::function<void()> m_changed;
   int m_step = 1;
   int m_tabW = 1;

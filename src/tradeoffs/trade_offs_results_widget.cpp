@@ -2,6 +2,7 @@
 
 #include "graphs/chart_widget.h"
 #include "tradeoffs/item_text_delegate_qt.h"
+#include "tradeoffs/leave_one_out.h"
 
 // Qt
 #include <QAction>
@@ -9,6 +10,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QListWidget>
 #include <QPainter>
 #include <QStackedWidget>
 #include <QTabBar>
@@ -155,6 +157,17 @@ QWidget* TradeOffsResultsWidget::buildRegStatus() {
   auto* right = new QVBoxLayout;
   right->addWidget(caption);
   right->addWidget(m_c.txtComments, 1);
+  m_c.lstWorstJudgments = new QListWidget(panel);
+  m_c.lstWorstJudgments->setObjectName(QStringLiteral("lstWorstJudgments"));
+  m_c.lstWorstJudgments->setWordWrap(true);
+  // The caption's first letter is its mnemonic, as "C&omments:" has one.
+  m_c.lblWorstJudgments =
+      new QLabel(QLatin1Char('&') + QString::fromUtf8(LeaveOneOut::kCaption), panel);
+  m_c.lblWorstJudgments->setObjectName(QStringLiteral("lblWorstJudgments"));
+  m_c.lblWorstJudgments->setWordWrap(true);
+  m_c.lblWorstJudgments->setBuddy(m_c.lstWorstJudgments);
+  right->addWidget(m_c.lblWorstJudgments);
+  right->addWidget(m_c.lstWorstJudgments, 1);
   auto* layout = new QHBoxLayout(panel);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(m_c.gridOverallRegression, 1);

@@ -6,6 +6,7 @@
 class QAction;
 class QActionGroup;
 class QLabel;
+class QListWidget;
 class QStackedWidget;
 class QTabBar;
 class QTableWidget;
@@ -18,7 +19,8 @@ class ChartWidget;
 
 // The results page of frmTradeOffsA: the tab strip tsTabsW over the weight-estimates panel
 // (gridWeights and the chart with its toolbar tbWeightCharts) and the regression-status panel
-// (gridOverallRegression and txtComments). It only lays the controls out.
+// (gridOverallRegression, txtComments and the list lstWorstJudgments). It only lays the controls
+// out.
 class TradeOffsResultsWidget : public QWidget {
   Q_OBJECT
 
@@ -32,6 +34,9 @@ class TradeOffsResultsWidget : public QWidget {
     QTableWidget* gridWeights = nullptr;
     QTableWidget* gridOverallRegression = nullptr;
     QTextEdit* txtComments = nullptr;
+    // The judgments that lower the consistency index most, under their caption.
+    QLabel* lblWorstJudgments = nullptr;
+    QListWidget* lstWorstJudgments = nullptr;
     QToolBar* tbWeightCharts = nullptr;
     // The toolbar's buttons by key: "WeightBars", "HLCa", "HLCb".
     QAction* chartButton[3] = {};
