@@ -174,7 +174,8 @@ void DirectJudgmentPageWidget::render(const DirectAPresenter& presenter,
   renderCone(presenter);
   const StatusLamps& lamps = presenter.lamps();
   for (int i = 0; i < 3; ++i) {
-    m_lights->setLamp(i, colourFromBgr(lamps.lampColor(i)), lamps.labelHighlighted(i));
+    m_lights->setLamp(i, colourFromBgr(lamps.lampColor(i)), lamps.labelHighlighted(i),
+                      colourFromBgr(lamps.labelTextColor(i)));
   }
   renderOrderTab(presenter, context);
 }
