@@ -7,6 +7,7 @@
 #include "direct/preference_chart_widget.h"
 #include "direct/ratio_box_filter_qt.h"
 #include "direct/status_lights_widget.h"
+#include "tradeoffs/elided_label_widget.h"
 
 // Qt
 #include <QComboBox>
