@@ -9,8 +9,11 @@
 // Qt
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QListWidget>
 #include <QPaintEngine>
 #include <QPrintDialog>
+#include <QScrollBar>
+#include <QTableWidget>
 #include <QTemporaryDir>
 
 // Std
@@ -136,6 +139,7 @@ class TradeOffsPrintDialogTest : public QObject {
   void printButtonOpensThePrintDialogAndPrintsVectorPdfWhenAccepted();
   void unloadingTheWizardWithThePrintDialogOpenLeavesNothingBehind();
   void printOutKeepsEveryTextReadableAtThreeSixAndThirtyOneAttributes();
+  void longNamesAreElidedInWholeRowsOfTheListsAndOnOneLineInTheGrid();
 };
 
 void TradeOffsPrintDialogTest::printButtonOpensThePrintDialogAndPrintsVectorPdfWhenAccepted() {
@@ -213,6 +217,30 @@ void TradeOffsPrintDialogTest::printOutKeepsEveryTextReadableAtThreeSixAndThirty
     d.reset();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
+}
+
+void TradeOffsPrintDialogTest::longNamesAreElidedInWholeRowsOfTheListsAndOnOneLineInTheGrid() {
+  auto d = resultsOf(6);
+  const QString longest = QString::fromStdString(m_context.model.AttName[5]);
+  for (const char* name : {"lstTradeOffFirstC", "lstTradeOffSecondC"}) {
+    auto* list = d->findChild<QListWidget*>(QLatin1String(name));
+    QVERIFY(list);
+    QCOMPARE(list->count(), 6);
+    // Exactly four whole rows, none cut at the bottom.
+    QCOMPARE(list->height(), 4 * list->sizeHintForRow(0) + 2 * list->frameWidth());
+    // The long name's row is no wider than the view (its text is elided there), and the list
+    // does not scroll sideways.
+    QVERIFY(list->visualItemRect(list->item(5)).width() <= list->viewport()->width());
+    QCOMPARE(list->horizontalScrollBar()->maximum(), 0);
+    QCOMPARE(list->item(5)->toolTip(), longest);
+  }
+  auto* grid = d->findChild<QTableWidget*>(QStringLiteral("gridWeights"));
+  QVERIFY(grid);
+  // One line per name, elided, never wrapped over the cell's borders.
+  QVERIFY(!grid->wordWrap());
+  QCOMPARE(grid->textElideMode(), Qt::ElideRight);
+  QCOMPARE(grid->item(5, 0)->text(), longest);
+  QCOMPARE(grid->item(5, 0)->toolTip(), longest);
 }
 
 }  // namespace tnw
