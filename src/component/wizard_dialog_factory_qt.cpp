@@ -14,6 +14,17 @@
 
 namespace tnw {
 
+namespace {
+
+// A new dialog with the size it is shown with, so that the component centres it by that size.
+template <class Dialog>
+std::unique_ptr<WizardDialog> settled(std::unique_ptr<Dialog> dialog) {
+  dialog->settleSize();
+  return dialog;
+}
+
+}  // namespace
+
 WizardDialogFactoryQt::WizardDialogFactoryQt(UiServices& ui) : m_ui(ui) {}
 
 bool WizardDialogFactoryQt::haveApplication() const {
@@ -26,19 +37,19 @@ bool WizardDialogFactoryQt::haveApplication() const {
 std::unique_ptr<WizardDialog> WizardDialogFactoryQt::createSelMethod(WizardContext& context,
                                                                      SelMethodEvents& events) {
   if (!haveApplication()) return nullptr;
-  return std::make_unique<SelMethodDialog>(context, m_ui, events);
+  return settled(std::make_unique<SelMethodDialog>(context, m_ui, events));
 }
 
 std::unique_ptr<WizardDialog> WizardDialogFactoryQt::createDirectA(WizardContext& context,
                                                                    DirectAEvents& events) {
   if (!haveApplication()) return nullptr;
-  return std::make_unique<DirectADialog>(context, m_ui, events);
+  return settled(std::make_unique<DirectADialog>(context, m_ui, events));
 }
 
 std::unique_ptr<WizardDialog> WizardDialogFactoryQt::createTradeOffsA(WizardContext& context,
                                                                       TradeOffsAEvents& events) {
   if (!haveApplication()) return nullptr;
-  return std::make_unique<TradeOffsADialog>(context, m_ui, events);
+  return settled(std::make_unique<TradeOffsADialog>(context, m_ui, events));
 }
 
 void WizardDialogFactoryQt::release(std::unique_ptr<WizardDialog> dialog) {

@@ -3,6 +3,9 @@
 // Qt
 #include <QCloseEvent>
 #include <QEvent>
+#include <QLayout>
+#include <QMetaObject>
+#include <QShowEvent>
 
 namespace tnw {
 
@@ -38,7 +41,38 @@ ScreenSize WizardDialogQt::dialogSize() const {
   return {size.width(), size.height()};
 }
 
-void WizardDialogQt::moveDialog(int left, int top) { move(left, top); }
+void WizardDialogQt::moveDialog(int left, int top) {
+  move(left, top);
+  m_placement = Placement{QPoint(left, top), frameGeometry().size()};
+}
+
+void WizardDialogQt::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  // The window's frame is known once the window is shown, after the events now pending.
+  if (m_placement)
+    QMetaObject::invokeMethod(
+        this, [this] { keepCentreWithFrame(); }, Qt::QueuedConnection);
+}
+
+void WizardDialogQt::keepCentreWithFrame() {
+  if (!m_placement || !isVisible()) return;
+  // Placed before it had a frame, the dialog grew by the frame around it: it moves back by half
+  // of that, so that the whole window keeps the centre it was given. This happens once.
+  const Placement placed = *m_placement;
+  m_placement.reset();
+  const QRect frame = frameGeometry();
+  const QSize grown = frame.size() - placed.size;
+  if (grown.isNull()) return;
+  move(placed.topLeft.x() - grown.width() / 2, placed.topLeft.y() - grown.height() / 2);
+}
+
+void WizardDialogQt::settleSize() {
+  // What showing a window does first; measured before that, a dialog whose layout asks for more
+  // than its initial size would be centred for a size it never has.
+  ensurePolished();
+  if (QLayout* l = layout()) l->activate();
+  if (!testAttribute(Qt::WA_Resized)) adjustSize();
+}
 
 void WizardDialogQt::reject() { closeRequested(); }
 

@@ -4,6 +4,11 @@
 
 // Qt
 #include <QDialog>
+#include <QPoint>
+#include <QSize>
+
+// Std
+#include <optional>
 
 namespace tnw {
 
@@ -30,6 +35,10 @@ class WizardDialogQt : public QDialog, public WizardDialog {
   // Moves the outer top-left corner.
   void moveDialog(int left, int top) override;
 
+  // Gives the dialog, before it is first shown, the size that showing it would give: its layout
+  // run and, unless it was sized already, the size the layout asks for.
+  void settleSize();
+
   // Escape: the same as the close box.
   void reject() override;
 
@@ -40,10 +49,20 @@ class WizardDialogQt : public QDialog, public WizardDialog {
   virtual void activated() {}
 
   void closeEvent(QCloseEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   void changeEvent(QEvent* event) override;
 
  private:
+  // Where moveDialog put the dialog and the outer size it had then.
+  struct Placement {
+    QPoint topLeft;
+    QSize size;
+  };
+
   void showWithModality(Qt::WindowModality modality);
+  void keepCentreWithFrame();
+
+  std::optional<Placement> m_placement;
 };
 
 }  // namespace tnw

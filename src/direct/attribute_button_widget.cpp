@@ -7,6 +7,8 @@
 #include <QDrag>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QStyleOptionButton>
+#include <QStylePainter>
 
 namespace tnw {
 AttributeButtonWidget::AttributeButtonWidget(const QString& objectName, int index, QWidget* parent)
@@ -60,6 +62,25 @@ QSize AttributeButtonWidget::sizeHint() const {
   const QSize hint = QPushButton::sizeHint();
   // Long names are elided by the layout's width; keep a readable minimum.
   return {std::max(hint.width(), fontMetrics().averageCharWidth() * 10), hint.height()};
+}
+
+QSize AttributeButtonWidget::minimumSizeHint() const {
+  return {fontMetrics().horizontalAdvance(QStringLiteral("Mmmm\u2026")) + 24, sizeHint().height()};
+}
+
+QString AttributeButtonWidget::shownText() const {
+  // The room inside the style sheet's border and padding (see applyStyle).
+  const int border = m_marked ? 3 : 1;
+  const int room = width() - 2 * border - (m_marked ? 22 : 8) - 8;
+  return fontMetrics().elidedText(text(), Qt::ElideRight, std::max(room, 0));
+}
+
+void AttributeButtonWidget::paintEvent(QPaintEvent*) {
+  QStylePainter painter(this);
+  QStyleOptionButton option;
+  initStyleOption(&option);
+  option.text = shownText();
+  painter.drawControl(QStyle::CE_PushButton, option);
 }
 
 void AttributeButtonWidget::mousePressEvent(QMouseEvent* event) {

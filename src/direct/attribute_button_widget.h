@@ -37,8 +37,14 @@ class AttributeButtonWidget : public QPushButton {
 
   // Wide enough for a short name to read well.
   QSize sizeHint() const override;
+  // Narrow enough that a long name never widens the list or box that holds the button.
+  QSize minimumSizeHint() const override;
+  // The caption as it is painted now: the whole name, or its start and an ellipsis.
+  QString shownText() const;
 
  protected:
+  // Paints the button with its caption elided to the room inside its frame.
+  void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
 

@@ -2,6 +2,11 @@
 
 // Qt
 #include <QMouseEvent>
+#include <QPainter>
+#include <QStyle>
+
+// Std
+#include <algorithm>
 
 namespace tnw {
 
@@ -9,6 +14,34 @@ ClickableLabelWidget::ClickableLabelWidget(const QString& objectName, int index,
     : QLabel(parent), m_index(index) {
   setObjectName(objectName);
   setProperty("index", index);
+}
+
+void ClickableLabelWidget::setElided(bool elided) {
+  m_elided = elided;
+  updateGeometry();
+  update();
+}
+
+QString ClickableLabelWidget::shownText() const {
+  if (!m_elided) return text();
+  return fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
+}
+
+QSize ClickableLabelWidget::minimumSizeHint() const {
+  const QSize size = QLabel::minimumSizeHint();
+  if (!m_elided) return size;
+  return {std::min(size.width(), fontMetrics().horizontalAdvance(QStringLiteral("Mmmm\u2026"))),
+          size.height()};
+}
+
+void ClickableLabelWidget::paintEvent(QPaintEvent* event) {
+  if (!m_elided) {
+    QLabel::paintEvent(event);
+    return;
+  }
+  QPainter p(this);
+  style()->drawItemText(&p, contentsRect(), static_cast<int>(alignment()), palette(), isEnabled(),
+                        shownText(), foregroundRole());
 }
 
 void ClickableLabelWidget::mouseReleaseEvent(QMouseEvent* event) {

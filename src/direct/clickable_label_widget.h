@@ -15,6 +15,13 @@ class ClickableLabelWidget : public QLabel {
 
   // The control-array index of the label.
   int index() const { return m_index; }
+  // Whether a text wider than the label is shortened with an ellipsis (and the label asks for
+  // no more width than a few letters), instead of widening the label.
+  void setElided(bool elided);
+  // The text as it is painted now: the whole text, or its start and an ellipsis when elided.
+  QString shownText() const;
+
+  QSize minimumSizeHint() const override;
 
  signals:
   // The label was clicked with the left button.
@@ -22,9 +29,11 @@ class ClickableLabelWidget : public QLabel {
 
  protected:
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   int m_index = 0;
+  bool m_elided = false;
 };
 
 }  // namespace tnw

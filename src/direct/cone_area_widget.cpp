@@ -1,5 +1,7 @@
 #include "direct/cone_area_widget.h"
 
+#include "direct/preference_cone.h"
+
 // Qt
 #include <QFrame>
 #include <QMouseEvent>
@@ -98,9 +100,14 @@ QSize ConeAreaWidget::sizeHint() const { return {240, 240}; }
 QSize ConeAreaWidget::minimumSizeHint() const { return {160, 160}; }
 
 void ConeAreaWidget::layoutHandles() {
+  // The handles are placed on the square in pixels, kept whole inside it by the cone geometry.
+  const QRectF sq = squareRect();
+  const PreferenceCone pixels(static_cast<float>(sq.width()), static_cast<float>(kHandlePixels));
   for (std::size_t i = 0; i < m_handles.size(); ++i) {
-    const QPointF c = toPixels(m_handlePos[i]);
-    m_handles[i]->move(qRound(c.x() - kHandlePixels / 2.0), qRound(c.y() - kHandlePixels / 2.0));
+    const QPointF c = toPixels(m_handlePos[i]) - sq.topLeft();
+    const IntPoint at =
+        pixels.handleTopLeft({static_cast<float>(c.x()), static_cast<float>(c.y())});
+    m_handles[i]->move(qRound(sq.left()) + at.x, qRound(sq.top()) + at.y);
   }
 }
 
@@ -146,6 +153,8 @@ bool ConeAreaWidget::eventFilter(QObject* watched, QEvent* event) {
       auto* me = static_cast<QMouseEvent*>(event);
       if (me->button() != Qt::LeftButton) return false;
       m_dragging = index;
+      // Measured from the handle's centre: the point goes where the handle is dragged, also for
+      // a handle kept inside the square beside its point.
       m_grabOffset = me->position() - QPointF(kHandlePixels / 2.0, kHandlePixels / 2.0);
       return true;
     }

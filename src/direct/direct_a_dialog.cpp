@@ -8,6 +8,7 @@
 #include "direct/drag_payload.h"
 #include "direct/orientation_images_qt.h"
 #include "direct/ratio_box_filter_qt.h"
+#include "tradeoffs/elided_label_widget.h"
 
 // Qt
 #include <QComboBox>
@@ -278,6 +279,8 @@ void DirectADialog::renderControls() {
         if (auto* label = qobject_cast<QLabel*>(w))
           label->setPixmap(orientationPixmap(caption, 32, label->devicePixelRatioF()));
       }
+    } else if (auto* elided = qobject_cast<ElidedLabelWidget*>(w)) {
+      elided->setFullText(caption);
     } else if (auto* label = qobject_cast<QLabel*>(w)) {
       if (label->text() != caption) label->setText(caption);
     } else if (auto* text = qobject_cast<QTextEdit*>(w)) {

@@ -7,6 +7,7 @@
 #include "direct/preference_chart_widget.h"
 #include "direct/ratio_box_filter_qt.h"
 #include "direct/status_lights_widget.h"
+#include "tradeoffs/elided_label_widget.h"
 
 // Qt
 #include <QComboBox>
@@ -177,7 +178,8 @@ void DirectJudgmentPageWidget::render(const DirectAPresenter& presenter,
   renderCone(presenter);
   const StatusLamps& lamps = presenter.lamps();
   for (int i = 0; i < 3; ++i) {
-    m_lights->setLamp(i, colourFromBgr(lamps.lampColor(i)), lamps.labelHighlighted(i));
+    m_lights->setLamp(i, colourFromBgr(lamps.lampColor(i)), lamps.labelHighlighted(i),
+                      colourFromBgr(lamps.labelTextColor(i)));
   }
   const QString why = QString::fromStdString(page.diagnosis().text);
   if (m_diagnosis->text() != why) m_diagnosis->setText(why);

@@ -181,7 +181,9 @@ void DirectOrderPageWidget::setAttributes(const QVector<AttributeFace>& attribut
     QPalette grey = r.label->palette();
     grey.setColor(QPalette::WindowText, grey.color(QPalette::Disabled, QPalette::WindowText));
     r.label->setPalette(grey);
-    r.label->setToolTip(tr("Placed in the importance order"));
+    r.label->setElided(true);
+    r.label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    r.label->setToolTip(tr("%1\nPlaced in the importance order").arg(attributes[j].name));
     r.label->hide();
     row->addWidget(r.option);
     row->addWidget(r.button, 1);

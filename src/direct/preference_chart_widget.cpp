@@ -1,6 +1,7 @@
 #include "direct/preference_chart_widget.h"
 
 #include "direct/cone_area_widget.h"
+#include "tradeoffs/elided_label_widget.h"
 
 // Qt
 #include <QLabel>
@@ -13,13 +14,14 @@ namespace tnw {
 PreferenceChartWidget::PreferenceChartWidget(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("picPCGraph"));
   m_cone = new ConeAreaWidget(this);
-  m_target = new QLabel(this);
+  // A name longer than the chart is wide is shortened with an ellipsis; the tooltip has it whole.
+  m_target = new ElidedLabelWidget(QString(), this);
   m_target->setObjectName(QStringLiteral("lblChartTarAtt"));
-  m_target->setToolTip(tr("Vertical axis: the weight of the target attribute (Wj)"));
-  m_reference = new QLabel(this);
+  m_target->setToolTipHeading(tr("Vertical axis: the weight of the target attribute (Wj)"));
+  m_reference = new ElidedLabelWidget(QString(), this);
   m_reference->setObjectName(QStringLiteral("lblChartRefAtt"));
   m_reference->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  m_reference->setToolTip(tr("Horizontal axis: the weight of the reference attribute (Wr)"));
+  m_reference->setToolTipHeading(tr("Horizontal axis: the weight of the reference attribute (Wr)"));
 }
 
 QSize PreferenceChartWidget::sizeHint() const {
@@ -41,9 +43,11 @@ void PreferenceChartWidget::resizeEvent(QResizeEvent* event) {
   const int side = std::max(10, std::min(width() - 2 * margin, height() - 2 * line - 2 * margin));
   const int left = (width() - side) / 2;
   const int top = (height() - side - 2 * line) / 2 + line;
-  m_target->setGeometry(left, top - line, side, line);
+  // The names may use the whole width beside the square: the target's starts at the square's
+  // left edge, the reference's ends at its right edge.
+  m_target->setGeometry(left, top - line, std::max(side, width() - left - margin), line);
   m_cone->setGeometry(left, top, side, side);
-  m_reference->setGeometry(left, top + side, side, line);
+  m_reference->setGeometry(margin, top + side, left + side - margin, line);
 }
 
 }  // namespace tnw

@@ -8,6 +8,7 @@ class QLabel;
 namespace tnw {
 
 class ConeAreaWidget;
+class ElidedLabelWidget;
 
 // The judgment chart (picPCGraph): the square cone area with the target's name above it (the
 // vertical axis, lblChartTarAtt) and the reference's name below it (the horizontal axis,
@@ -22,8 +23,8 @@ class PreferenceChartWidget : public QWidget {
   // The cone area (picTradeOffsRange).
   ConeAreaWidget* coneArea() const { return m_cone; }
   // The vertical axis name (lblChartTarAtt) and the horizontal one (lblChartRefAtt).
-  QLabel* targetAxis() const { return m_target; }
-  QLabel* referenceAxis() const { return m_reference; }
+  ElidedLabelWidget* targetAxis() const { return m_target; }
+  ElidedLabelWidget* referenceAxis() const { return m_reference; }
 
   // Room for the cone area and a line of text above and below it.
   QSize sizeHint() const override;
@@ -34,8 +35,8 @@ class PreferenceChartWidget : public QWidget {
 
  private:
   ConeAreaWidget* m_cone = nullptr;
-  QLabel* m_target = nullptr;
-  QLabel* m_reference = nullptr;
+  ElidedLabelWidget* m_target = nullptr;
+  ElidedLabelWidget* m_reference = nullptr;
 };
 
 }  // namespace tnw

@@ -43,7 +43,9 @@ int PreferenceCone::toPixel(double value) {
 
 IntPoint PreferenceCone::handleTopLeft(HandlePoint p) const {
   const double half = m_handleSize / 2.0;
-  return {toPixel(p.x - half), toPixel(p.y - half)};
+  const double last = std::max(0.0, static_cast<double>(m_side) - m_handleSize);
+  const auto inside = [last](double v) { return std::isfinite(v) ? std::clamp(v, 0.0, last) : v; };
+  return {toPixel(inside(p.x - half)), toPixel(inside(p.y - half))};
 }
 
 std::array<IntPoint, 3> PreferenceCone::triangle(HandlePoint first, HandlePoint second) const {

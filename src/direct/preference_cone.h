@@ -42,7 +42,9 @@ class PreferenceCone {
   bool validHandle(HandlePoint p) const;
   // The point kept inside the area, for a handle being dragged.
   HandlePoint clampToArea(HandlePoint p) const;
-  // The top-left corner of the handle control centred on p.
+  // The top-left corner of the handle control centred on p, moved as little as needed to keep
+  // the whole control inside the area: a handle near an edge (a large or a tiny ratio puts its
+  // point close to the left or the bottom edge) is drawn in full, beside its point.
   IntPoint handleTopLeft(HandlePoint p) const;
   // The filled triangle of Draw_PreferenceCone: the bottom-left corner (0, S - 2) and the two
   // handle points, rounded to whole pixels.

@@ -1,6 +1,24 @@
 #include "direct/status_lamps.h"
 
+// Std
+#include <algorithm>
+#include <cmath>
+
 namespace tnw {
+namespace {
+
+// The relative luminance of an sRGB channel value 0-255, linearised.
+double linear(std::uint32_t channel) {
+  const double c = static_cast<double>(channel & 0xFFu) / 255.0;
+  return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+}
+
+// The relative luminance of a colour in 0x00BBGGRR form.
+double luminance(std::uint32_t bgr) {
+  return 0.2126 * linear(bgr) + 0.7152 * linear(bgr >> 8) + 0.0722 * linear(bgr >> 16);
+}
+
+}  // namespace
 
 StatusLamps::StatusLamps() { clear(); }
 
@@ -66,6 +84,18 @@ std::uint32_t StatusLamps::lampColor(int i) const {
 
 bool StatusLamps::labelHighlighted(int i) const {
   return i >= 0 && i < 3 && m_highlighted[static_cast<std::size_t>(i)];
+}
+
+std::uint32_t StatusLamps::labelTextColor(int i) const { return readableOn(lampColor(i)); }
+
+double StatusLamps::contrastRatio(std::uint32_t a, std::uint32_t b) {
+  const double la = luminance(a);
+  const double lb = luminance(b);
+  return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
+}
+
+std::uint32_t StatusLamps::readableOn(std::uint32_t background) {
+  return contrastRatio(background, kBlack) >= contrastRatio(background, kWhite) ? kBlack : kWhite;
 }
 
 }  // namespace tnw

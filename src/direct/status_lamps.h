@@ -22,6 +22,7 @@ class StatusLamps {
   static constexpr std::uint32_t kWhite = 0xFFFFFF;
   static constexpr std::uint32_t kRed = 0x0000FF;   // RGB 255, 0, 0
   static constexpr std::uint32_t kBlue = 0xFF0000;  // RGB 0, 0, 255
+  static constexpr std::uint32_t kBlack = 0x000000;
   // Timer intervals in milliseconds: stopped, the reference choice and invalid, inconsistent.
   static constexpr int kTimerStopped = 0;
   static constexpr int kTimerSlow = 300;
@@ -49,8 +50,17 @@ class StatusLamps {
   JudgmentState state() const { return m_state; }
   // The colour of lamp i (0 to 2).
   std::uint32_t lampColor(int i) const;
-  // Whether label i is drawn in the highlight-text colour (lit) rather than black.
+  // Whether label i is lit: drawn bold, in the colour that reads best on its lamp.
   bool labelHighlighted(int i) const;
+  // The colour of label i's text on its lamp as it is now, black or white, whichever contrasts
+  // more with the lamp's colour: the state stays readable in every phase of a blink.
+  std::uint32_t labelTextColor(int i) const;
+
+  // The contrast ratio of two colours, (L1 + 0.05) / (L2 + 0.05) of their relative luminances,
+  // from 1 (equal) to 21 (black and white).
+  static double contrastRatio(std::uint32_t a, std::uint32_t b);
+  // Black or white, whichever contrasts more with the background colour.
+  static std::uint32_t readableOn(std::uint32_t background);
   // Timer1's interval in milliseconds; 0 when stopped.
   int timerInterval() const { return m_interval; }
   // The indicator's fill colour.

@@ -27,17 +27,23 @@ StatusLightsWidget::StatusLightsWidget(QWidget* parent) : QFrame(parent) {
     layout->addWidget(lamp, 1);
     m_lamps[static_cast<std::size_t>(i)] = lamp;
     m_colours[static_cast<std::size_t>(i)] = QColor(128, 128, 128);
+    m_texts[static_cast<std::size_t>(i)] = QColor(Qt::black);
     applyStyle(i);
   }
 }
 
-void StatusLightsWidget::setLamp(int index, const QColor& colour, bool lit) {
+void StatusLightsWidget::setLamp(int index, const QColor& colour, bool lit, const QColor& text) {
   if (index < 0 || index > 2) return;
   const auto i = static_cast<std::size_t>(index);
-  if (m_colours[i] == colour && m_lit[i] == lit) return;
+  if (m_colours[i] == colour && m_lit[i] == lit && m_texts[i] == text) return;
   m_colours[i] = colour;
   m_lit[i] = lit;
+  m_texts[i] = text;
   applyStyle(index);
+}
+
+QColor StatusLightsWidget::textColour(int index) const {
+  return (index >= 0 && index <= 2) ? m_texts[static_cast<std::size_t>(index)] : QColor();
 }
 
 QColor StatusLightsWidget::lampColour(int index) const {
@@ -54,7 +60,7 @@ QLabel* StatusLightsWidget::lamp(int index) const {
 
 void StatusLightsWidget::applyStyle(int index) {
   const auto i = static_cast<std::size_t>(index);
-  const QColor text = m_lit[i] ? palette().color(QPalette::HighlightedText) : QColor(Qt::black);
+  const QColor& text = m_texts[i];
   m_lamps[i]->setStyleSheet(
       QStringLiteral("QLabel { background-color: %1; color: %2; border: 1px solid #404040;"
                      " border-radius: 8px; padding: 2px 6px; font-weight: %3; }")

@@ -20,8 +20,10 @@ class StatusLightsWidget : public QFrame {
   // Three grey lamps with black labels.
   explicit StatusLightsWidget(QWidget* parent = nullptr);
 
-  // Colours lamp index (0 to 2); a lit lamp's label is drawn in the highlight-text colour.
-  void setLamp(int index, const QColor& colour, bool lit);
+  // Colours lamp index (0 to 2) and its label's text; a lit lamp's label is bold.
+  void setLamp(int index, const QColor& colour, bool lit, const QColor& text);
+  // The colour of lamp index's label text.
+  QColor textColour(int index) const;
   // The colour lamp index shows now.
   QColor lampColour(int index) const;
   // Whether lamp index is lit.
@@ -35,6 +37,7 @@ class StatusLightsWidget : public QFrame {
   std::array<QLabel*, 3> m_lamps{};
   std::array<QColor, 3> m_colours{};
   std::array<bool, 3> m_lit{};
+  std::array<QColor, 3> m_texts{};
 };
 
 }  // namespace tnw

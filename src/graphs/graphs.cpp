@@ -3,6 +3,7 @@
 #include "common/number_format.h"
 
 // Std
+#include <algorithm>
 #include <cmath>
 
 namespace tnw {
@@ -24,6 +25,18 @@ std::string legendText(const ChartData& d, int entry) {
   return d.legend[static_cast<std::size_t>(entry - 1)];
 }
 
+// The plot's bottom and top in user units: marks are clipped to them.
+constexpr double kPlotBottom = 0.0;
+constexpr double kPlotTop = 100.0;
+
+// The left edge of the user coordinates when the value labels fit the default margin.
+constexpr double kDefaultLeft = -15.0;
+// The gap between a value label and the value axis.
+constexpr double kLabelGap = 3.0;
+
+// A height clipped to the plot.
+double clipped(double y) { return std::clamp(y, kPlotBottom, kPlotTop); }
+
 }  // namespace
 
 double Graphs::MaxValue(int n, int seriesCount, const std::vector<std::array<double, 3>>& data) {
@@ -44,10 +57,37 @@ double Graphs::height(double v, double maxValue) {
   return std::isfinite(h) ? h : 0.0;
 }
 
+std::string Graphs::valueLabel(const ChartData& d, double maxValue, int i) {
+  return formatNumber(i * maxValue / d.divisions, "#,##0.0000");
+}
+
+double Graphs::widestValueLabel(const DrawingSurface& s, const ChartData& d, double maxValue) {
+  double widest = 0.0;
+  for (int i = 1; i <= d.divisions; ++i) {
+    widest = std::max(widest, s.textWidth(valueLabel(d, maxValue, i)));
+  }
+  return widest;
+}
+
+void Graphs::setScaleFittingLabels(DrawingSurface& s, const ChartData& d, double maxValue) {
+  double left = kDefaultLeft;
+  s.setScale(left, 120.0, 140.0, -30.0);
+  // A label wider than the margin (two integer digits and more) widens the margin instead of
+  // running over the left edge. A text's width in user units grows with the width of the user
+  // coordinates, so the new edge is solved for with the width per unit measured on this scale.
+  for (int round = 0; round < 3; ++round) {
+    const double widest = widestValueLabel(s, d, maxValue);
+    if (!(widest > 0.0) || -kLabelGap - widest >= left - 1e-9) return;
+    const double perUnit = std::min(widest / (140.0 - left), 0.5);
+    left = std::min(left - 1.0, (-kLabelGap - 140.0 * perUnit) / (1.0 - perUnit) - 0.5);
+    s.setScale(left, 120.0, 140.0, -30.0);
+  }
+}
+
 void Graphs::drawAxesAndGrid(DrawingSurface& s, const ChartData& d, double maxValue) const {
   s.clear();
   s.setAutoRedraw(true);
-  s.setScale(-15.0, 120.0, 140.0, -30.0);
+  setScaleFittingLabels(s, d, maxValue);
   s.setLineStyle(LineStyle::Solid);
   s.setLineWidth(1);
   s.setCurrentX((100.0 - s.textWidth(d.title)) / 2.0);
@@ -59,8 +99,8 @@ void Graphs::drawAxesAndGrid(DrawingSurface& s, const ChartData& d, double maxVa
     const double y = i * 100.0 / d.divisions;
     s.setLineStyle(LineStyle::Dot);
     s.line(0.0, y, 100.0, y, GridColour);
-    const std::string label = formatNumber(i * maxValue / d.divisions, "#,##0.0000");
-    s.setCurrentX(-3.0 - s.textWidth(label));
+    const std::string label = valueLabel(d, maxValue, i);
+    s.setCurrentX(-kLabelGap - s.textWidth(label));
     s.setCurrentY(y - s.textHeight(label) / 2.0);
     s.print(label);
   }
@@ -79,6 +119,16 @@ void Graphs::drawAxesAndGrid(DrawingSurface& s, const ChartData& d, double maxVa
   }
 }
 
+void Graphs::belowMarker(DrawingSurface& s, double middle, double width, double height,
+                         int colour) {
+  if (height >= kPlotBottom) return;
+  // A chevron pointing down at the clipped mark: the value lies below the value axis.
+  const double half = std::min(2.0, width / 4.0);
+  s.setLineWidth(1);
+  s.line(middle - half, kBelowMarkerTop, middle, kPlotBottom + 0.5, colour);
+  s.line(middle, kPlotBottom + 0.5, middle + half, kBelowMarkerTop, colour);
+}
+
 void Graphs::drawHLCMarks(DrawingSurface& s, const ChartData& d, double maxValue,
                           const int colours[3], bool joined) {
   if (d.n < 1) return;
@@ -91,11 +141,16 @@ void Graphs::drawHLCMarks(DrawingSurface& s, const ChartData& d, double maxValue
     const double y2 = height(value(d, i, 2), maxValue);
     const double y3 = height(value(d, i, 3), maxValue);
     s.setLineWidth(1);
-    s.line(middle - narrow / 2.0, y1, middle - narrow / 2.0 + narrow, y1, colours[0]);
-    s.line(middle - narrow / 2.0, y2, middle - narrow / 2.0 + narrow, y2, colours[1]);
-    if (joined) s.line(middle, y1, middle, y2, 0);
+    s.line(middle - narrow / 2.0, clipped(y1), middle - narrow / 2.0 + narrow, clipped(y1),
+           colours[0]);
+    s.line(middle - narrow / 2.0, clipped(y2), middle - narrow / 2.0 + narrow, clipped(y2),
+           colours[1]);
+    if (joined) s.line(middle, clipped(y1), middle, clipped(y2), 0);
     s.setLineWidth(2);
-    s.line(middle - w / 2.0, y3, middle - w / 2.0 + w, y3, colours[2]);
+    s.line(middle - w / 2.0, clipped(y3), middle - w / 2.0 + w, clipped(y3), colours[2]);
+    belowMarker(s, middle - narrow / 4.0, narrow / 2.0, y1, colours[0]);
+    belowMarker(s, middle + narrow / 4.0, narrow / 2.0, y2, colours[1]);
+    belowMarker(s, middle, narrow / 2.0, y3, colours[2]);
   }
   s.setLineWidth(1);
 }
@@ -124,7 +179,9 @@ void Graphs::Display_VBarGraphMain(DrawingSurface& s, const ChartData& d) const 
     const double w = slot * 75.0 / 100.0;
     for (int i = 1; i <= d.n; ++i) {
       const double middle = i * slot - slot / 2.0;
-      s.fillBox(middle - w / 2.0, 0.0, middle + w / 2.0, height(value(d, i, 1), max), kBarColour);
+      const double y = height(value(d, i, 1), max);
+      s.fillBox(middle - w / 2.0, 0.0, middle + w / 2.0, clipped(y), kBarColour);
+      belowMarker(s, middle, w, y, 0);
     }
   }
   legendEntry(s, 1, legendText(d, 1), kBarColour, true);

@@ -34,8 +34,15 @@ class Graphs {
 
   // The palette colour of the bars.
   static constexpr int kBarColour = 9;
+  // The top of the marker drawn over a mark whose value lies below the value axis.
+  static constexpr double kBelowMarkerTop = 4.5;
 
  private:
+  static std::string valueLabel(const ChartData& d, double maxValue, int i);
+  static double widestValueLabel(const DrawingSurface& s, const ChartData& d, double maxValue);
+  static void setScaleFittingLabels(DrawingSurface& s, const ChartData& d, double maxValue);
+  static void belowMarker(DrawingSurface& s, double middle, double width, double height,
+                          int colour);
   void drawAxesAndGrid(DrawingSurface& s, const ChartData& d, double maxValue) const;
   static void drawHLCMarks(DrawingSurface& s, const ChartData& d, double maxValue,
                            const int colours[3], bool joined);

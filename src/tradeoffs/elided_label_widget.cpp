@@ -14,7 +14,24 @@ ElidedLabelWidget::ElidedLabelWidget(const QString& text, QWidget* parent) : QLa
 void ElidedLabelWidget::setFullText(const QString& text) {
   if (this->text() == text) return;
   setText(text);
-  setToolTip(text);
+  updateToolTip();
+}
+
+void ElidedLabelWidget::setToolTipHeading(const QString& heading) {
+  m_heading = heading;
+  updateToolTip();
+}
+
+void ElidedLabelWidget::updateToolTip() {
+  if (m_heading.isEmpty()) {
+    setToolTip(text());
+  } else {
+    setToolTip(text().isEmpty() ? m_heading : m_heading + QLatin1Char('\n') + text());
+  }
+}
+
+QString ElidedLabelWidget::shownText() const {
+  return fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
 }
 
 QSize ElidedLabelWidget::minimumSizeHint() const { return sizeHint(); }
@@ -31,7 +48,7 @@ QSize ElidedLabelWidget::sizeHint() const {
 void ElidedLabelWidget::paintEvent(QPaintEvent*) {
   QPainter p(this);
   const QRect r = contentsRect();
-  const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, r.width());
+  const QString shown = shownText();
   style()->drawItemText(&p, r, static_cast<int>(alignment()), palette(), isEnabled(), shown,
                         foregroundRole());
 }

@@ -16,6 +16,10 @@ class ElidedLabelWidget : public QLabel {
 
   // Sets the text and its tooltip.
   void setFullText(const QString& text);
+  // A line shown in the tooltip above the whole text (empty: the text alone).
+  void setToolTipHeading(const QString& heading);
+  // The text as it is painted now: the whole text, or its start and an ellipsis.
+  QString shownText() const;
 
   // Small enough that a long name never widens the dialog.
   QSize minimumSizeHint() const override;
@@ -24,6 +28,11 @@ class ElidedLabelWidget : public QLabel {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void updateToolTip();
+
+  QString m_heading;
 };
 
 }  // namespace tnw

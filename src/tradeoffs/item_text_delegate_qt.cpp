@@ -2,6 +2,7 @@
 
 // Qt
 #include <QApplication>
+#include <QListView>
 #include <QPainter>
 #include <QStyle>
 
@@ -33,6 +34,15 @@ const QStaticText& ItemTextDelegateQt::laidOut(const QString& text, const QFont&
   return *it;
 }
 
+QSize ItemTextDelegateQt::sizeHint(const QStyleOptionViewItem& option,
+                                   const QModelIndex& index) const {
+  QSize size = QStyledItemDelegate::sizeHint(option, index);
+  // In a list, an item asks for no width of its own: it takes the view's width and a long
+  // text is elided to it, instead of widening the rows past the view where they are cut.
+  if (qobject_cast<const QListView*>(option.widget) != nullptr) size.setWidth(1);
+  return size;
+}
+
 void ItemTextDelegateQt::paint(QPainter* painter, const QStyleOptionViewItem& option,
                                const QModelIndex& index) const {
   QStyleOptionViewItem opt = option;
@@ -42,15 +52,16 @@ void ItemTextDelegateQt::paint(QPainter* painter, const QStyleOptionViewItem& op
   const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, widget) + 1;
   const QRect textRect = opt.rect.adjusted(margin, 0, -margin, 0);
   const QStaticText& text = laidOut(opt.text, opt.font);
-  if (!opt.icon.isNull() || text.size().width() > textRect.width()) {
-    QStyledItemDelegate::paint(painter, option, index);
-    return;
-  }
   if (m_gridLines) {
     const QColor grid = QColor::fromRgba(
         static_cast<QRgb>(style->styleHint(QStyle::SH_Table_GridLineColor, &opt, widget)));
     painter->fillRect(QRect(opt.rect.right(), opt.rect.top(), 1, opt.rect.height()), grid);
     painter->fillRect(QRect(opt.rect.left(), opt.rect.bottom(), opt.rect.width(), 1), grid);
+  }
+  if (!opt.icon.isNull() || text.size().width() > textRect.width()) {
+    // The style elides the text to the cell, as the view's elide mode says.
+    QStyledItemDelegate::paint(painter, option, index);
+    return;
   }
   // The selection, a cell's own background and the focus frame as the style draws them; a plain
   // item has none of them (the view has drawn the row's background).

@@ -22,6 +22,8 @@ class ItemTextDelegateQt : public QStyledItemDelegate {
   // bottom grid line.
   explicit ItemTextDelegateQt(QObject* parent = nullptr, bool gridLines = false);
 
+  // The style's size of the item; in a list, no width of its own.
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
   // Paints the item's panel with the style and its text from the cache.
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override;

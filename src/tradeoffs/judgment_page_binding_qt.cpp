@@ -176,6 +176,9 @@ void JudgmentPageBindingQt::renderSelection() {
     for (QListWidget* list : {c.lstTradeOffFirstC, c.lstTradeOffSecondC}) {
       list->clear();
       list->addItems(names);
+      // A long name is elided in its row; its tooltip has it whole.
+      for (int i = 0; i < list->count(); ++i) list->item(i)->setToolTip(names[i]);
+      TradeOffsJudgmentWidget::showWholeRows(list);
     }
   }
   const ListState* states[2] = {&s.lstTradeOffFirstC, &s.lstTradeOffSecondC};

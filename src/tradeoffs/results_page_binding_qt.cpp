@@ -79,10 +79,12 @@ bool ResultsPageBindingQt::renderGrid(QTableWidget& table, const GridState& grid
         // Names read from the left, numbers line up on the right.
         item->setTextAlignment(c == 0 ? (Qt::AlignLeft | Qt::AlignVCenter)
                                       : (Qt::AlignRight | Qt::AlignVCenter));
+        if (c == 0) item->setToolTip(text);
         table.setItem(r, c, item);
         changed = true;
       } else if (item->text() != text) {
         item->setText(text);
+        if (c == 0) item->setToolTip(text);
         changed = true;
       }
     }

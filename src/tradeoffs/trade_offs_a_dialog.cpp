@@ -12,6 +12,8 @@
 #include "tradeoffs/trade_offs_results_widget.h"
 
 // Qt
+#include <QDate>
+#include <QFileInfo>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -167,6 +169,9 @@ TradeOffsPrintoutQt TradeOffsADialog::printout() const {
   const auto& c = m_results->controls();
   TradeOffsPrintoutQt out;
   out.title = tr("%1: trade-off results").arg(windowTitle());
+  out.modelFile = QFileInfo(QString::fromStdString(m_context.PathAndFileName)).fileName();
+  out.method = QStringLiteral("TradeOffs");
+  out.date = QDate::currentDate();
   out.weights = TradeOffsPrintoutQt::fromGrid(*c.gridWeights);
   out.regression = TradeOffsPrintoutQt::fromGrid(*c.gridOverallRegression);
   out.comment = c.txtComments->toPlainText();

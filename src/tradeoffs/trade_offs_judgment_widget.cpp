@@ -69,6 +69,14 @@ QLabel* elidedLabel(const char* name, const QString& text, QWidget* parent) {
 
 const char* TradeOffsJudgmentWidget::scoreBoxName(int box) { return kScoreBoxNames[box & 3]; }
 
+void TradeOffsJudgmentWidget::showWholeRows(QListWidget* list) {
+  // The rows' height as the list lays them out; before the list has items, a guess that the
+  // first filling corrects.
+  int row = list->count() > 0 ? list->sizeHintForRow(0) : 0;
+  if (row <= 0) row = list->fontMetrics().height() + 4;
+  list->setFixedHeight(kListRows * row + 2 * list->frameWidth());
+}
+
 TradeOffsJudgmentWidget::TradeOffsJudgmentWidget(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("pageJudgment"));
   auto* top = new QHBoxLayout;
@@ -129,12 +137,12 @@ QWidget* TradeOffsJudgmentWidget::buildSelection() {
   first->setBuddy(m_c.lstTradeOffFirstC);
   auto* second = namedLabel("lblTradeOffSecond", tr("The &second:"), box);
   second->setBuddy(m_c.lstTradeOffSecondC);
-  const int rows = fontMetrics().height() * 4 + 8;
   for (QListWidget* list : {m_c.lstTradeOffFirstC, m_c.lstTradeOffSecondC}) {
     list->setItemDelegate(new ItemTextDelegateQt(list));
     list->setUniformItemSizes(true);
-    list->setMinimumHeight(rows);
-    list->setMaximumHeight(rows);
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list->setTextElideMode(Qt::ElideRight);
+    showWholeRows(list);
   }
 
   auto* grid = new QGridLayout(box);

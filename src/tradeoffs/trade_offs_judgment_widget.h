@@ -71,6 +71,10 @@ class TradeOffsJudgmentWidget : public QWidget {
 
   // The score boxes' objectNames, in the order of Controls::scoreBox.
   static const char* scoreBoxName(int box);
+  // The number of rows the two attribute lists show.
+  static constexpr int kListRows = 4;
+  // Makes an attribute list exactly kListRows of its rows tall, so that no row is cut.
+  static void showWholeRows(QListWidget* list);
 
  private:
   QWidget* buildSelection();

@@ -3,6 +3,7 @@
 #include "tradeoffs/printed_table_qt.h"
 
 // Qt
+#include <QPageLayout>
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QTableWidget>
@@ -74,7 +75,32 @@ TradeOffsPrintoutQt::Table TradeOffsPrintoutQt::fromGrid(const QTableWidget& gri
   return t;
 }
 
+QMarginsF TradeOffsPrintoutQt::printMargins(const QMarginsF& margins, const QMarginsF& minimum) {
+  const auto side = [](double own, double least) {
+    return std::max({own, least, kMinimumMarginMm});
+  };
+  return {side(margins.left(), minimum.left()), side(margins.top(), minimum.top()),
+          side(margins.right(), minimum.right()), side(margins.bottom(), minimum.bottom())};
+}
+
+QString TradeOffsPrintoutQt::pageHeader() const {
+  QStringList parts;
+  if (!modelFile.isEmpty()) parts << QStringLiteral("Model: %1").arg(modelFile);
+  if (!method.isEmpty()) parts << QStringLiteral("Method: %1").arg(method);
+  if (date.isValid()) parts << date.toString(Qt::ISODate);
+  return parts.join(QStringLiteral("    "));
+}
+
+QString TradeOffsPrintoutQt::pageFooter(int index, int count) {
+  return QStringLiteral("Page %1 of %2").arg(index + 1).arg(count);
+}
+
 void TradeOffsPrintoutQt::print(QPagedPaintDevice& device) const {
+  // The device's painted area is its page less these margins.
+  QPageLayout layout = device.pageLayout();
+  layout.setUnits(QPageLayout::Millimeter);
+  device.setPageMargins(printMargins(layout.margins(), layout.minimumMargins()),
+                        QPageLayout::Millimeter);
   QPainter painter(&device);
   const QRectF page(0, 0, device.width(), device.height());
   const int pages = pageCount(painter, page);
@@ -84,15 +110,41 @@ void TradeOffsPrintoutQt::print(QPagedPaintDevice& device) const {
   }
 }
 
+QRectF TradeOffsPrintoutQt::bodyOf(QPainter& painter, const QRectF& page) {
+  // A line for the header and one for the footer, each with a line's gap to the body.
+  const double line =
+      QFontMetricsF(printFont(painter, kTextPoints, false), painter.device()).height();
+  return page.adjusted(0, 2 * line, 0, -2 * line);
+}
+
 int TradeOffsPrintoutQt::pageCount(QPainter& painter, const QRectF& page) const {
-  Flow flow(painter, page, -1);
+  Flow flow(painter, bodyOf(painter, page), -1);
   run(flow);
   return flow.pageIndex() + 1;
 }
 
 void TradeOffsPrintoutQt::renderPage(QPainter& painter, const QRectF& page, int index) const {
-  Flow flow(painter, page, index);
+  drawPageFrame(painter, page, index, pageCount(painter, page));
+  Flow flow(painter, bodyOf(painter, page), index);
   run(flow);
+}
+
+void TradeOffsPrintoutQt::drawPageFrame(QPainter& painter, const QRectF& page, int index,
+                                        int count) const {
+  painter.save();
+  painter.setPen(Qt::black);
+  painter.setFont(printFont(painter, kTextPoints, false));
+  const QFontMetricsF fm(painter.font(), painter.device());
+  const QString header = fm.elidedText(pageHeader(), Qt::ElideMiddle, page.width());
+  painter.drawText(QRectF(page.left(), page.top(), page.width(), fm.height()),
+                   Qt::AlignLeft | Qt::AlignTop, header);
+  painter.setPen(QPen(Qt::gray, 0));
+  const double rule = page.top() + fm.height() * 1.4;
+  painter.drawLine(QPointF(page.left(), rule), QPointF(page.right(), rule));
+  painter.setPen(Qt::black);
+  painter.drawText(QRectF(page.left(), page.bottom() - fm.height(), page.width(), fm.height()),
+                   Qt::AlignHCenter | Qt::AlignBottom, pageFooter(index, count));
+  painter.restore();
 }
 
 void TradeOffsPrintoutQt::run(Flow& flow) const {

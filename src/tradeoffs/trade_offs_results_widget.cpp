@@ -67,6 +67,10 @@ QTableWidget* makeGrid(const char* name, const QStringList& headings, QWidget* p
   grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
   grid->setSelectionMode(QAbstractItemView::NoSelection);
   grid->setAlternatingRowColors(true);
+  // A name longer than its cell ends in an ellipsis on its one line (its tooltip has it whole);
+  // wrapped, it ran over the cell's borders.
+  grid->setWordWrap(false);
+  grid->setTextElideMode(Qt::ElideRight);
   grid->horizontalHeader()->setHighlightSections(false);
   // The number columns take their width when the grid is filled (ResizeToContents would measure
   // every cell each time the grid is shown); the names take the rest.

@@ -72,6 +72,14 @@ class TnwMavtDialogTest : public QObject {
     return dialog->findChild<QPushButton*>(QLatin1String(name));
   }
 
+  static void verifyCentred(QWidget* dialog, int screenWidth, int screenHeight) {
+    const auto centred = [=] {
+      const QRect frame = dialog->frameGeometry();
+      return QPoint((screenWidth - frame.width()) / 2, (screenHeight - frame.height()) / 2);
+    };
+    QTRY_COMPARE(dialog->frameGeometry().topLeft(), centred());
+  }
+
   RecordingUiServices m_ui;
   Host m_host;
 
@@ -114,13 +122,31 @@ class TnwMavtDialogTest : public QObject {
     QVERIFY(d != nullptr);
     QVERIFY(QTest::qWaitForWindowExposed(d));
     QVERIFY(!d->isModal());
-    // Centred with the size the dialog had when it was made, before the window got its frame.
-    const QRect frame = d->frameGeometry();
-    QCOMPARE(frame.left(), (1280 - d->width()) / 2);
-    QCOMPARE(frame.top(), (1024 - d->height()) / 2);
+    // Centred with its frame, which the window gets when it is shown.
+    verifyCentred(d, 1280, 1024);
     QCOMPARE(m_host.log, (std::vector<std::string>{
                              "SendMasseges Select a method to make value judgments between the "
                              "attributes."}));
+  }
+
+  // Every dialog stands in the middle of the screen with the size and frame it is shown with,
+  // not the size it had before its layout ran.
+  void everyDialogIsCentredByItsFinalFrame() {
+    m_ui.setScreenSize({1600, 1200});
+    for (int method = 0; method < 2; ++method) {
+      auto wizard = showWizard();
+      QWidget* d = selMethod();
+      QVERIFY(QTest::qWaitForWindowExposed(d));
+      verifyCentred(d, 1600, 1200);
+      d->findChild<QListWidget*>(QStringLiteral("lstMethods"))->setCurrentRow(method);
+      QTest::mouseClick(button(d, "cmdNext"), Qt::LeftButton);
+      QWidget* m = topLevel(method == 0 ? "frmDirectA" : "frmTradeOffsA");
+      QVERIFY(m != nullptr);
+      QVERIFY(QTest::qWaitForWindowExposed(m));
+      verifyCentred(m, 1600, 1200);
+      wizard.reset();
+      QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
   }
 
   void showTNWizardTwiceShowsOneDialog() {

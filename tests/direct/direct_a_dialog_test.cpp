@@ -21,11 +21,30 @@
 #include <QTest>
 
 // Std
+#include <algorithm>
+#include <cmath>
 #include <memory>
 
 namespace tnw {
 
 using test::control;
+
+namespace {
+
+// The contrast ratio of a text colour on a background as the accessibility guidelines define it.
+double contrast(const QColor& a, const QColor& b) {
+  const auto luminance = [](const QColor& c) {
+    const auto channel = [](double v) {
+      return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * channel(c.redF()) + 0.7152 * channel(c.greenF()) + 0.0722 * channel(c.blueF());
+  };
+  const double la = luminance(a);
+  const double lb = luminance(b);
+  return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
+}
+
+}  // namespace
 
 class DirectADialogTest : public QObject {
   Q_OBJECT
@@ -169,6 +188,7 @@ void DirectADialogTest::fullDirectMethodThroughTheWidgets() {
   judgeByTyping(0, QStringLiteral("1.5"), QStringLiteral("2"));
   auto* lights = m_dialog->findChild<StatusLightsWidget*>(QStringLiteral("picJudgmentState"));
   QVERIFY(lights->lampLit(0));
+  QVERIFY(contrast(lights->lampColour(0), lights->textColour(0)) >= 4.5);
   QTest::mouseClick(control<QPushButton>(m_dialog.get(), "cmdEnter"), Qt::LeftButton);
   // The tie is marked as judged in the list; the target's own item keeps its text until the
   // list is filled again.
@@ -186,6 +206,7 @@ void DirectADialogTest::fullDirectMethodThroughTheWidgets() {
       upperHandle->mapFrom(cone, cone->toPixels(QPointF(0.4 * s, s - 0.6 * s)).toPoint());
   test::mouseDrag(upperHandle, upperHandle->rect().center(), upperTarget);
   QVERIFY(lights->lampLit(2));
+  QVERIFY(contrast(lights->lampColour(2), lights->textColour(2)) >= 4.5);
   QVERIFY(!control<QPushButton>(m_dialog.get(), "cmdEnter")->isEnabled());
   // Into the corner: invalid, the boxes keep their last numbers.
   const QString upperText = control<QLineEdit>(m_dialog.get(), "txtWRUpper")->text();
@@ -199,6 +220,12 @@ void DirectADialogTest::fullDirectMethodThroughTheWidgets() {
   QTRY_VERIFY(lights->lampColour(1) != before);
   QVERIFY(lights->lampColour(1) == QColor(Qt::yellow) ||
           lights->lampColour(1) == QColor(Qt::white));
+  // Its label stays readable in both phases.
+  for (int phase = 0; phase < 2; ++phase) {
+    QVERIFY(contrast(lights->lampColour(1), lights->textColour(1)) >= 4.5);
+    const QColor shown = lights->lampColour(1);
+    QTRY_VERIFY(lights->lampColour(1) != shown);
+  }
   QCOMPARE(control<QLineEdit>(m_dialog.get(), "txtWRUpper")->text(), upperText);
   // Both handles below the diagonal: ratios 0.5 and 0.7, consistent.
   test::mouseDrag(

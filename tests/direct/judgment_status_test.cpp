@@ -5,6 +5,11 @@
 // GoogleTest
 #include <gtest/gtest.h>
 
+// Std
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+
 namespace tnw {
 namespace {
 
@@ -123,6 +128,49 @@ TEST(StatusLampsTest, ClearingLeavesEveryLampGreyAndStatusZero) {
   }
   lamps.tick();
   EXPECT_EQ(lamps.lampColor(1), StatusLamps::kGrey);
+}
+
+// The contrast ratio of two 0x00BBGGRR colours as the accessibility guidelines define it,
+// worked out here on its own so that the lamps' choice is checked against it.
+double wcagContrast(std::uint32_t a, std::uint32_t b) {
+  const auto luminance = [](std::uint32_t bgr) {
+    double l = 0.0;
+    const double weights[3] = {0.2126, 0.7152, 0.0722};  // red, green, blue
+    for (int c = 0; c < 3; ++c) {
+      const double v = static_cast<double>((bgr >> (8 * c)) & 0xFFu) / 255.0;
+      l += weights[c] * (v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4));
+    }
+    return l;
+  };
+  const double la = luminance(a);
+  const double lb = luminance(b);
+  return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
+}
+
+TEST(StatusLampsTest, EveryLabelReadsOnItsLampInEveryPhaseOfTheBlink) {
+  for (const JudgmentState state : {JudgmentState::None, JudgmentState::Consistent,
+                                    JudgmentState::Invalid, JudgmentState::Inconsistent}) {
+    StatusLamps lamps;
+    lamps.show(state);
+    // Four ticks see both phases of a blinking lamp twice.
+    for (int tick = 0; tick <= 4; ++tick) {
+      for (int i = 0; i < 3; ++i) {
+        const double ratio = wcagContrast(lamps.lampColor(i), lamps.labelTextColor(i));
+        EXPECT_GE(ratio, 4.5) << "state " << static_cast<int>(state) << " tick " << tick << " lamp "
+                              << i;
+      }
+      lamps.tick();
+    }
+  }
+}
+
+TEST(StatusLampsTest, ContrastRatioRunsFromOneToTwentyOne) {
+  EXPECT_DOUBLE_EQ(StatusLamps::contrastRatio(StatusLamps::kWhite, StatusLamps::kBlack), 21.0);
+  EXPECT_DOUBLE_EQ(StatusLamps::contrastRatio(StatusLamps::kGreen, StatusLamps::kGreen), 1.0);
+  // White text on the green lamp: what a lit "Consistent" showed before.
+  EXPECT_NEAR(StatusLamps::contrastRatio(StatusLamps::kGreen, StatusLamps::kWhite), 1.37, 0.01);
+  EXPECT_EQ(StatusLamps::readableOn(StatusLamps::kYellow), StatusLamps::kBlack);
+  EXPECT_EQ(StatusLamps::readableOn(StatusLamps::kInvalidLit), StatusLamps::kWhite);
 }
 
 }  // namespace

@@ -70,6 +70,24 @@ TEST(PreferenceConeTest, TheHandleControlIsCentredOnItsPoint) {
   EXPECT_EQ(cone.handleTopLeft({700, 300}), (IntPoint{696, 296}));
 }
 
+TEST(PreferenceConeTest, AHandleNearAnEdgeIsDrawnWhollyInsideTheArea) {
+  const PreferenceCone cone(kSide, 10);
+  // A ratio of 500 puts the point 1.4 from the left edge: the control starts at the edge.
+  const HandlePoint steep = cone.handleForRatio(500.0);
+  EXPECT_EQ(cone.handleTopLeft(steep), (IntPoint{0, 295}));
+  // A ratio of 0.001 puts it 0.7 above the bottom edge: the control ends at the edge.
+  EXPECT_EQ(cone.handleTopLeft(cone.handleForRatio(0.001)), (IntPoint{695, 990}));
+  for (const double r : {1e-6, 0.001, 0.01, 0.5, 1.0, 2.0, 100.0, 500.0, 1e6}) {
+    const IntPoint at = cone.handleTopLeft(cone.handleForRatio(r));
+    EXPECT_GE(at.x, 0) << r;
+    EXPECT_GE(at.y, 0) << r;
+    EXPECT_LE(at.x + 10, 1000) << r;
+    EXPECT_LE(at.y + 10, 1000) << r;
+  }
+  // The point itself, and so the ratio it stands for, is not moved.
+  EXPECT_NEAR(cone.ratioFromHandle(steep), 500.0F, 0.01F);
+}
+
 TEST(PreferenceConeTest, HandlesNearTheCornerOrOutsideTheAreaAreInvalid) {
   const PreferenceCone cone(kSide, 10);
   EXPECT_TRUE(cone.validHandle({700, 300}));

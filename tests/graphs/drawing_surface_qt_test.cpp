@@ -218,6 +218,43 @@ class DrawingSurfaceQtTest : public QObject {
     QVERIFY(countColour(b, qRgb(0, 255, 0)) > 0);
   }
 
+  // Scale labels with two integer digits stay inside the chart's area, and a negative low
+  // estimate stays in the plot instead of running over the item names below it.
+  void labelsFitTheAreaAndNegativeMarksStayInThePlot() {
+    ChartData d = threeItems();
+    d.data = {{35.654, -4.0, 12.0}, {20.0, 3.0, 9.0}, {30.0, 10.0, 20.0}};
+    Graphs g;
+    g.GridColour = 9;
+    QImage image(600, 500, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    const QRectF area(60, 20, 465, 450);
+    QPainter painter(&image);
+    painter.setFont(DrawingSurfaceQt::fittedFont(painter.font(), &image, area.width()));
+    DrawingSurfaceQt s(painter, area);
+    g.Display_HLCGraphAMain(s, d);
+    const QFont font = painter.font();
+    painter.end();
+    const QPointF origin = s.toDevice(0.0, 0.0);
+    const QPointF plotEnd = s.toDevice(100.0, 0.0);
+    int leftOfArea = 0;
+    int blueBelowPlot = 0;
+    for (int y = 0; y < image.height(); ++y) {
+      for (int x = 0; x < image.width(); ++x) {
+        const QRgb c = image.pixel(x, y);
+        if (x < area.left() && c != qRgb(255, 255, 255)) ++leftOfArea;
+        if (c == qRgb(0, 0, 255) && y > origin.y() + 2 && x > origin.x() && x < plotEnd.x()) {
+          ++blueBelowPlot;
+        }
+      }
+    }
+    QCOMPARE(leftOfArea, 0);
+    QCOMPARE(blueBelowPlot, 0);
+    // The top label starts inside the area.
+    const QFontMetricsF fm(font, &image);
+    const double labelWidth = fm.horizontalAdvance(QStringLiteral("39.2194"));
+    QVERIFY(origin.x() - labelWidth >= area.left());
+  }
+
   void chartsWriteSvgWithTextAndLinesAsVectors() {
     const ChartData d = threeItems();
     Graphs g;

@@ -4,6 +4,7 @@
 #include "graphs/recording_surface.h"
 
 // Std
+#include <algorithm>
 #include <cmath>
 
 // GoogleTest
@@ -322,6 +323,82 @@ TEST(GraphsTest, NoItemsDrawsTheFrameOnly) {
   tradeOffGraphs().Display_HLCGraphAMain(s, hlcData({}));
   EXPECT_TRUE(allFinite(s));
   EXPECT_EQ(s.ops(Kind::Scale).size(), 1u);
+}
+
+TEST(GraphsTest, ValueLabelsWithTwoIntegerDigitsFitLeftOfTheAxisInsideTheArea) {
+  // A maximum of 35.654 puts "39.2194" at the top: 14 units wide on this surface, more than the
+  // 12 units that the default margin holds beside the 3-unit gap.
+  for (const double max : {35.654, 356.54, 1.0}) {
+    RecordingSurface s;
+    tradeOffGraphs().Display_HLCGraphAMain(s, hlcData({{max, 1.0, 2.0}}));
+    const auto scales = s.ops(Kind::Scale);
+    ASSERT_FALSE(scales.empty());
+    const double left = scales.back().x1;
+    int labels = 0;
+    for (const auto& op : s.ops(Kind::Print)) {
+      if (op.x1 >= 0.0 || op.y1 <= 0.0) continue;  // the title, names and legend
+      EXPECT_GE(op.x1, left) << op.text;
+      EXPECT_DOUBLE_EQ(op.x1 + s.textWidth(op.text), -3.0) << op.text;
+      ++labels;
+    }
+    EXPECT_EQ(labels, 4) << max;
+    // Labels that fit keep the usual coordinates.
+    if (max == 1.0) {
+      EXPECT_EQ(left, -15.0);
+    }
+  }
+  RecordingSurface s;
+  tradeOffGraphs().Display_HLCGraphAMain(s, hlcData({{35.654, 1.0, 2.0}}));
+  EXPECT_NE(s.printed("39.2194"), nullptr);
+}
+
+// Whether a line is one of the item ticks under the value axis.
+bool isTick(const RecordingSurface::Op& op) {
+  return op.x1 == op.x2 && op.y1 == -1.0 && op.y2 == 2.0;
+}
+
+TEST(GraphsTest, NegativeEstimatesAreClippedToTheAxisAndMarkedAsLyingBelow) {
+  RecordingSurface s;
+  // The low estimate of the first item and every estimate of the second lie below zero.
+  tradeOffGraphs().Display_HLCGraphAMain(s, hlcData({{0.6, -0.2, 0.3}, {-0.1, -0.4, -0.2}}));
+  int markers = 0;
+  for (const auto& op : s.ops(Kind::Line)) {
+    if (isTick(op) || op.x1 >= 100.0) continue;
+    EXPECT_GE(std::min(op.y1, op.y2), 0.0) << op.x1;
+    EXPECT_LE(std::max(op.y1, op.y2), 100.0) << op.x1;
+    if (op.y1 == Graphs::kBelowMarkerTop || op.y2 == Graphs::kBelowMarkerTop) ++markers;
+  }
+  // A chevron of two strokes for each of the four values below zero.
+  EXPECT_EQ(markers, 8);
+  // The first item's low estimate is drawn on the axis in its colour, its marker too.
+  bool lowOnAxis = false;
+  bool lowMarker = false;
+  for (const auto& op : s.ops(Kind::Line)) {
+    if (op.colour != 9 || op.x1 >= 50.0) continue;
+    if (op.y1 == 0.0 && op.y2 == 0.0) lowOnAxis = true;
+    if (op.y1 == Graphs::kBelowMarkerTop) lowMarker = true;
+  }
+  EXPECT_TRUE(lowOnAxis);
+  EXPECT_TRUE(lowMarker);
+}
+
+TEST(GraphsTest, NegativeBarsStayOnTheAxisWithAMarker) {
+  RecordingSurface s;
+  ChartData d = hlcData({{0.5, 0, 0}, {-0.25, 0, 0}});
+  d.seriesCount = 1;
+  d.legend = {"Weights"};
+  tradeOffGraphs().Display_VBarGraphMain(s, d);
+  const auto boxes = s.ops(Kind::FillBox);
+  ASSERT_EQ(boxes.size(), 3u);
+  EXPECT_EQ(boxes[1].y1, 0.0);
+  EXPECT_EQ(boxes[1].y2, 0.0);
+  int markers = 0;
+  for (const auto& op : s.ops(Kind::Line)) {
+    if (isTick(op)) continue;
+    EXPECT_GE(std::min(op.y1, op.y2), 0.0);
+    if (op.y1 == Graphs::kBelowMarkerTop && op.x1 > 50.0 && op.x1 < 100.0) ++markers;
+  }
+  EXPECT_EQ(markers, 1);
 }
 
 TEST(PaletteTest, ClassicSixteenColours) {

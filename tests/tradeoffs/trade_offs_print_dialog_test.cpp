@@ -9,8 +9,14 @@
 // Qt
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QListWidget>
 #include <QPaintEngine>
 #include <QPrintDialog>
+#include <QPrinter>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QTableWidget>
 #include <QTemporaryDir>
 
 // Std
@@ -136,6 +142,8 @@ class TradeOffsPrintDialogTest : public QObject {
   void printButtonOpensThePrintDialogAndPrintsVectorPdfWhenAccepted();
   void unloadingTheWizardWithThePrintDialogOpenLeavesNothingBehind();
   void printOutKeepsEveryTextReadableAtThreeSixAndThirtyOneAttributes();
+  void everyPageNamesModelMethodDateAndPageWithinTheMargins();
+  void longNamesAreElidedInWholeRowsOfTheListsAndOnOneLineInTheGrid();
 };
 
 void TradeOffsPrintDialogTest::printButtonOpensThePrintDialogAndPrintsVectorPdfWhenAccepted() {
@@ -213,6 +221,112 @@ void TradeOffsPrintDialogTest::printOutKeepsEveryTextReadableAtThreeSixAndThirty
     d.reset();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
+}
+
+// The words of a PDF file page by page, with their boxes in points, as pdftotext reads them.
+struct PdfPage {
+  double width = 0;
+  double height = 0;
+  QStringList words;
+  QVector<QRectF> boxes;
+};
+
+QVector<PdfPage> readPdf(const QString& path) {
+  QProcess reader;
+  reader.start(QString::fromLocal8Bit(TNW_PDFTOTEXT),
+               {QStringLiteral("-bbox"), path, QStringLiteral("-")});
+  if (!reader.waitForFinished(60000) || reader.exitCode() != 0) return {};
+  const QString html = QString::fromUtf8(reader.readAllStandardOutput());
+  static const QRegularExpression pageRe(
+      QString::fromLatin1("<page width=\"([\\d.]+)\" height=\"([\\d.]+)\">"));
+  static const QRegularExpression wordRe(
+      QString::fromLatin1("<word xMin=\"([\\d.]+)\" yMin=\"([\\d.]+)\" xMax=\"([\\d.]+)\" "
+                          "yMax=\"([\\d.]+)\">([^<]*)</word>"));
+  QVector<PdfPage> pages;
+  for (const QString& part : html.split(QStringLiteral("<page "), Qt::SkipEmptyParts)) {
+    const auto page = pageRe.match(QStringLiteral("<page ") + part);
+    if (!page.hasMatch()) continue;
+    PdfPage p;
+    p.width = page.captured(1).toDouble();
+    p.height = page.captured(2).toDouble();
+    for (auto it = wordRe.globalMatch(part); it.hasNext();) {
+      const auto w = it.next();
+      p.words << w.captured(5);
+      p.boxes << QRectF(QPointF(w.captured(1).toDouble(), w.captured(2).toDouble()),
+                        QPointF(w.captured(3).toDouble(), w.captured(4).toDouble()));
+    }
+    pages << p;
+  }
+  return pages;
+}
+
+void TradeOffsPrintDialogTest::everyPageNamesModelMethodDateAndPageWithinTheMargins() {
+  m_context.PathAndFileName = "/home/anna/models/Office site.nrx";
+  // 31 attributes take two pages.
+  auto d = resultsOf(31);
+  QTemporaryDir dir;
+  const QString path = dir.filePath(QStringLiteral("results.pdf"));
+  {
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(path);
+    d->printResults(printer);
+  }
+  const QVector<PdfPage> pages = readPdf(path);
+  QCOMPARE(pages.size(), 2);
+  const QString date = QDate::currentDate().toString(Qt::ISODate);
+  // 15 mm in points, less a little for the side bearing of the glyphs.
+  const double margin = 15.0 / 25.4 * 72.0 - 0.5;
+  for (int i = 0; i < pages.size(); ++i) {
+    const PdfPage& p = pages[i];
+    // The reader gives ligatures ("ffi") as one character; compatibility form spells them out.
+    const QString text = p.words.join(QLatin1Char(' ')).normalized(QString::NormalizationForm_KC);
+    for (const QString& part :
+         {QStringLiteral("Model: Office site.nrx"), QStringLiteral("Method: TradeOffs"), date,
+          QStringLiteral("Page %1 of 2").arg(i + 1)}) {
+      QVERIFY2(text.contains(part),
+               qPrintable(QStringLiteral("page %1 lacks %2: %3").arg(i + 1).arg(part, text)));
+    }
+    QVERIFY(!p.boxes.isEmpty());
+    for (int w = 0; w < p.boxes.size(); ++w) {
+      const QRectF& b = p.boxes[w];
+      QVERIFY2(b.left() >= margin && b.top() >= margin && b.right() <= p.width - margin &&
+                   b.bottom() <= p.height - margin,
+               qPrintable(QStringLiteral("page %1: \"%2\" at %3,%4-%5,%6 of %7x%8")
+                              .arg(i + 1)
+                              .arg(p.words[w])
+                              .arg(b.left())
+                              .arg(b.top())
+                              .arg(b.right())
+                              .arg(b.bottom())
+                              .arg(p.width)
+                              .arg(p.height)));
+    }
+  }
+}
+
+void TradeOffsPrintDialogTest::longNamesAreElidedInWholeRowsOfTheListsAndOnOneLineInTheGrid() {
+  auto d = resultsOf(6);
+  const QString longest = QString::fromStdString(m_context.model.AttName[5]);
+  for (const char* name : {"lstTradeOffFirstC", "lstTradeOffSecondC"}) {
+    auto* list = d->findChild<QListWidget*>(QLatin1String(name));
+    QVERIFY(list);
+    QCOMPARE(list->count(), 6);
+    // Exactly four whole rows, none cut at the bottom.
+    QCOMPARE(list->height(), 4 * list->sizeHintForRow(0) + 2 * list->frameWidth());
+    // The long name's row is no wider than the view (its text is elided there), and the list
+    // does not scroll sideways.
+    QVERIFY(list->visualItemRect(list->item(5)).width() <= list->viewport()->width());
+    QCOMPARE(list->horizontalScrollBar()->maximum(), 0);
+    QCOMPARE(list->item(5)->toolTip(), longest);
+  }
+  auto* grid = d->findChild<QTableWidget*>(QStringLiteral("gridWeights"));
+  QVERIFY(grid);
+  // One line per name, elided, never wrapped over the cell's borders.
+  QVERIFY(!grid->wordWrap());
+  QCOMPARE(grid->textElideMode(), Qt::ElideRight);
+  QCOMPARE(grid->item(5, 0)->text(), longest);
+  QCOMPARE(grid->item(5, 0)->toolTip(), longest);
 }
 
 }  // namespace tnw
