@@ -114,8 +114,7 @@ bool judge(tnw::DirectAPresenter& p, const tnw::RecordingUiServices& ui, const j
   p.txtWR_LostFocus(Box::Upper);
   if (ui.messages().size() != before) return false;
   if (!p.control("cmdEnter").enabled) return false;
-  p.cmdEnter_Click();
-  return true;
+  return p.cmdEnter_Click();
 }
 
 // The lit status lamp; null while none is lit (after a failed check, a refused target or a

@@ -199,8 +199,12 @@ void DirectADialog::connectJudgmentPage() {
   connect(page->coneArea(), &ConeAreaWidget::handleDragged, this, [this](int index, QPointF pt) {
     m_presenter.picHandle_Drag(index, static_cast<float>(pt.x()), static_cast<float>(pt.y()));
   });
-  connect(page->enterButton(), &QPushButton::clicked, this,
-          [this] { m_presenter.cmdEnter_Click(); });
+  connect(page->enterButton(), &QPushButton::clicked, this, [this] {
+    // A failed bound check gives the focus back to its box, with the text selected.
+    if (!m_presenter.cmdEnter_Click() && m_presenter.judgment().validity() == 0) {
+      applyFocusRequest();
+    }
+  });
   connect(page->restartButton(), &QPushButton::clicked, this,
           [this] { m_presenter.cmdReStart_Click(); });
 }
@@ -355,10 +359,13 @@ void DirectADialog::applyFocusRequest() {
   const std::string& name = m_presenter.judgment().focus();
   if (name.empty()) return;
   QWidget* target = findChild<QWidget*>(QString::fromStdString(name));
-  if (target == nullptr || target == focusWidget() || !target->isVisible()) return;
-  m_ratioFilter->setRestoringFocus(true);
-  target->setFocus(Qt::OtherFocusReason);
-  m_ratioFilter->setRestoringFocus(false);
+  if (target == nullptr || !target->isVisible()) return;
+  // Enter pressed by its mnemonic leaves the focus in the box; its selection is still shown.
+  if (target != focusWidget()) {
+    m_ratioFilter->setRestoringFocus(true);
+    target->setFocus(Qt::OtherFocusReason);
+    m_ratioFilter->setRestoringFocus(false);
+  }
   if (auto* edit = qobject_cast<QLineEdit*>(target)) {
     const auto box =
         edit == m_judgmentPage->lowerBox() ? JudgmentPage::Box::Lower : JudgmentPage::Box::Upper;

@@ -307,10 +307,11 @@ void DirectAPresenter::setConeArea(float side, float handleSize) {
   changed();
 }
 
-void DirectAPresenter::cmdEnter_Click() {
-  if (m_step != 2) return;
-  m_judgment.enterJudgment();
+bool DirectAPresenter::cmdEnter_Click() {
+  if (m_step != 2) return false;
+  const bool recorded = m_judgment.enterJudgment();
   changed();
+  return recorded;
 }
 
 void DirectAPresenter::cmdReStart_Click() {

@@ -89,8 +89,10 @@ class DirectAPresenter {
   void picHandle_Drag(int index, float x, float y);
   // Step 2: the side of picTradeOffsRange and the size of a handle, in the view's pixels.
   void setConeArea(float side, float handleSize);
-  // Step 2: Enter and Re-start All.
-  void cmdEnter_Click();
+  // Step 2: Enter, however pressed: the bound and status checks run first, and the judgment is
+  // recorded only when all pass. Returns whether it was recorded.
+  bool cmdEnter_Click();
+  // Step 2: Re-start All.
   void cmdReStart_Click();
 
   // The current step, 0 to 3.

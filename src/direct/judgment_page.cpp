@@ -237,10 +237,16 @@ std::array<IntPoint, 3> JudgmentPage::coneTriangle() const {
   return m_cone.triangle(m_handles.first, m_handles.second);
 }
 
-void JudgmentPage::enterJudgment() {
+bool JudgmentPage::enterJudgment() {
   const int t = m_targets.currentTarget();
   ControlRegistry& c = m_shared.controls;
-  if (t < 0 || !c.enabled("cmdEnter")) return;
+  if (t < 0 || !c.enabled("cmdEnter")) return false;
+  // Enter can be pressed without the focus leaving a box (by its mnemonic, or from the command
+  // line), so it runs the checks that leaving the boxes runs, and records nothing while one
+  // of them fails.
+  if (!checkBound(Box::Lower) || !checkBound(Box::Upper)) return false;
+  checkStatusOfBoxes();
+  if (!c.enabled("cmdEnter")) return false;
   const double lower = RatioBoundCheck::boxValue(m_lower.text);
   const double upper = RatioBoundCheck::boxValue(m_upper.text);
   for (int k : m_judgments.RecordWeightRatios(t, lower, upper, m_handles)) {
@@ -250,6 +256,21 @@ void JudgmentPage::enterJudgment() {
   c.setEnabled("cmdEnter", false);
   c.setEnabled("cmdReStart", true);
   showCompletion();
+  return true;
+}
+
+void JudgmentPage::checkStatusOfBoxes() {
+  // Boxes that show what the handles give (a drag, or a check already run) keep the handles
+  // where they are; otherwise the handles follow the boxes first, as after leaving a box.
+  const auto result = evaluate();
+  const bool shown = result.state != JudgmentState::Invalid &&
+                     m_lower.text == formatNumber(result.lowerRatio, "0.00") &&
+                     m_upper.text == formatNumber(result.upperRatio, "0.00");
+  if (shown) {
+    Check_Judgment_Status();
+  } else {
+    DisplayPrefCone();
+  }
 }
 
 void JudgmentPage::restart() {

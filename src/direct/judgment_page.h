@@ -61,8 +61,10 @@ class JudgmentPage {
   void dragHandle(int index, float x, float y);
   // The side of the drawing area and the handle size, in the view's pixels.
   void setArea(float side, float handleSize);
-  // cmdEnter_Click: records the current judgment.
-  void enterJudgment();
+  // cmdEnter_Click: checks the lower bound, the upper bound and the status of the current
+  // judgment (as leaving the boxes does) and records it only when all pass; returns whether it
+  // was recorded.
+  bool enterJudgment();
   // cmdReStart_Click: every judgment starts again.
   void restart();
 
@@ -103,6 +105,8 @@ class JudgmentPage {
   void placeHandles(double lower, double upper);
   void showRatios(double lower, double upper);
   bool checkBound(Box box);
+  // The status check of the interval the boxes show, the handles placed from them if needed.
+  void checkStatusOfBoxes();
   // Enables Next and Finish exactly when no attribute is open.
   void showCompletion();
   TextBoxState& boxState(Box box);
