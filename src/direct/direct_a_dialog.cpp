@@ -334,6 +334,15 @@ void DirectADialog::applyTabOrder(int step) {
   for (int i = 1; i < chain.size(); ++i) setTabOrder(chain[i - 1], chain[i]);
 }
 
+void DirectADialog::releasePressedButtons() {
+  // A press on a button that took the focus from a box whose check then failed was let go
+  // over the modal message box, so the button never saw the release: it must not stay drawn
+  // pressed (nor click when a stray release comes).
+  for (QAbstractButton* button : findChildren<QAbstractButton*>()) {
+    if (button->isDown()) button->setDown(false);
+  }
+}
+
 void DirectADialog::focusStep(int step) {
   QWidget* first = nullptr;
   switch (step) {
@@ -356,6 +365,7 @@ void DirectADialog::focusStep(int step) {
 
 void DirectADialog::applyFocusRequest() {
   if (m_presenter.WizardStep() != 2) return;
+  if (m_presenter.judgment().validity() == 0) releasePressedButtons();
   const std::string& name = m_presenter.judgment().focus();
   if (name.empty()) return;
   QWidget* target = findChild<QWidget*>(QString::fromStdString(name));

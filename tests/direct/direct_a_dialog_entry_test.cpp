@@ -1,7 +1,8 @@
 // The Enter button of frmDirectA's judgment step, pressed every way a user can press it, on the
-// real widgets: nothing is recorded while a check fails.
+// real widgets: nothing is recorded while a check fails, and no button is left drawn pressed.
 
 #include "common/recording_ui_services.h"
+#include "common/ui_services_qt.h"
 #include "direct/direct_a_dialog.h"
 #include "direct_a_dialog_helpers.h"
 #include "direct_test_models.h"
@@ -9,8 +10,10 @@
 
 // Qt
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 // Std
 #include <memory>
@@ -30,9 +33,11 @@ class DirectADialogEntryTest : public QObject {
   void theMnemonicRecordsAValidInterval();
   void aMouseClickChecksFirst();
   void spaceOnTheButtonChecksFirst();
+  void enterIsNotLeftPressedAfterAFailedCheck();
 
  private:
-  void reachJudgments();
+  void reachJudgments() { reachJudgments(m_ui); }
+  void reachJudgments(UiServices& ui);
   void typeInto(QLineEdit* box, const QString& text);
   void pressEnterByMnemonic();
   bool targetJudged() const { return m_dialog->presenter().judgment().judgments().judged(0); }
@@ -42,6 +47,7 @@ class DirectADialogEntryTest : public QObject {
 
   WizardContext m_context;
   RecordingUiServices m_ui;
+  UiServicesQt m_realUi;
   test::RecordingDirectAEvents m_events;
   std::unique_ptr<DirectADialog> m_dialog;
 };
@@ -55,9 +61,9 @@ void DirectADialogEntryTest::cleanup() {
 }
 
 // Three attributes in three groups, the reference 1 in the middle: target 0 starts at 1.20.
-void DirectADialogEntryTest::reachJudgments() {
+void DirectADialogEntryTest::reachJudgments(UiServices& ui) {
   m_context = test::makeContext(3);
-  m_dialog = std::make_unique<DirectADialog>(m_context, m_ui, m_events);
+  m_dialog = std::make_unique<DirectADialog>(m_context, ui, m_events);
   m_dialog->show();
   QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
   m_dialog->activateWindow();
@@ -158,6 +164,28 @@ void DirectADialogEntryTest::spaceOnTheButtonChecksFirst() {
   QTest::keyClick(enterButton(), Qt::Key_Space);
   QVERIFY(!targetJudged());
   QCOMPARE(m_context.LowerWeights[0], 1.2);
+}
+
+void DirectADialogEntryTest::enterIsNotLeftPressedAfterAFailedCheck() {
+  // The real message box: it is modal, so the release of the press that set off the check goes
+  // nowhere while it is open.
+  int closed = 0;
+  QTimer closer;
+  connect(&closer, &QTimer::timeout, this, [&closed] {
+    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+      ++closed;
+      QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
+    }
+  });
+  closer.start(20);
+  reachJudgments(m_realUi);
+  if (QTest::currentTestFailed()) return;
+  typeInto(lowerBox(), QStringLiteral("5"));
+  // The press takes the focus from the box, whose check fails and shows its message.
+  QTest::mousePress(enterButton(), Qt::LeftButton);
+  QCOMPARE(closed, 1);
+  QTRY_VERIFY(!enterButton()->isDown());
+  QVERIFY(!targetJudged());
 }
 
 }  // namespace tnw
