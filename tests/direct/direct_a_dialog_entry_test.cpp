@@ -1,5 +1,6 @@
 // The Enter button of frmDirectA's judgment step, pressed every way a user can press it, on the
-// real widgets: nothing is recorded while a check fails, and no button is left drawn pressed.
+// real widgets: nothing is recorded while a check fails, and no button is left drawn pressed; and
+// the keys the ratio boxes drop.
 
 #include "common/recording_ui_services.h"
 #include "common/ui_services_qt.h"
@@ -34,6 +35,7 @@ class DirectADialogEntryTest : public QObject {
   void aMouseClickChecksFirst();
   void spaceOnTheButtonChecksFirst();
   void enterIsNotLeftPressedAfterAFailedCheck();
+  void keysHeldWithCtrlAltOrMetaTypeNothing();
 
  private:
   void reachJudgments() { reachJudgments(m_ui); }
@@ -185,6 +187,30 @@ void DirectADialogEntryTest::enterIsNotLeftPressedAfterAFailedCheck() {
   QTest::mousePress(enterButton(), Qt::LeftButton);
   QCOMPARE(closed, 1);
   QTRY_VERIFY(!enterButton()->isDown());
+  QVERIFY(!targetJudged());
+}
+
+void DirectADialogEntryTest::keysHeldWithCtrlAltOrMetaTypeNothing() {
+  reachJudgments();
+  if (QTest::currentTestFailed()) return;
+  typeInto(lowerBox(), QStringLiteral("0.8"));
+  QVERIFY(!control<QPushButton>(m_dialog.get(), "cmdNext")->isEnabled());
+  // Alt+N while Next is disabled reaches the box, as any Alt+letter without a mnemonic does.
+  for (const Qt::Key key : {Qt::Key_X, Qt::Key_Z, Qt::Key_N, Qt::Key_5, Qt::Key_Period}) {
+    QTest::keyClick(lowerBox(), key, Qt::AltModifier);
+    QTest::keyClick(lowerBox(), key, Qt::MetaModifier);
+    QTest::keyClick(lowerBox(), key, Qt::ControlModifier | Qt::AltModifier);
+  }
+  QTest::keyClick(lowerBox(), Qt::Key_Q, Qt::ControlModifier);
+  QTest::keyClick(lowerBox(), Qt::Key_5, Qt::ControlModifier);
+  QCOMPARE(lowerBox()->text(), QStringLiteral("0.8"));
+  QCOMPARE(m_dialog->presenter().judgment().box(JudgmentPage::Box::Lower).text, "0.8");
+  // The box's own editing keys still work, and a digit from the keypad is typed.
+  QTest::keyClick(lowerBox(), Qt::Key_A, Qt::ControlModifier);
+  QCOMPARE(lowerBox()->selectedText(), QStringLiteral("0.8"));
+  QTest::keyClick(lowerBox(), Qt::Key_7, Qt::KeypadModifier);
+  QCOMPARE(lowerBox()->text(), QStringLiteral("7"));
+  QTest::qWait(300);
   QVERIFY(!targetJudged());
 }
 
