@@ -90,7 +90,10 @@ void chooseOrderAndReference(tnw::DirectAPresenter& p, const json& scenario, int
 // character through the box's key filter.
 void typeText(tnw::DirectAPresenter& p, Box box, const std::string& text) {
   p.txtWR_SetText(box, "");
-  for (const unsigned char c : text) p.txtWR_KeyPress(box, p.judgment().box(box), c);
+  for (const unsigned char c : text) {
+    const tnw::TextBoxState& shown = p.judgment().box(box);
+    p.txtWR_KeyPress(box, shown.selStart, shown.selLength, c);
+  }
 }
 
 std::string boxText(const json& step, const char* key) {

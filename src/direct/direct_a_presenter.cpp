@@ -280,6 +280,13 @@ void DirectAPresenter::txtWR_KeyPress(JudgmentPage::Box box, const TextBoxState&
   changed();
 }
 
+void DirectAPresenter::txtWR_KeyPress(JudgmentPage::Box box, int selStart, int selLength,
+                                      int keyAscii) {
+  if (m_step != 2) return;
+  m_judgment.keyPress(box, selStart, selLength, keyAscii);
+  changed();
+}
+
 bool DirectAPresenter::txtWR_KeyDown(JudgmentPage::Box box, int keyCode, bool shift) const {
   return m_judgment.keyDown(box, keyCode, shift);
 }

@@ -79,6 +79,9 @@ class DirectAPresenter {
   void imgcmbTargetAtt_Click(int i);
   // Step 2: a key typed into a ratio box whose text, caret and selection are `current`.
   void txtWR_KeyPress(JudgmentPage::Box box, const TextBoxState& current, int keyAscii);
+  // Step 2: a key typed into a ratio box that shows judgment().box(box)'s text, with its caret
+  // and selection; the cost of a key does not grow with the text.
+  void txtWR_KeyPress(JudgmentPage::Box box, int selStart, int selLength, int keyAscii);
   // Step 2: KeyDown of a ratio box; true when the key must be discarded (Shift+Insert).
   bool txtWR_KeyDown(JudgmentPage::Box box, int keyCode, bool shift) const;
   // Step 2: the focus leaves a ratio box.

@@ -170,7 +170,7 @@ const TextBoxState& JudgmentPage::box(Box box) const {
 }
 
 void JudgmentPage::setBoxText(Box box, const std::string& text) {
-  boxState(box).text = text;
+  boxState(box).setText(text);
   boxState(box).selStart = static_cast<int>(text.size());
   boxState(box).selLength = 0;
   m_focus = boxName(box);
@@ -183,6 +183,14 @@ bool JudgmentPage::keyDown(Box /*box*/, int keyCode, bool shift) const {
 void JudgmentPage::keyPress(Box box, const TextBoxState& current, int keyAscii) {
   TextBoxState& state = boxState(box);
   state = current;
+  state.periodCount = -1;  // the caller's text: its periods are counted again when asked
+  keyPress(box, current.selStart, current.selLength, keyAscii);
+}
+
+void JudgmentPage::keyPress(Box box, int selStart, int selLength, int keyAscii) {
+  TextBoxState& state = boxState(box);
+  state.selStart = selStart;
+  state.selLength = selLength;
   state.clampSelection();
   m_focus = boxName(box);
   if (RatioKeyFilter::typeKey(state, keyAscii) != RatioKeyFilter::KeyAction::Enter) return;

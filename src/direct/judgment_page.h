@@ -51,6 +51,9 @@ class JudgmentPage {
   void chooseTarget(int i);
   // A key typed into a box whose text, caret and selection are `current`.
   void keyPress(Box box, const TextBoxState& current, int keyAscii);
+  // A key typed into a box that shows the page's text, with the caret and selection given: the
+  // text is not handed over, so a key costs the same however long the text is.
+  void keyPress(Box box, int selStart, int selLength, int keyAscii);
   // KeyDown of a box: whether the key is discarded (Shift+Insert).
   bool keyDown(Box box, int keyCode, bool shift) const;
   // The focus leaves a box (LostFocus): its bound is checked, the cone redrawn when it passed.

@@ -86,7 +86,15 @@ bool RatioBoxFilter::handleKey(JudgmentPage::Box box, QLineEdit* edit, QKeyEvent
     // the platform is refused as well.
     return isDroppedModifiedKey(event) || event->matches(QKeySequence::Paste);
   }
-  m_presenter.txtWR_KeyPress(box, stateOf(edit), keyAscii);
+  // The box shows the presenter's text (every edit goes through it), so only the caret and the
+  // selection go over; a box whose length differs hands its whole text over.
+  const TextBoxState& shown = m_presenter.judgment().box(box);
+  if (static_cast<qsizetype>(shown.text.size()) == edit->text().size()) {
+    const int start = edit->hasSelectedText() ? edit->selectionStart() : edit->cursorPosition();
+    m_presenter.txtWR_KeyPress(box, start, edit->selectionLength(), keyAscii);
+  } else {
+    m_presenter.txtWR_KeyPress(box, stateOf(edit), keyAscii);
+  }
   showBoxState(edit, m_presenter.judgment().box(box));
   if (m_afterAction) m_afterAction();
   return true;

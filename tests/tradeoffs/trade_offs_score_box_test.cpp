@@ -15,6 +15,7 @@ class TradeOffsScoreBoxTest : public QObject {
     QVERIFY2(QApplication::topLevelWidgets().isEmpty(), "a top-level widget leaked");
   }
   void keysHeldWithCtrlAltOrMetaTypeNothing();
+  void aDecimalCanBeTypedAndASecondPeriodIsDropped();
 
  private:
   std::unique_ptr<TradeOffsADialog> open() {
@@ -53,6 +54,18 @@ void TradeOffsScoreBoxTest::keysHeldWithCtrlAltOrMetaTypeNothing() {
   QTest::keyClick(box, Qt::Key_7, Qt::KeypadModifier);
   QCOMPARE(box->text(), QStringLiteral("7"));
   QVERIFY(m_ui.messages().empty());
+}
+
+void TradeOffsScoreBoxTest::aDecimalCanBeTypedAndASecondPeriodIsDropped() {
+  auto d = open();
+  typeScore(d.get(), "txtTradeOffAFirstScore", "30.5");
+  auto* box = child<QLineEdit>(d.get(), QStringLiteral("txtTradeOffAFirstScore"));
+  QCOMPARE(box->text(), QStringLiteral("30.5"));
+  QTest::keyClicks(box, QStringLiteral(".2."));
+  QCOMPARE(box->text(), QStringLiteral("30.52"));
+  box->setCursorPosition(1);
+  QTest::keyClicks(box, QStringLiteral(".1"));
+  QCOMPARE(box->text(), QStringLiteral("310.52"));
 }
 
 }  // namespace tnw
