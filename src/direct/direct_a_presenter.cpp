@@ -162,8 +162,7 @@ void DirectAPresenter::cmdBack_Click() {
       m_controls.setEnabled("cmdNext", true);
       break;
     case 2:
-      // Going back to the reference choice keeps the form's caption as it is.
-      setStep(1, false);
+      setStep(1, true);
       m_judgment.leave();
       break;
     case 3:

@@ -257,6 +257,8 @@ bool JudgmentPage::enterJudgment() {
   if (!c.enabled("cmdEnter")) return false;
   const double lower = RatioBoundCheck::boxValue(m_lower.text);
   const double upper = RatioBoundCheck::boxValue(m_upper.text);
+  // The target's item is marked at once, with those of its ties.
+  m_targets.markJudged(t);
   for (int k : m_judgments.RecordWeightRatios(t, lower, upper, m_handles)) {
     m_targets.markJudged(k);
   }

@@ -10,6 +10,8 @@
 #include "recording_direct_a_events.h"
 
 // Qt
+#include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -36,6 +38,7 @@ class DirectADialogEntryTest : public QObject {
   void spaceOnTheButtonChecksFirst();
   void enterIsNotLeftPressedAfterAFailedCheck();
   void keysHeldWithCtrlAltOrMetaTypeNothing();
+  void theListAndTheCaptionFollowAtOnce();
 
  private:
   void reachJudgments() { reachJudgments(m_ui); }
@@ -212,6 +215,23 @@ void DirectADialogEntryTest::keysHeldWithCtrlAltOrMetaTypeNothing() {
   QCOMPARE(lowerBox()->text(), QStringLiteral("7"));
   QTest::qWait(300);
   QVERIFY(!targetJudged());
+}
+
+void DirectADialogEntryTest::theListAndTheCaptionFollowAtOnce() {
+  reachJudgments();
+  if (QTest::currentTestFailed()) return;
+  auto* targets = control<QComboBox>(m_dialog.get(), "imgcmbTargetAtt");
+  QTest::mouseClick(enterButton(), Qt::LeftButton);
+  QVERIFY(targetJudged());
+  QCOMPARE(targets->itemText(0), QString::fromUtf8(TargetList::kJudgedPrefix) + "Att1");
+  // The reference refused as the target: the list and the labels stay on target 0.
+  targets->setCurrentIndex(1);
+  emit targets->activated(1);
+  QCOMPARE(m_ui.messages().size(), std::size_t{1});
+  QCOMPARE(targets->currentIndex(), 0);
+  QCOMPARE(control<QLabel>(m_dialog.get(), "lblTargetAtt")->text(), QStringLiteral("Att1"));
+  QTest::mouseClick(control<QPushButton>(m_dialog.get(), "cmdBack"), Qt::LeftButton);
+  QCOMPARE(m_dialog->windowTitle(), QString::fromUtf8(DirectAPresenter::kCaptions[1]));
 }
 
 }  // namespace tnw
