@@ -114,4 +114,41 @@ void BM_WholeScenarioOf30Judgments(benchmark::State& state) {
 }
 BENCHMARK(BM_WholeScenarioOf30Judgments);
 
+// Typing a ratio of n digits ("0." and then n - 2 fives) key by key into the lower box, as the
+// dialog hands the keys on: the caret and selection only. The cost per key must not grow with
+// the text, so the whole entry is linear in n.
+void BM_TypingARatioKeyByKey(benchmark::State& state) {
+  const auto n = static_cast<int>(state.range(0));
+  NullEvents events;
+  tnw::WizardContext context = makeContext();
+  tnw::RecordingUiServices ui;
+  tnw::DirectAPresenter p(context, ui, events);
+  p.Form_Load();
+  for (int j = 0; j < kAttributes; ++j) {
+    while (p.ordering().order().GroupCount() < groupOf(j)) p.cmdAdd_Click();
+    p.picOrder_DragDrop(groupOf(j), "A" + std::to_string(j));
+  }
+  p.cmdNext_Click();
+  p.cmdAttButtons_Click(0);
+  p.cmdNext_Click();
+  using Box = tnw::JudgmentPage::Box;
+  for (auto _ : state) {
+    p.txtWR_SetText(Box::Lower, "");
+    for (int i = 0; i < n; ++i) {
+      const tnw::TextBoxState& shown = p.judgment().box(Box::Lower);
+      const char key = i == 0 ? '0' : (i == 1 ? '.' : '5');
+      p.txtWR_KeyPress(Box::Lower, shown.selStart, shown.selLength, key);
+    }
+  }
+  if (static_cast<int>(p.judgment().box(Box::Lower).text.size()) != n) {
+    state.SkipWithError("the box does not hold every key typed");
+  }
+  state.SetComplexityN(n);
+}
+BENCHMARK(BM_TypingARatioKeyByKey)
+    ->RangeMultiplier(4)
+    ->Range(1 << 10, 1 << 18)
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity();
+
 }  // namespace

@@ -101,6 +101,35 @@ void BM_ScoreEntryStep(benchmark::State& state) {
 }
 BENCHMARK(BM_ScoreEntryStep);
 
+// Typing a score of n characters ("30." and then n - 3 fives) key by key into a score box. The
+// cost per key must not grow with the text, so the whole entry is linear in n.
+void BM_TypingAScoreKeyByKey(benchmark::State& state) {
+  const auto n = static_cast<int>(state.range(0));
+  tnw::WizardContext ctx;
+  ctx.model = makeModel(3);
+  tnw::RecordingUiServices ui;
+  FixedRandomSource random;
+  tnw::JudgmentPage page(ctx, ui, random);
+  page.reset();
+  const std::string start = "30.";
+  for (auto _ : state) {
+    page.setScoreText(0, "");
+    for (int i = 0; i < n; ++i) {
+      const char key = i < 3 ? start[static_cast<std::size_t>(i)] : '5';
+      page.scoreBoxKeyPress(0, key, i, 0);
+    }
+  }
+  if (static_cast<int>(page.controls().scoreBoxes[0].text.size()) != n) {
+    state.SkipWithError("the box does not hold every key typed");
+  }
+  state.SetComplexityN(n);
+}
+BENCHMARK(BM_TypingAScoreKeyByKey)
+    ->RangeMultiplier(4)
+    ->Range(1 << 10, 1 << 18)
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity();
+
 void BM_DrawChart(benchmark::State& state) {
   tnw::WizardContext ctx;
   ctx.model = makeModel(31);

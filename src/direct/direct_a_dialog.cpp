@@ -200,8 +200,12 @@ void DirectADialog::connectJudgmentPage() {
   connect(page->coneArea(), &ConeAreaWidget::handleDragged, this, [this](int index, QPointF pt) {
     m_presenter.picHandle_Drag(index, static_cast<float>(pt.x()), static_cast<float>(pt.y()));
   });
-  connect(page->enterButton(), &QPushButton::clicked, this,
-          [this] { m_presenter.cmdEnter_Click(); });
+  connect(page->enterButton(), &QPushButton::clicked, this, [this] {
+    // A failed bound check gives the focus back to its box, with the text selected.
+    if (!m_presenter.cmdEnter_Click() && m_presenter.judgment().validity() == 0) {
+      applyFocusRequest();
+    }
+  });
   connect(page->restartButton(), &QPushButton::clicked, this,
           [this] { m_presenter.cmdReStart_Click(); });
 }
@@ -334,6 +338,15 @@ void DirectADialog::applyTabOrder(int step) {
   for (int i = 1; i < chain.size(); ++i) setTabOrder(chain[i - 1], chain[i]);
 }
 
+void DirectADialog::releasePressedButtons() {
+  // A press on a button that took the focus from a box whose check then failed was let go
+  // over the modal message box, so the button never saw the release: it must not stay drawn
+  // pressed (nor click when a stray release comes).
+  for (QAbstractButton* button : findChildren<QAbstractButton*>()) {
+    if (button->isDown()) button->setDown(false);
+  }
+}
+
 void DirectADialog::focusStep(int step) {
   QWidget* first = nullptr;
   switch (step) {
@@ -356,13 +369,17 @@ void DirectADialog::focusStep(int step) {
 
 void DirectADialog::applyFocusRequest() {
   if (m_presenter.WizardStep() != 2) return;
+  if (m_presenter.judgment().validity() == 0) releasePressedButtons();
   const std::string& name = m_presenter.judgment().focus();
   if (name.empty()) return;
   QWidget* target = findChild<QWidget*>(QString::fromStdString(name));
-  if (target == nullptr || target == focusWidget() || !target->isVisible()) return;
-  m_ratioFilter->setRestoringFocus(true);
-  target->setFocus(Qt::OtherFocusReason);
-  m_ratioFilter->setRestoringFocus(false);
+  if (target == nullptr || !target->isVisible()) return;
+  // Enter pressed by its mnemonic leaves the focus in the box; its selection is still shown.
+  if (target != focusWidget()) {
+    m_ratioFilter->setRestoringFocus(true);
+    target->setFocus(Qt::OtherFocusReason);
+    m_ratioFilter->setRestoringFocus(false);
+  }
   if (auto* edit = qobject_cast<QLineEdit*>(target)) {
     const auto box =
         edit == m_judgmentPage->lowerBox() ? JudgmentPage::Box::Lower : JudgmentPage::Box::Upper;

@@ -60,6 +60,7 @@ class DirectADialog : public WizardDialogQt {
   void renderHeader();
   QWidget* namedControl(const std::string& name);
   void applyFocusRequest();
+  void releasePressedButtons();
   void focusStep(int step);
   void applyTabOrder(int step);
 

@@ -166,8 +166,7 @@ void DirectAPresenter::cmdBack_Click() {
       m_controls.setEnabled("cmdNext", true);
       break;
     case 2:
-      // Going back to the reference choice keeps the form's caption as it is.
-      setStep(1, false);
+      setStep(1, true);
       m_judgment.leave();
       break;
     case 3:
@@ -284,6 +283,13 @@ void DirectAPresenter::txtWR_KeyPress(JudgmentPage::Box box, const TextBoxState&
   changed();
 }
 
+void DirectAPresenter::txtWR_KeyPress(JudgmentPage::Box box, int selStart, int selLength,
+                                      int keyAscii) {
+  if (m_step != 2) return;
+  m_judgment.keyPress(box, selStart, selLength, keyAscii);
+  changed();
+}
+
 bool DirectAPresenter::txtWR_KeyDown(JudgmentPage::Box box, int keyCode, bool shift) const {
   return m_judgment.keyDown(box, keyCode, shift);
 }
@@ -311,10 +317,11 @@ void DirectAPresenter::setConeArea(float side, float handleSize) {
   changed();
 }
 
-void DirectAPresenter::cmdEnter_Click() {
-  if (m_step != 2) return;
-  m_judgment.enterJudgment();
+bool DirectAPresenter::cmdEnter_Click() {
+  if (m_step != 2) return false;
+  const bool recorded = m_judgment.enterJudgment();
   changed();
+  return recorded;
 }
 
 void DirectAPresenter::cmdReStart_Click() {

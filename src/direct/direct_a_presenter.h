@@ -80,6 +80,9 @@ class DirectAPresenter {
   void imgcmbTargetAtt_Click(int i);
   // Step 2: a key typed into a ratio box whose text, caret and selection are `current`.
   void txtWR_KeyPress(JudgmentPage::Box box, const TextBoxState& current, int keyAscii);
+  // Step 2: a key typed into a ratio box that shows judgment().box(box)'s text, with its caret
+  // and selection; the cost of a key does not grow with the text.
+  void txtWR_KeyPress(JudgmentPage::Box box, int selStart, int selLength, int keyAscii);
   // Step 2: KeyDown of a ratio box; true when the key must be discarded (Shift+Insert).
   bool txtWR_KeyDown(JudgmentPage::Box box, int keyCode, bool shift) const;
   // Step 2: the focus leaves a ratio box.
@@ -90,8 +93,10 @@ class DirectAPresenter {
   void picHandle_Drag(int index, float x, float y);
   // Step 2: the side of picTradeOffsRange and the size of a handle, in the view's pixels.
   void setConeArea(float side, float handleSize);
-  // Step 2: Enter and Re-start All.
-  void cmdEnter_Click();
+  // Step 2: Enter, however pressed: the bound and status checks run first, and the judgment is
+  // recorded only when all pass. Returns whether it was recorded.
+  bool cmdEnter_Click();
+  // Step 2: Re-start All.
   void cmdReStart_Click();
 
   // The current step, 0 to 3.

@@ -177,7 +177,7 @@ const TextBoxState& JudgmentPage::box(Box box) const {
 }
 
 void JudgmentPage::setBoxText(Box box, const std::string& text) {
-  boxState(box).text = text;
+  boxState(box).setText(text);
   boxState(box).selStart = static_cast<int>(text.size());
   boxState(box).selLength = 0;
   m_focus = boxName(box);
@@ -190,6 +190,14 @@ bool JudgmentPage::keyDown(Box /*box*/, int keyCode, bool shift) const {
 void JudgmentPage::keyPress(Box box, const TextBoxState& current, int keyAscii) {
   TextBoxState& state = boxState(box);
   state = current;
+  state.periodCount = -1;  // the caller's text: its periods are counted again when asked
+  keyPress(box, current.selStart, current.selLength, keyAscii);
+}
+
+void JudgmentPage::keyPress(Box box, int selStart, int selLength, int keyAscii) {
+  TextBoxState& state = boxState(box);
+  state.selStart = selStart;
+  state.selLength = selLength;
   state.clampSelection();
   m_focus = boxName(box);
   if (RatioKeyFilter::typeKey(state, keyAscii) != RatioKeyFilter::KeyAction::Enter) return;
@@ -244,12 +252,20 @@ std::array<IntPoint, 3> JudgmentPage::coneTriangle() const {
   return m_cone.triangle(m_handles.first, m_handles.second);
 }
 
-void JudgmentPage::enterJudgment() {
+bool JudgmentPage::enterJudgment() {
   const int t = m_targets.currentTarget();
   ControlRegistry& c = m_shared.controls;
-  if (t < 0 || !c.enabled("cmdEnter")) return;
+  if (t < 0 || !c.enabled("cmdEnter")) return false;
+  // Enter can be pressed without the focus leaving a box (by its mnemonic, or from the command
+  // line), so it runs the checks that leaving the boxes runs, and records nothing while one
+  // of them fails.
+  if (!checkBound(Box::Lower) || !checkBound(Box::Upper)) return false;
+  checkStatusOfBoxes();
+  if (!c.enabled("cmdEnter")) return false;
   const double lower = RatioBoundCheck::boxValue(m_lower.text);
   const double upper = RatioBoundCheck::boxValue(m_upper.text);
+  // The target's item is marked at once, with those of its ties.
+  m_targets.markJudged(t);
   for (int k : m_judgments.RecordWeightRatios(t, lower, upper, m_handles)) {
     m_targets.markJudged(k);
   }
@@ -257,6 +273,21 @@ void JudgmentPage::enterJudgment() {
   c.setEnabled("cmdEnter", false);
   c.setEnabled("cmdReStart", true);
   showCompletion();
+  return true;
+}
+
+void JudgmentPage::checkStatusOfBoxes() {
+  // Boxes that show what the handles give (a drag, or a check already run) keep the handles
+  // where they are; otherwise the handles follow the boxes first, as after leaving a box.
+  const auto result = evaluate();
+  const bool shown = result.state != JudgmentState::Invalid &&
+                     m_lower.text == formatNumber(result.lowerRatio, "0.00") &&
+                     m_upper.text == formatNumber(result.upperRatio, "0.00");
+  if (shown) {
+    Check_Judgment_Status();
+  } else {
+    DisplayPrefCone();
+  }
 }
 
 void JudgmentPage::restart() {

@@ -52,6 +52,9 @@ class JudgmentPage {
   void chooseTarget(int i);
   // A key typed into a box whose text, caret and selection are `current`.
   void keyPress(Box box, const TextBoxState& current, int keyAscii);
+  // A key typed into a box that shows the page's text, with the caret and selection given: the
+  // text is not handed over, so a key costs the same however long the text is.
+  void keyPress(Box box, int selStart, int selLength, int keyAscii);
   // KeyDown of a box: whether the key is discarded (Shift+Insert).
   bool keyDown(Box box, int keyCode, bool shift) const;
   // The focus leaves a box (LostFocus): its bound is checked, the cone redrawn when it passed.
@@ -62,8 +65,10 @@ class JudgmentPage {
   void dragHandle(int index, float x, float y);
   // The side of the drawing area and the handle size, in the view's pixels.
   void setArea(float side, float handleSize);
-  // cmdEnter_Click: records the current judgment.
-  void enterJudgment();
+  // cmdEnter_Click: checks the lower bound, the upper bound and the status of the current
+  // judgment (as leaving the boxes does) and records it only when all pass; returns whether it
+  // was recorded.
+  bool enterJudgment();
   // cmdReStart_Click: every judgment starts again.
   void restart();
 
@@ -107,6 +112,8 @@ class JudgmentPage {
   void placeHandles(double lower, double upper);
   void showRatios(double lower, double upper);
   bool checkBound(Box box);
+  // The status check of the interval the boxes show, the handles placed from them if needed.
+  void checkStatusOfBoxes();
   // Enables Next and Finish exactly when no attribute is open.
   void showCompletion();
   TextBoxState& boxState(Box box);

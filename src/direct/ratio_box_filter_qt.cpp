@@ -1,5 +1,6 @@
 #include "direct/ratio_box_filter_qt.h"
 
+#include "common/number_box_keys_qt.h"
 #include "direct/direct_a_presenter.h"
 
 // Qt
@@ -57,7 +58,7 @@ int RatioBoxFilter::keyAsciiOf(const QKeyEvent* event) {
     return key == Qt::Key_V ? kCtrlV : -1;
   }
   const QString text = event->text();
-  if (text.size() != 1 || event->modifiers() & Qt::AltModifier) return -1;
+  if (text.size() != 1 || event->modifiers() & (Qt::AltModifier | Qt::MetaModifier)) return -1;
   const char16_t c = text.front().unicode();
   if (c < 32 || c == 127) return -1;
   // Characters beyond Latin-1 reach the filter as a character it refuses.
@@ -81,10 +82,19 @@ bool RatioBoxFilter::handleKey(JudgmentPage::Box box, QLineEdit* edit, QKeyEvent
   }
   const int keyAscii = keyAsciiOf(event);
   if (keyAscii < 0) {
-    // Pasting by any other key of the platform is refused as well.
-    return event->matches(QKeySequence::Paste);
+    // A letter or digit held with Ctrl, Alt or Meta types nothing; pasting by any other key of
+    // the platform is refused as well.
+    return isDroppedModifiedKey(event) || event->matches(QKeySequence::Paste);
   }
-  m_presenter.txtWR_KeyPress(box, stateOf(edit), keyAscii);
+  // The box shows the presenter's text (every edit goes through it), so only the caret and the
+  // selection go over; a box whose length differs hands its whole text over.
+  const TextBoxState& shown = m_presenter.judgment().box(box);
+  if (static_cast<qsizetype>(shown.text.size()) == edit->text().size()) {
+    const int start = edit->hasSelectedText() ? edit->selectionStart() : edit->cursorPosition();
+    m_presenter.txtWR_KeyPress(box, start, edit->selectionLength(), keyAscii);
+  } else {
+    m_presenter.txtWR_KeyPress(box, stateOf(edit), keyAscii);
+  }
   showBoxState(edit, m_presenter.judgment().box(box));
   if (m_afterAction) m_afterAction();
   return true;

@@ -9,8 +9,8 @@ RatioKeyFilter::KeyAction RatioKeyFilter::DoKeyPress(TextBoxState& box, int& key
     keyAscii = 0;
     return KeyAction::Discard;
   }
-  const std::string kept = AttributeTexts::trim(box.text);
   if (keyAscii == kEnter) {
+    const std::string kept = AttributeTexts::trim(box.text);
     keyAscii = kBackspace;
     box.setText("");
     box.setText(kept);
@@ -28,14 +28,13 @@ RatioKeyFilter::KeyAction RatioKeyFilter::DoKeyPress(TextBoxState& box, int& key
 }
 
 void RatioKeyFilter::CheckPeriod(TextBoxState& box) {
-  const auto first = box.text.find('.');
-  if (first == std::string::npos || box.text.find('.', first + 1) == std::string::npos) return;
+  // The count is kept by the box's editing, so a key stroke does not look through the text.
+  if (box.periods() < 2) return;
   box.clampSelection();
   if (box.selStart == 0) return;
   box.selStart -= 1;
   box.selLength = 1;
-  box.text.erase(static_cast<std::size_t>(box.selStart), 1);
-  box.selLength = 0;
+  box.backspace();
 }
 
 bool RatioKeyFilter::discardKeyDown(int keyCode, bool shift) {

@@ -47,8 +47,8 @@ void TargetList::ListAtt(const AttributeModel& model, const WeightRatioJudgments
 TargetList::Choice TargetList::choose(int i, const WeightRatioJudgments& judgments, int refAtt) {
   if (i < 0 || i >= static_cast<int>(m_items.size())) return Choice::Ignored;
   if (i == refAtt) {
-    // The list keeps the user's pick; only the tied case puts the selection back.
-    m_selected = i;
+    // The selection goes back to the current target, which the target labels still name.
+    m_selected = m_target;
     return Choice::ReferenceItself;
   }
   if (judgments.group(i) == judgments.group(refAtt)) {

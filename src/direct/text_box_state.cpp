@@ -11,8 +11,19 @@ void TextBoxState::clampSelection() {
   selLength = std::clamp(selLength, 0, size - selStart);
 }
 
+int TextBoxState::periods() {
+  if (periodCount < 0) periodCount = static_cast<int>(std::count(text.begin(), text.end(), '.'));
+  return periodCount;
+}
+
+int TextBoxState::periodsIn(int start, int length) const {
+  const auto first = text.begin() + start;
+  return static_cast<int>(std::count(first, first + length, '.'));
+}
+
 void TextBoxState::typeCharacter(char c) {
   clampSelection();
+  if (periodCount >= 0) periodCount += (c == '.' ? 1 : 0) - periodsIn(selStart, selLength);
   text.replace(static_cast<std::size_t>(selStart), static_cast<std::size_t>(selLength), 1, c);
   ++selStart;
   selLength = 0;
@@ -20,6 +31,11 @@ void TextBoxState::typeCharacter(char c) {
 
 void TextBoxState::backspace() {
   clampSelection();
+  if (periodCount >= 0 && selLength > 0) {
+    periodCount -= periodsIn(selStart, selLength);
+  } else if (periodCount >= 0 && selStart > 0) {
+    periodCount -= periodsIn(selStart - 1, 1);
+  }
   if (selLength > 0) {
     text.erase(static_cast<std::size_t>(selStart), static_cast<std::size_t>(selLength));
   } else if (selStart > 0) {
@@ -31,6 +47,7 @@ void TextBoxState::backspace() {
 
 void TextBoxState::setText(const std::string& value) {
   text = value;
+  periodCount = -1;
   selStart = 0;
   selLength = 0;
 }

@@ -80,7 +80,10 @@ void chooseOrderAndReference(DirectAPresenter& p, const DirectScenario& scenario
 // character through the box's key filter.
 void typeText(DirectAPresenter& p, Box box, const std::string& text) {
   p.txtWR_SetText(box, "");
-  for (const unsigned char c : text) p.txtWR_KeyPress(box, p.judgment().box(box), c);
+  for (const unsigned char c : text) {
+    const TextBoxState& shown = p.judgment().box(box);
+    p.txtWR_KeyPress(box, shown.selStart, shown.selLength, c);
+  }
 }
 
 // One judgment step as DESIGN.md describes it; returns whether Enter recorded it.
@@ -98,8 +101,7 @@ bool judge(DirectAPresenter& p, const RecordingUiServices& ui, const ScenarioSte
   p.txtWR_LostFocus(Box::Upper);
   if (ui.messages().size() != before) return false;
   if (!p.control("cmdEnter").enabled) return false;
-  p.cmdEnter_Click();
-  return true;
+  return p.cmdEnter_Click();
 }
 
 // The lit status lamp; null while none is lit (after a failed check, a refused target or a

@@ -23,7 +23,7 @@ struct JudgmentControls {
 
   OptionState optPCAutomatic{"Automatic", true, true};
   OptionState optPCManual{"Manual", false, true};
-  ListState lstTradeOffFirstC{"The &first:", {}, -1, false};
+  ListState lstTradeOffFirstC{"The fi&rst:", {}, -1, false};
   ListState lstTradeOffSecondC{"The &second:", {}, -1, false};
   // The number of the trade-off in hand and the number needed.
   LabelState labPCThisNum;

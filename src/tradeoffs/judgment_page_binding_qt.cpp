@@ -1,5 +1,6 @@
 #include "tradeoffs/judgment_page_binding_qt.h"
 
+#include "common/number_box_keys_qt.h"
 #include "common/number_format.h"
 #include "component/wizard_context.h"
 #include "tradeoffs/elided_label_widget.h"
@@ -124,6 +125,8 @@ bool JudgmentPageBindingQt::eventFilter(QObject* watched, QEvent* event) {
   const auto* it = std::find(std::begin(c.scoreBox), std::end(c.scoreBox), watched);
   if (it == std::end(c.scoreBox)) return QObject::eventFilter(watched, event);
   const auto* key = static_cast<QKeyEvent*>(event);
+  // A letter or digit held with Ctrl, Alt or Meta types nothing, as a plain letter.
+  if (isDroppedModifiedKey(key)) return true;
   int code = 0;
   if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
     code = ScoreEntry::kEnter;

@@ -5,6 +5,7 @@
 // Std
 #include <algorithm>
 #include <cmath>
+#include <string_view>
 
 namespace tnw {
 
@@ -26,22 +27,22 @@ void clampSelection(TextBoxState& box) {
 
 }  // namespace
 
-void ScoreEntry::CheckPeriod(TextBoxState& box) {
+bool ScoreEntry::CheckPeriod(TextBoxState& box) {
   clampSelection(box);
-  if (box.text.find('.') == std::string::npos) return;
-  // Selects the character before the insertion point and replaces it by nothing, as the page
-  // has always done; with the caret after a period that period goes, so a second one cannot
-  // accumulate.
-  if (box.selStart == 0) return;
-  box.text.erase(static_cast<std::size_t>(box.selStart - 1), 1);
-  box.selStart -= 1;
-  box.selLength = 0;
+  // The typed key replaces the selection, so only a period outside it counts. Only a period key
+  // asks, so digits are typed without looking through the text.
+  const std::string_view text = box.text;
+  const auto start = static_cast<std::size_t>(box.selStart);
+  const auto end = start + static_cast<std::size_t>(box.selLength);
+  return text.substr(0, start).find('.') != std::string_view::npos ||
+         text.substr(end).find('.') != std::string_view::npos;
 }
 
 int ScoreEntry::DoKeyPress(TextBoxState& box, int key) {
   if (key < kBlank) return key;
-  CheckPeriod(box);
-  if ((key >= '0' && key <= '9') || key == '.') return key;
+  if (key >= '0' && key <= '9') return key;
+  // A second period cannot accumulate: the period key is dropped while the box holds one.
+  if (key == '.' && !CheckPeriod(box)) return key;
   return 0;
 }
 

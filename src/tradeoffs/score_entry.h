@@ -17,10 +17,11 @@ class ScoreEntry {
   static constexpr int kBlank = 32;
   static constexpr int kBackspace = 8;
 
-  // When the box already holds a period, deletes the character before the insertion point.
-  static void CheckPeriod(TextBoxState& box);
-  // Filters one key below Enter's handling: a printable key passes CheckPeriod and is kept only
-  // when it is a digit or a period (0 otherwise); control keys pass unchanged.
+  // Whether the box already holds a period outside its selection, so that a typed period would
+  // be a second one (the selection, which the key replaces, is kept in range).
+  static bool CheckPeriod(TextBoxState& box);
+  // Filters one key below Enter's handling: a digit passes, a period passes unless CheckPeriod
+  // finds one already, any other printable key is discarded (0); control keys pass unchanged.
   static int DoKeyPress(TextBoxState& box, int key);
   // Applies a key that passed the filter as a text box does: a printable key replaces the
   // selection, backspace deletes it or the character before the caret.

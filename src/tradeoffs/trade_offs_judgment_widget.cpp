@@ -133,7 +133,8 @@ QWidget* TradeOffsJudgmentWidget::buildSelection() {
   m_c.lstTradeOffFirstC->setObjectName(QStringLiteral("lstTradeOffFirstC"));
   m_c.lstTradeOffSecondC = new QListWidget(box);
   m_c.lstTradeOffSecondC->setObjectName(QStringLiteral("lstTradeOffSecondC"));
-  auto* first = namedLabel("lblTradeOffFirst", tr("The &first:"), box);
+  // Alt+R: Alt+F is Finish's, which is enabled on this page after a visit to the results.
+  auto* first = namedLabel("lblTradeOffFirst", tr("The fi&rst:"), box);
   first->setBuddy(m_c.lstTradeOffFirstC);
   auto* second = namedLabel("lblTradeOffSecond", tr("The &second:"), box);
   second->setBuddy(m_c.lstTradeOffSecondC);

@@ -83,6 +83,31 @@ TEST(DirectCliTest, AnUnfinishedRunHasNoGridAndNoExport) {
   EXPECT_TRUE(out["export"].is_null());
 }
 
+TEST(DirectCliTest, IntervalsThatFailACheckAreNeverRecordedOrExported) {
+  const std::string model = makeModel("tnw-direct-checks", kModelJson);
+  // Attribute 0 is more important than the reference 1: below 1 is inconsistent.
+  const auto run = runScenario(model, R"({"order": [1, 2, 3], "reference": 1, "steps": [
+      {"target": 0, "lower": "0.5", "upper": "1.2"},
+      {"target": 0, "lower": "5", "upper": "1.2"},
+      {"target": 0, "lower": "0", "upper": "1.2"},
+      {"target": 0, "lower": "1.2", "upper": "1.5"},
+      {"target": 2, "lower": "0.5", "upper": "0.8"}]})");
+  ASSERT_EQ(run.exitCode, 0) << run.err;
+  const json out = json::parse(run.out);
+  for (std::size_t i = 0; i < 3; ++i) EXPECT_FALSE(out["steps"][i]["recorded"]) << i;
+  EXPECT_EQ(out["steps"][0]["status"], "inconsistent");
+  EXPECT_EQ(out["steps"][1]["messages"].size(), 1u);
+  EXPECT_EQ(out["steps"][2]["messages"].size(), 1u);
+  EXPECT_TRUE(out["steps"][3]["recorded"]);
+  EXPECT_EQ(out["lower"], json::parse("[1.2, 1.0, 0.5]"));
+  EXPECT_EQ(out["upper"], json::parse("[1.5, 1.0, 0.8]"));
+  const json& e = out["export"];
+  ASSERT_TRUE(e.is_object());
+  for (std::size_t i = 0; i < 3; ++i) {
+    EXPECT_LE(e["weightsL"][i].get<double>(), e["weightsH"][i].get<double>()) << i;
+  }
+}
+
 TEST(DirectCliTest, AnEarlierResultIsResumedWithoutOrderOrReference) {
   const std::string model = makeModel("tnw-direct-resume", kResumedJson);
   const auto run = runScenario(model, R"({"steps": []})");

@@ -183,13 +183,13 @@ void DirectADialogInputTest::refusedTargetsShowTheirMessages() {
            "The selected attribute is in the same group with the reference attribute for the "
            "benefit-oriened ones. It is not necessary to make tradeoffs between them.");
   QCOMPARE(combo->currentIndex(), 2);
-  // The reference itself: the message; the list keeps the pick, the target stays.
+  // The reference itself: the message; the target stays, and the list shows it again.
   combo->setCurrentIndex(0);
   emit combo->activated(0);
   QCOMPARE(m_ui.messages().size(), std::size_t{2});
   QCOMPARE(m_ui.messages()[1].text,
            "Please choose different attributes to make pairwise comparisons!");
-  QCOMPARE(combo->currentIndex(), 0);
+  QCOMPARE(combo->currentIndex(), 2);
   QCOMPARE(m_dialog->presenter().judgment().targets().currentTarget(), 2);
   QCOMPARE(control<QLabel>(m_dialog.get(), "lblTargetAtt")->text(), QStringLiteral("Att3"));
 }

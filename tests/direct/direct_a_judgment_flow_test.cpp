@@ -258,11 +258,11 @@ TEST_F(JudgmentFlowTest, AZeroSumInTheExportIsReportedAndNothingIsExported) {
   EXPECT_TRUE(p.exported().Weights.empty());
 }
 
-TEST_F(JudgmentFlowTest, BackToTheReferenceKeepsTheCaptionAndHidesTheOrderTab) {
+TEST_F(JudgmentFlowTest, BackToTheReferenceShowsItsCaptionAndHidesTheOrderTab) {
   DirectAPresenter& p = toJudgments();
   p.cmdBack_Click();
   EXPECT_EQ(p.WizardStep(), 1);
-  EXPECT_EQ(p.caption(), DirectAPresenter::kCaptions[2]);
+  EXPECT_EQ(p.caption(), DirectAPresenter::kCaptions[1]);
   EXPECT_FALSE(p.judgment().orderTabVisible());
   EXPECT_TRUE(p.judgment().targets().items().empty());
   EXPECT_FALSE(p.control("cmdEnter").visible);

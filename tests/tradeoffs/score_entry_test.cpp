@@ -36,17 +36,45 @@ TEST(ScoreEntryTest, SecondPeriodRightAfterTheFirstCannotAccumulate) {
   EXPECT_EQ(b.selStart, 2);
 }
 
-TEST(ScoreEntryTest, CheckPeriodDeletesTheCharacterBeforeTheCaretWhenAPeriodIsThere) {
+// Types keys one by one as the box does: the filter, then the box's own editing.
+void typeKeys(TextBoxState& b, const std::string& keys) {
+  for (const char k : keys) ScoreEntry::applyKey(b, ScoreEntry::DoKeyPress(b, k));
+}
+
+TEST(ScoreEntryTest, ADecimalCanBeTyped) {
+  TextBoxState b = box("", 0);
+  typeKeys(b, "30.5");
+  EXPECT_EQ(b.text, "30.5");
+  EXPECT_EQ(b.selStart, 4);
+  typeKeys(b, "25");
+  EXPECT_EQ(b.text, "30.525");
+}
+
+TEST(ScoreEntryTest, ASecondPeriodIsDroppedWhereverItIsTyped) {
   TextBoxState b = box("3.25", 4);
-  ScoreEntry::CheckPeriod(b);
-  EXPECT_EQ(b.text, "3.2");
-  EXPECT_EQ(b.selStart, 3);
-  TextBoxState none = box("325", 3);
-  ScoreEntry::CheckPeriod(none);
-  EXPECT_EQ(none.text, "325");
-  TextBoxState atStart = box("3.25", 0, 4);
-  ScoreEntry::CheckPeriod(atStart);
-  EXPECT_EQ(atStart.text, "3.25");
+  typeKeys(b, ".");
+  EXPECT_EQ(b.text, "3.25");
+  b.selStart = 0;
+  typeKeys(b, ".");
+  EXPECT_EQ(b.text, "3.25");
+  EXPECT_EQ(b.selStart, 0);
+  b.selStart = 3;
+  typeKeys(b, "7.");
+  EXPECT_EQ(b.text, "3.275");
+}
+
+TEST(ScoreEntryTest, APeriodMayReplaceTheSelectedOne) {
+  TextBoxState b = box("3.25", 1, 1);
+  EXPECT_FALSE(ScoreEntry::CheckPeriod(b));
+  typeKeys(b, ".");
+  EXPECT_EQ(b.text, "3.25");
+  TextBoxState all = box("3.25", 0, 4);
+  typeKeys(all, "0.5");
+  EXPECT_EQ(all.text, "0.5");
+  TextBoxState digits = box("325", 3);
+  EXPECT_FALSE(ScoreEntry::CheckPeriod(digits));
+  typeKeys(digits, ".");
+  EXPECT_EQ(digits.text, "325.");
 }
 
 TEST(ScoreEntryTest, TypedKeyReplacesTheSelectionAndBackspaceDeletes) {

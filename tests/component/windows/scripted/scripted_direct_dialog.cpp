@@ -90,9 +90,8 @@ void ScriptedDirectDialog::judge(const nlohmann::json& step) {
   m_presenter.txtWR_SetText(Box::Upper, boxText(step, "upper"));
   m_presenter.txtWR_LostFocus(Box::Lower);
   m_presenter.txtWR_LostFocus(Box::Upper);
-  const bool enter = m_presenter.control("cmdEnter").enabled;
-  if (enter) m_presenter.cmdEnter_Click();
-  trace("judged target " + std::to_string(target) + (enter ? " recorded" : " not recorded"));
+  const bool recorded = m_presenter.control("cmdEnter").enabled && m_presenter.cmdEnter_Click();
+  trace("judged target " + std::to_string(target) + (recorded ? " recorded" : " not recorded"));
 }
 
 void ScriptedDirectDialog::end(const std::string& how) {

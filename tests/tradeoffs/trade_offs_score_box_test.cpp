@@ -1,0 +1,74 @@
+// The score boxes of the trade-off judgment page, typed into key by key on the real dialog.
+
+#include "trade_off_dialog_fixture.h"
+
+namespace tnw {
+
+using namespace tnw::testing;
+
+class TradeOffsScoreBoxTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void cleanup() {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY2(QApplication::topLevelWidgets().isEmpty(), "a top-level widget leaked");
+  }
+  void keysHeldWithCtrlAltOrMetaTypeNothing();
+  void aDecimalCanBeTypedAndASecondPeriodIsDropped();
+
+ private:
+  std::unique_ptr<TradeOffsADialog> open() {
+    m_context.model = makeModel(3);
+    auto d = std::make_unique<TradeOffsADialog>(m_context, m_ui, m_events, &m_random);
+    d->showModal();
+    [&] {
+      QVERIFY(QTest::qWaitForWindowExposed(d.get()));
+      d->activateWindow();
+      QVERIFY(QTest::qWaitForWindowActive(d.get()));
+    }();
+    return d;
+  }
+
+  WizardContext m_context;
+  RecordingUiServices m_ui;
+  RecordingTradeOffsEvents m_events;
+  SequenceRandomSource m_random{{0.2f, 0.7f, 0.4f, 0.9f, 0.1f, 0.6f}};
+};
+
+void TradeOffsScoreBoxTest::keysHeldWithCtrlAltOrMetaTypeNothing() {
+  auto d = open();
+  typeScore(d.get(), "txtTradeOffBFirstScore", "21");
+  auto* box = child<QLineEdit>(d.get(), QStringLiteral("txtTradeOffBFirstScore"));
+  // No mnemonic of the page uses these letters, so the keys reach the box.
+  for (const Qt::Key key : {Qt::Key_X, Qt::Key_Z, Qt::Key_Q, Qt::Key_7, Qt::Key_Period}) {
+    QTest::keyClick(box, key, Qt::AltModifier);
+    QTest::keyClick(box, key, Qt::MetaModifier);
+    QTest::keyClick(box, key, Qt::ControlModifier | Qt::AltModifier);
+    QTest::keyClick(box, key, Qt::ControlModifier);
+  }
+  QCOMPARE(box->text(), QStringLiteral("21"));
+  // The box's own editing keys still work, and a digit from the keypad is typed.
+  QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier);
+  QCOMPARE(box->selectedText(), QStringLiteral("21"));
+  QTest::keyClick(box, Qt::Key_7, Qt::KeypadModifier);
+  QCOMPARE(box->text(), QStringLiteral("7"));
+  QVERIFY(m_ui.messages().empty());
+}
+
+void TradeOffsScoreBoxTest::aDecimalCanBeTypedAndASecondPeriodIsDropped() {
+  auto d = open();
+  typeScore(d.get(), "txtTradeOffAFirstScore", "30.5");
+  auto* box = child<QLineEdit>(d.get(), QStringLiteral("txtTradeOffAFirstScore"));
+  QCOMPARE(box->text(), QStringLiteral("30.5"));
+  QTest::keyClicks(box, QStringLiteral(".2."));
+  QCOMPARE(box->text(), QStringLiteral("30.52"));
+  box->setCursorPosition(1);
+  QTest::keyClicks(box, QStringLiteral(".1"));
+  QCOMPARE(box->text(), QStringLiteral("310.52"));
+}
+
+}  // namespace tnw
+
+QTEST_MAIN(tnw::TradeOffsScoreBoxTest)
+#include "trade_offs_score_box_test.moc"
