@@ -83,7 +83,11 @@ TEST_F(LeaveOneOutTest, TheOneInconsistentJudgmentHurtsMostAndWithoutItTheIndexI
     EXPECT_LE(worst[i].gain, worst[i - 1].gain);
     EXPECT_GT(worst[i].gain, 0.0);
   }
-  EXPECT_EQ(LeaveOneOut::indexWithout(store, 3, 6), worst[0].indexWithout);
+  // The full regression run again sums in another order than the downdated sums: equal to
+  // rounding.
+  const auto again = LeaveOneOut::indexWithout(store, 3, 6);
+  ASSERT_TRUE(again.has_value());
+  EXPECT_NEAR(*again, worst[0].indexWithout, 1e-12);
 }
 
 TEST_F(LeaveOneOutTest, TheFittedScoreOfBMakesTheEstimatedWeightsFitTheJudgment) {
