@@ -167,13 +167,15 @@ HRESULT STDMETHODCALLTYPE ComTnwMavt::GetCurFileData(VARIANT* NorixDir, short Fi
     std::string dir;
     HRESULT hr = variantToText(*NorixDir, dir);
     if (FAILED(hr)) return fail(DISP_E_TYPEMISMATCH, L"Type mismatch: NorixDir is not a text.");
-    const std::string before = dir;
     m_component->GetCurFileData(dir, std::int16_t(FileIndex), fromBstr(PathAndFileName));
-    if (dir != before) {
+    // NorixDir is [in, out]: the text the wizard keeps goes back to the host's Variant when it
+    // differs from what the host passed.
+    const std::string& kept = m_component->context().NorixDir;
+    if (kept != dir) {
       VARIANT changed;
       VariantInit(&changed);
       V_VT(&changed) = VT_BSTR;
-      V_BSTR(&changed) = toBstr(dir);
+      V_BSTR(&changed) = toBstr(kept);
       if (!V_BSTR(&changed)) return fail(E_OUTOFMEMORY, L"Out of memory.");
       VARIANT* target =
           V_VT(NorixDir) == (VT_BYREF | VT_VARIANT) ? V_VARIANTREF(NorixDir) : NorixDir;
