@@ -14,9 +14,33 @@ install(TARGETS ${TNW_EXPORT_TARGETS} EXPORT TNWizardTargets
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
   RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/src/
-  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tnwizard
-  FILES_MATCHING PATTERN "*.h")
+
+# The public headers, and only they: what a host of TNW_MAVT includes (tnw_mavt.h and what it
+# names), and what a user of the Qt-free core includes to read, write and value model files or to
+# drive the wizard with dialogs of its own (WizardComponent and its factory). Each includes only
+# headers of this list. The other headers are the implementation and stay in the source tree.
+set(TNW_PUBLIC_HEADERS
+  common/currency.h
+  common/ui_services.h
+  component/tnw_mavt.h
+  component/tnw_mavt_events.h
+  component/wizard_component.h
+  component/wizard_context.h
+  component/wizard_dialog.h
+  component/wizard_dialog_factory.h
+  direct/direct_a_events.h
+  model/attribute_model.h
+  model/model_file_reader.h
+  model/model_file_writer.h
+  model/model_read_report.h
+  model/value_function.h
+  selmethod/sel_method_events.h
+  tradeoffs/trade_offs_a_events.h)
+foreach(header ${TNW_PUBLIC_HEADERS})
+  get_filename_component(dir ${header} DIRECTORY)
+  install(FILES ${PROJECT_SOURCE_DIR}/src/${header}
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tnwizard/${dir})
+endforeach()
 
 set(TNW_CONFIG_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/TNWizard)
 install(EXPORT TNWizardTargets NAMESPACE TNWizard:: DESTINATION ${TNW_CONFIG_DIR})

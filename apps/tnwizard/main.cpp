@@ -17,7 +17,8 @@ constexpr const char* kUsage =
     "       tnwizard model make INPUT.json -o MODEL\n"
     "       tnwizard value MODEL ATT SCORE...\n"
     "       tnwizard direct MODEL SCENARIO.json\n"
-    "       tnwizard tradeoffs MODEL JUDGMENTS.json\n";
+    "       tnwizard tradeoffs MODEL JUDGMENTS.json\n"
+    "       tnwizard --help | --version\n";
 
 // One sub-command: its name and the function that runs it with the arguments after the name.
 struct Command {
@@ -59,6 +60,15 @@ int readJsonInputFile(const std::string& path, std::size_t maxBytes, std::string
 int main(int argc, char** argv) {
   const std::vector<std::string> args(argv + 1, argv + argc);
   if (args.empty()) return tnwUsage();
+  // Asked for, help and version are the output itself: standard output and success.
+  if (args.size() == 1 && (args.front() == "--help" || args.front() == "-h")) {
+    std::fputs(kUsage, stdout);
+    return 0;
+  }
+  if (args.size() == 1 && args.front() == "--version") {
+    std::printf("tnwizard %s\n", TNW_VERSION);
+    return 0;
+  }
   for (const Command& c : kCommands) {
     if (c.run != nullptr && c.name == args.front()) {
       return c.run(std::vector<std::string>(args.begin() + 1, args.end()));

@@ -117,7 +117,7 @@ std::string generalFromDecimal(double value, int significant) {
   const int exponent = d.pointPos - 1;
   if (exponent < -4 || exponent >= significant) {
     out.push_back(d.digits[0]);
-    if (d.digits.size() > 1) out += "." + d.digits.substr(1);
+    if (d.digits.size() > 1) out.append(".").append(d.digits, 1);
     const int absExp = exponent < 0 ? -exponent : exponent;
     out += exponent < 0 ? "E-" : "E+";
     if (absExp < 10) out.push_back('0');
@@ -125,12 +125,12 @@ std::string generalFromDecimal(double value, int significant) {
     return out;
   }
   if (d.pointPos <= 0) {
-    out += "0." + std::string(static_cast<std::size_t>(-d.pointPos), '0') + d.digits;
+    out.append("0.").append(static_cast<std::size_t>(-d.pointPos), '0').append(d.digits);
   } else if (d.pointPos >= static_cast<int>(d.digits.size())) {
-    out += d.digits + std::string(static_cast<std::size_t>(d.pointPos) - d.digits.size(), '0');
+    out.append(d.digits).append(static_cast<std::size_t>(d.pointPos) - d.digits.size(), '0');
   } else {
     const auto pos = static_cast<std::size_t>(d.pointPos);
-    out += d.digits.substr(0, pos) + "." + d.digits.substr(pos);
+    out.append(d.digits, 0, pos).append(".").append(d.digits, pos);
   }
   return out;
 }
@@ -182,7 +182,7 @@ std::string formatNumber(double value, std::string_view pattern) {
 
   std::string out = value < 0 ? "-" : "";
   out += p.grouping ? groupThousands(intDigits) : intDigits;
-  if (p.hasPoint) out += "." + frac;
+  if (p.hasPoint) out.append(".").append(frac);
   return out;
 }
 
@@ -201,7 +201,7 @@ std::string generalText(Currency value) {
   std::string frac = std::to_string(magnitude % 10000);
   frac.insert(0, 4 - frac.size(), '0');
   while (!frac.empty() && frac.back() == '0') frac.pop_back();
-  if (!frac.empty()) out += "." + frac;
+  if (!frac.empty()) out.append(".").append(frac);
   return out;
 }
 

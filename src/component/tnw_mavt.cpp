@@ -69,7 +69,7 @@ void TNW_MAVT::setHelpHandler(HelpHandler handler) {
   if (UiServicesQt* ui = m_impl->parts.qtUi()) ui->setHelpHandler(std::move(handler));
 }
 
-void TNW_MAVT::GetCurFileData(std::string& NorixDir, std::int16_t FileIndex,
+void TNW_MAVT::GetCurFileData(const std::string& NorixDir, std::int16_t FileIndex,
                               const std::string& PathAndFileName) {
   m_impl->component.GetCurFileData(NorixDir, FileIndex, PathAndFileName);
 }

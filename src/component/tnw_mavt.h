@@ -60,8 +60,9 @@ class TNWIZARD_MAVT_EXPORT TNW_MAVT {
   // UiServices: their showHelp then handles help.
   void setHelpHandler(HelpHandler handler);
 
-  // Stores the host's directory, file index and model path, and reads the model file.
-  void GetCurFileData(std::string& NorixDir, std::int16_t FileIndex,
+  // Stores the host's directory, file index and model path, and reads the model file. The text
+  // kept for NorixDir (the host's help files lie there) is context().NorixDir.
+  void GetCurFileData(const std::string& NorixDir, std::int16_t FileIndex,
                       const std::string& PathAndFileName);
   // Shows the wizard (the method-selection dialog).
   void ShowTNWizard();

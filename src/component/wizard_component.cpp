@@ -77,7 +77,7 @@ WizardComponent::~WizardComponent() {
   release(Slot::TradeOffsA);
 }
 
-void WizardComponent::GetCurFileData(std::string& NorixDir, std::int16_t FileIndex,
+void WizardComponent::GetCurFileData(const std::string& NorixDir, std::int16_t FileIndex,
                                      const std::string& PathAndFileName) {
   m_context.NorixDir = NorixDir;
   m_context.FileIndex = FileIndex;

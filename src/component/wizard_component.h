@@ -38,7 +38,7 @@ class WizardComponent {
   void setEvents(TnwMavtEvents* events) { m_events = events; }
 
   // Stores the three values and reads the model file PathAndFileName, every time it is called.
-  void GetCurFileData(std::string& NorixDir, std::int16_t FileIndex,
+  void GetCurFileData(const std::string& NorixDir, std::int16_t FileIndex,
                       const std::string& PathAndFileName);
   // Shows the method-selection dialog: makes, centres and shows it the first time, afterwards
   // only makes it visible again.

@@ -167,10 +167,12 @@ HRESULT STDMETHODCALLTYPE ComTnwMavt::GetCurFileData(VARIANT* NorixDir, short Fi
     const wchar_t* problem = nullptr;
     const HRESULT hr = readCurFileDataArgs(NorixDir, FileIndex, PathAndFileName, args, problem);
     if (FAILED(hr)) return fail(hr, problem);
-    const std::string before = args.NorixDir;
     m_component->GetCurFileData(args.NorixDir, args.FileIndex, args.PathAndFileName);
-    if (args.NorixDir == before) return S_OK;
-    const HRESULT written = setVariantText(*NorixDir, args.NorixDir);
+    // NorixDir is [in, out]: the text the wizard keeps goes back to the host's Variant when it
+    // differs from what the host passed.
+    const std::string& kept = m_component->context().NorixDir;
+    if (kept == args.NorixDir) return S_OK;
+    const HRESULT written = setVariantText(*NorixDir, kept);
     if (written == E_OUTOFMEMORY) return fail(written, L"Out of memory.");
     if (FAILED(written)) return fail(written, L"NorixDir cannot be changed.");
     return S_OK;

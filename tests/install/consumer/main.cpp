@@ -1,9 +1,8 @@
-// A host that embeds the installed wizard: shows it headless, presses Cancel on the selection
-// dialog and checks that the events arrive as documented.
+// A host that embeds the installed wizard, linking TNWizard::mavt alone: shows it headless,
+// presses Cancel on the selection dialog and checks that the events arrive as documented.
 
-#include <common/recording_ui_services.h>
-#include <common/ui_services_qt.h>
 #include <component/tnw_mavt.h>
+#include <component/wizard_context.h>
 
 #include <QApplication>
 #include <QPushButton>
@@ -13,6 +12,20 @@
 #include <vector>
 
 namespace {
+
+// The host's own message boxes, pointer and help: it keeps the message texts.
+class HostUi : public tnw::UiServices {
+ public:
+  void messageBox(const std::string& text, tnw::MessageIcon, const std::string&) override {
+    messages.push_back(text);
+  }
+  void beep() override {}
+  void setBusy(bool) override {}
+  void showHelp(const std::string&, int) override {}
+  tnw::ScreenSize screenSize() const override { return {1024, 768}; }
+
+  std::vector<std::string> messages;
+};
 
 class Host : public tnw::TnwMavtEvents {
  public:
@@ -43,17 +56,17 @@ int fail(const char* what) {
 int main(int argc, char** argv) {
   if (argc != 2) return fail("usage: consumer MODEL");
   QApplication app(argc, argv);
-  // The UI library links on its own as well.
-  const tnw::UiServicesQt qtServices;
-  if (qtServices.screenSize().width <= 0) return fail("no screen size");
 
-  tnw::RecordingUiServices ui;
+  HostUi ui;
   tnw::TNW_MAVT wizard(ui);
   Host host(wizard);
   wizard.setEvents(&host);
-  std::string dir = "/opt/norix";
-  wizard.GetCurFileData(dir, 5, argv[1]);
-  if (!ui.messages().empty()) return fail("the model could not be read");
+  // The host's directory as a literal, as hosts pass it.
+  wizard.GetCurFileData("/opt/norix", 5, argv[1]);
+  if (!ui.messages.empty()) return fail("the model could not be read");
+  if (wizard.context().NorixDir != "/opt/norix" || wizard.context().FileIndex != 5)
+    return fail("GetCurFileData did not keep the host's values");
+  if (wizard.context().model.NumAtt <= 0) return fail("the model has no attributes");
   wizard.ShowTNWizard();
 
   QTimer::singleShot(0, [] {
