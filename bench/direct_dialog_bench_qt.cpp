@@ -1,5 +1,7 @@
 // frmDirectA's reaction to the user at 31 attributes, with the real widgets on the offscreen
-// platform: one step of a handle drag, and one key typed into a ratio box (and taken back).
+// platform: one step of a handle drag, and one key typed into a ratio box (and taken back). Each
+// benchmark reports its paint events per action (paints) with the widgets that got them in its
+// label.
 
 #include "common/recording_ui_services.h"
 #include "component/wizard_context.h"
@@ -7,6 +9,7 @@
 #include "direct/cone_area_widget.h"
 #include "direct/direct_a_dialog.h"
 #include "direct/direct_a_events.h"
+#include "paint_counter_qt.h"
 
 // Qt
 #include <QApplication>
@@ -101,6 +104,8 @@ void BM_HandleDragStep(benchmark::State& state) {
   const QPoint b =
       cone->toPixels(QPointF(0.6 * cone->areaSide(), 0.5 * cone->areaSide())).toPoint();
   bool toA = true;
+  PaintCounter paints;
+  paints.setCounting(true);
   for (auto _ : state) {
     const QPoint target = handle->mapFrom(cone, toA ? a : b);
     QMouseEvent move(QEvent::MouseMove, QPointF(target), QPointF(handle->mapToGlobal(target)),
@@ -110,6 +115,8 @@ void BM_HandleDragStep(benchmark::State& state) {
     QCoreApplication::processEvents();
     toA = !toA;
   }
+  paints.setCounting(false);
+  paints.report(state, state.iterations());
 }
 BENCHMARK(BM_HandleDragStep);
 
@@ -118,6 +125,8 @@ void BM_RatioBoxKey(benchmark::State& state) {
   auto* box = static_cast<QLineEdit*>(child(page.dialog.get(), "txtWRLower"));
   box->setFocus();
   box->end(false);
+  PaintCounter paints;
+  paints.setCounting(true);
   for (auto _ : state) {
     QKeyEvent digit(QEvent::KeyPress, Qt::Key_5, Qt::NoModifier, QStringLiteral("5"));
     QApplication::sendEvent(box, &digit);
@@ -125,6 +134,8 @@ void BM_RatioBoxKey(benchmark::State& state) {
     QApplication::sendEvent(box, &back);
     QCoreApplication::processEvents();
   }
+  paints.setCounting(false);
+  paints.report(state, state.iterations());
   state.SetItemsProcessed(state.iterations() * 2);
 }
 BENCHMARK(BM_RatioBoxKey);

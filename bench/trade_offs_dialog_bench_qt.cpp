@@ -2,11 +2,13 @@
 // offscreen platform. Each iteration is one action: the event a user's mouse or keyboard sends,
 // its handling by the presenter, the re-rendering of the controls and the repaint that follows.
 // Besides Google Benchmark's mean, each benchmark reports the median, the 90th percentile and
-// the maximum of the single actions (p50_us, p90_us, max_us).
+// the maximum of the single actions (p50_us, p90_us, max_us), and the paint events per action
+// (paints) with the widgets that got them in its label.
 
 #include "common/recording_ui_services.h"
 #include "component/wizard_context.h"
 #include "graphs/chart_widget.h"
+#include "paint_counter_qt.h"
 #include "tradeoffs/trade_offs_a_dialog.h"
 #include "tradeoffs/trade_offs_a_events.h"
 
@@ -24,6 +26,14 @@
 
 // Google Benchmark
 #include <benchmark/benchmark.h>
+
+// Valgrind's client requests cost a few instructions when the program runs on its own.
+#if __has_include(<valgrind/callgrind.h>)
+#include <valgrind/callgrind.h>
+#define TNW_CALLGRIND(request) request
+#else
+#define TNW_CALLGRIND(request)
+#endif
 
 // Std
 #include <algorithm>
@@ -125,10 +135,21 @@ struct UserAction {
   std::function<void(Fixture&, int)> act;
 };
 
+// The timed part of an action. Under valgrind --tool=callgrind --instr-atstart=no only this is
+// instrumented, so the instruction counts are the actions' alone.
+[[gnu::noinline]] void performAction(const UserAction& action, Fixture& f, int i) {
+  TNW_CALLGRIND(CALLGRIND_START_INSTRUMENTATION);
+  action.act(f, i);
+  // The repaint of what the action changed belongs to it.
+  QApplication::processEvents();
+  TNW_CALLGRIND(CALLGRIND_STOP_INSTRUMENTATION);
+}
+
 void runAction(benchmark::State& state, const UserAction& action) {
   Fixture f;
   if (action.prepare) action.prepare(f);
   std::vector<double> micros;
+  PaintCounter paints;
   int i = 0;
   for (auto _ : state) {
     if (action.between) {
@@ -138,9 +159,9 @@ void runAction(benchmark::State& state, const UserAction& action) {
       state.ResumeTiming();
     }
     const auto start = std::chrono::steady_clock::now();
-    action.act(f, i);
-    // The repaint of what the action changed belongs to it.
-    QApplication::processEvents();
+    paints.setCounting(true);
+    performAction(action, f, i);
+    paints.setCounting(false);
     micros.push_back(
         std::chrono::duration<double, std::micro>(std::chrono::steady_clock::now() - start)
             .count());
@@ -154,6 +175,7 @@ void runAction(benchmark::State& state, const UserAction& action) {
   state.counters["p50_us"] = at(0.5);
   state.counters["p90_us"] = at(0.9);
   state.counters["max_us"] = micros.back();
+  paints.report(state, static_cast<long long>(micros.size()));
 }
 
 // Each tab of a tab strip, coming from the other one.

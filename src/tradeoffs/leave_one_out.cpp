@@ -8,6 +8,8 @@
 // Std
 #include <algorithm>
 #include <cmath>
+#include <functional>
+#include <vector>
 
 namespace tnw {
 
@@ -122,10 +124,73 @@ std::optional<double> downdatedIndex(const RegressionWork& full, int k) {
   return w.ConsistencyIndex;
 }
 
+// The full fit's inverse and coefficients, from which each index without one observation is
+// found by a rank-one update in O(K^2) instead of a new inversion in O(K^3).
+struct FullInverse {
+  explicit FullInverse(const RegressionWork& full) : w(full) {
+    const int kk = full.K;
+    valid = full.NoInverse == 0 && kk > 0 && full.InvMatrix.rows() == kk + 1 &&
+            full.InvMatrix.cols() == kk + 1 && full.CrossProd.rows() == kk + 1;
+    if (!valid) return;
+    b.assign(static_cast<std::size_t>(kk + 1), 0.0);
+    for (int i = 1; i <= kk; ++i) {
+      double sum = 0.0;
+      for (int j = 1; j <= kk; ++j) sum += full.InvMatrix(i, j) * full.CrossProd(j, 0);
+      b[static_cast<std::size_t>(i)] = sum;
+      ssr += sum * full.CrossProd(i, 0);
+    }
+    valid = std::isfinite(ssr);
+  }
+
+  const RegressionWork& w;
+  bool valid = false;
+  std::vector<double> b;  // C^-1 c: the full fit's coefficients
+  double ssr = 0.0;       // c' C^-1 c: the full fit's regression sum
+};
+
+// downdatedIndex by Sherman-Morrison: with C' = C - f d d' and c' = c - f d0 d, the regression
+// sum c' C'^-1 c' follows from u = C^-1 d alone. An observation whose leverage leaves C' (near)
+// singular is left to the inversion, which decides as it always has.
+std::optional<double> updatedIndex(const FullInverse& full, int k) {
+  const RegressionWork& w = full.w;
+  const int n = w.N;
+  const int kk = w.K;
+  if (n - 1 < 1) return std::nullopt;
+  const double f = static_cast<double>(n) / (n - 1);
+  std::vector<double> d(static_cast<std::size_t>(kk + 1));
+  const double d0 = w.Y[static_cast<std::size_t>(k)] - w.YMean;
+  for (int j = 1; j <= kk; ++j) {
+    d[static_cast<std::size_t>(j)] = w.X(k, j) - w.XMean[static_cast<std::size_t>(j)];
+  }
+  double s = 0.0;   // d' C^-1 d
+  double db = 0.0;  // d' b
+  for (int i = 1; i <= kk; ++i) {
+    double u = 0.0;
+    for (int j = 1; j <= kk; ++j) u += w.InvMatrix(i, j) * d[static_cast<std::size_t>(j)];
+    s += d[static_cast<std::size_t>(i)] * u;
+    db += d[static_cast<std::size_t>(i)] * full.b[static_cast<std::size_t>(i)];
+  }
+  const double pivot = 1.0 - f * s;
+  if (!(pivot > 1e-6)) return downdatedIndex(w, k);
+  const double uc = db - f * d0 * s;  // u' c'
+  const double ssr = full.ssr - 2.0 * f * d0 * db + f * f * d0 * d0 * s + f * uc * uc / pivot;
+  const double total = w.CrossProd(0, 0) - f * d0 * d0;
+  // The checks of Regression::CalParameters on the fit of N - 1 observations.
+  if (total == 0.0 || ssr < 0.0) return std::nullopt;
+  const int degFreedom = (n - 1) - kk - 1;
+  if (degFreedom == 0 || degFreedom + 1 == 0) return std::nullopt;
+  const double index = 1.0 - (1.0 - ssr / total) * (n - 2) / (degFreedom + 1);
+  if (!std::isfinite(index)) return std::nullopt;
+  return index;
+}
+
 }  // namespace
 
-std::vector<std::optional<double>> LeaveOneOut::indexesWithout(const JudgmentStore& store,
-                                                               int numAtt) {
+namespace {
+
+// The index of the fit without each judgment, by the rank-one update of the full fit's inverse,
+// which agrees with a new fit to rounding.
+std::vector<std::optional<double>> leaveOneOutIndexes(const JudgmentStore& store, int numAtt) {
   const int n = std::max(store.JudgmentCount, 0);
   std::vector<std::optional<double>> out(static_cast<std::size_t>(n));
   JudgmentStore copy = store;
@@ -135,18 +200,53 @@ std::vector<std::optional<double>> LeaveOneOut::indexesWithout(const JudgmentSto
   full.RegressMain(copy, numAtt, record, scratch);
   const RegressionWork& w = full.work();
   const bool prepared = w.K == numAtt && (w.N == n || w.N == n + 1);
+  const FullInverse inverse(w);
   int nonZero = 0;
   for (int k = 0; k < n; ++k) nonZero += at(store.PrefResponse, static_cast<std::size_t>(k)) != 0;
   for (int k = 1; k <= n; ++k) {
-    const bool responseNonZero = at(store.PrefResponse, static_cast<std::size_t>(k - 1)) != 0;
+    const auto u = static_cast<std::size_t>(k - 1);
+    const bool responseNonZero = at(store.PrefResponse, u) != 0;
     // The artificial observation is appended exactly when every response is 0.
     const bool appendedWithout = nonZero - (responseNonZero ? 1 : 0) == 0;
     const bool appendedFull = w.N == n + 1;
-    out[static_cast<std::size_t>(k - 1)] = prepared && appendedWithout == appendedFull
-                                               ? downdatedIndex(w, k)
-                                               : indexWithout(store, numAtt, k);
+    if (!prepared || appendedWithout != appendedFull) {
+      out[u] = LeaveOneOut::indexWithout(store, numAtt, k);
+    } else if (inverse.valid) {
+      out[u] = updatedIndex(inverse, k);
+    } else {
+      out[u] = downdatedIndex(w, k);
+    }
   }
   return out;
+}
+
+// The judgments whose exact gain may reach the list of the `count` worst: those whose updated
+// gain is above the threshold and not below the count-th largest, less a margin far above the
+// update's rounding.
+std::vector<bool> candidates(const std::vector<std::optional<double>>& updated, double fullIndex,
+                             double threshold, int count) {
+  constexpr double kMargin = 5e-13;
+  std::vector<double> gains;
+  for (const auto& index : updated) {
+    if (index && *index - fullIndex > threshold - kMargin) gains.push_back(*index - fullIndex);
+  }
+  double cutoff = threshold;
+  if (count > 0 && static_cast<int>(gains.size()) > count) {
+    std::nth_element(gains.begin(), gains.begin() + (count - 1), gains.end(), std::greater<>());
+    cutoff = std::max(cutoff, gains[static_cast<std::size_t>(count - 1)]);
+  }
+  std::vector<bool> out(updated.size(), false);
+  for (std::size_t u = 0; u < updated.size(); ++u) {
+    out[u] = updated[u] && *updated[u] - fullIndex > cutoff - kMargin;
+  }
+  return out;
+}
+
+}  // namespace
+
+std::vector<std::optional<double>> LeaveOneOut::indexesWithout(const JudgmentStore& store,
+                                                               int numAtt) {
+  return leaveOneOutIndexes(store, numAtt);
 }
 
 std::optional<double> LeaveOneOut::indexWithout(const JudgmentStore& store, int numAtt,
@@ -173,11 +273,19 @@ std::vector<JudgmentInfluence> LeaveOneOut::worst(const JudgmentStore& store,
                                                   int count) {
   const int numAtt = model.attributeCount();
   std::vector<JudgmentInfluence> found;
-  const std::vector<std::optional<double>> indexes = indexesWithout(store, numAtt);
+  // Differences at the level of rounding noise are no harm done.
+  constexpr double kThreshold = 1e-12;
+  // The update finds the few judgments that can be among the worst; their indexes are then those
+  // of a new fit without them.
+  const std::vector<std::optional<double>> updated = indexesWithout(store, numAtt);
+  const std::vector<bool> exact = candidates(updated, fullIndex, kThreshold, count);
+  std::vector<std::optional<double>> indexes(updated.size());
+  for (std::size_t u = 0; u < updated.size(); ++u) {
+    if (exact[u]) indexes[u] = indexWithout(store, numAtt, static_cast<int>(u) + 1);
+  }
   for (int k = 1; k <= static_cast<int>(indexes.size()); ++k) {
     const std::optional<double>& index = indexes[static_cast<std::size_t>(k - 1)];
-    // Differences at the level of rounding noise are no harm done.
-    if (!index || !(*index - fullIndex > 1e-12)) continue;
+    if (!index || !(*index - fullIndex > kThreshold)) continue;
     const auto u = static_cast<std::size_t>(k - 1);
     JudgmentInfluence j;
     j.judgment = k;

@@ -155,9 +155,11 @@ void TradeOffsADialog::render() {
   renderButton(m_cmdFinish, p.cmdFinish());
   renderButton(m_cmdCancel, p.cmdCancel());
   renderButton(m_cmdHelp, p.cmdTNWizardHelp());
-  renderButton(m_cmdPrint, p.cmdPrint());
-  // There is nothing to print before the results page is filled.
-  m_cmdPrint->setEnabled(p.cmdPrint().enabled && p.step() == 2);
+  // There is nothing to print before the results page is filled. The state is set once, so the
+  // button is not disabled and enabled again (and repainted) on every render.
+  ButtonState print = p.cmdPrint();
+  print.enabled = print.enabled && p.step() == 2;
+  renderButton(m_cmdPrint, print);
   if (p.step() == 1) {
     m_judgmentBinding->render();
   } else {

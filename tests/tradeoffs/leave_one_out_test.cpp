@@ -161,6 +161,36 @@ TEST_F(LeaveOneOutTest, TakingTheSumsDownAgreesWithRunningTheRegressionAgain) {
   }
 }
 
+TEST_F(LeaveOneOutTest, UpdatingTheInverseAgreesWithRunningTheRegressionAgain) {
+  // Eight attributes in random judgments, some verbal; the last attribute is judged once, so
+  // without that judgment its column is constant and no index can be formed.
+  std::mt19937 random(29);
+  std::uniform_real_distribution<double> diff(-0.8, 0.8);
+  JudgmentStore store;
+  for (int k = 0; k < 40; ++k) {
+    std::vector<double> d(8, 0.0);
+    d[static_cast<std::size_t>(k % 7)] = diff(random);
+    d[static_cast<std::size_t>((k + 3) % 7)] = diff(random);
+    testing::addJudgment(store, d, static_cast<std::int16_t>(k % 9 == 4 ? 1 + k % 3 : 0));
+  }
+  std::vector<double> once(8, 0.0);
+  once[7] = 0.5;
+  once[2] = -0.3;
+  testing::addJudgment(store, once, 0);
+  const auto all = LeaveOneOut::indexesWithout(store, 8);
+  ASSERT_EQ(all.size(), 41u);
+  int formed = 0;
+  for (int k = 1; k <= 41; ++k) {
+    const auto refit = LeaveOneOut::indexWithout(store, 8, k);
+    ASSERT_EQ(all[static_cast<std::size_t>(k - 1)].has_value(), refit.has_value()) << k;
+    if (refit) {
+      EXPECT_NEAR(*all[static_cast<std::size_t>(k - 1)], *refit, 1e-10) << k;
+      ++formed;
+    }
+  }
+  EXPECT_EQ(formed, 40);
+}
+
 TEST_F(LeaveOneOutTest, ScoreForValueInvertsTheValueFunctionWithinTheRange) {
   const auto s = LeaveOneOut::scoreForValue(model, 1, 0.25);
   ASSERT_TRUE(s.has_value());

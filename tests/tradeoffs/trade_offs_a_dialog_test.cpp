@@ -106,6 +106,7 @@ class TradeOffsADialogTest : public QObject {
   void helpOpensTheHostsHelpFileAtTheWizardTopic();
   void dragCursorsComeFromTheHostsIconsWhenPresent();
   void printWritesTheResultsPageAsVectorPdf();
+  void judgmentsLeaveThePrintButtonAsItIs();
   void tabOrderFollowsTheLayout();
   void mnemonicsAreUniqueOnEachPage();
 };
@@ -463,6 +464,32 @@ void TradeOffsADialogTest::dragCursorsComeFromTheHostsIconsWhenPresent() {
   const QImage b = child<PcPointWidget>(d.get(), "shpPCB")->dragCursor().pixmap().toImage();
   QVERIFY(!b.isNull());
   QVERIFY(b.pixelColor(5, 5) != QColor(0, 128, 0));
+}
+
+// Counts the enabled-state changes of the widget it watches.
+class EnabledChangeCounter : public QObject {
+ public:
+  int count = 0;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::EnabledChange) ++count;
+    return QObject::eventFilter(watched, event);
+  }
+};
+
+void TradeOffsADialogTest::judgmentsLeaveThePrintButtonAsItIs() {
+  // Print stays disabled on the judgment page: a judgment does not switch it on and off again
+  // (each switch repaints it).
+  auto d = open(3);
+  auto* print = child<QPushButton>(d.get(), "cmdPrint");
+  EnabledChangeCounter changes;
+  print->installEventFilter(&changes);
+  enterTradeOff(d.get());
+  enterTradeOff(d.get());
+  print->removeEventFilter(&changes);
+  QCOMPARE(changes.count, 0);
+  QVERIFY(!print->isEnabled());
 }
 
 void TradeOffsADialogTest::printWritesTheResultsPageAsVectorPdf() {
