@@ -27,7 +27,9 @@ class Bytes {
   }
   void int16(std::int16_t v) { raw(static_cast<std::uint16_t>(v)); }
   void real(double v) { raw(std::bit_cast<std::uint64_t>(v)); }
-  void zeros(std::size_t n) { m_out.resize(m_out.size() + n, 0); }
+  void zeros(std::size_t n) {
+    for (std::size_t i = 0; i < n; ++i) m_out.push_back(0);
+  }
   void string(const std::string& utf8) {
     std::string bytes = utf8ToWindows1252(utf8);
     if (bytes.size() > 0xFFFF) bytes.resize(0xFFFF);
