@@ -1,6 +1,7 @@
 #include "component/wizard_backend_qt.h"
 
 #include "common/ui_services_qt.h"
+#include "component/wizard_dialog_qt.h"
 #include "model/model_file_reader.h"
 
 // Qt
@@ -9,6 +10,7 @@
 #include <QThread>
 
 // Std
+#include <exception>
 #include <mutex>
 
 namespace tnw {
@@ -18,6 +20,23 @@ namespace {
 // COM may make objects on several apartment threads at the same time.
 std::mutex g_applicationMutex;
 QApplication* g_madeApplication = nullptr;
+
+// The application made for a host without one. Every event of the process passes its notify:
+// an exception thrown by any handler, a widget's own paint or mouse handler included, ends the
+// wizard it belongs to there and never reaches the host's message loop.
+class GuardedApplication : public QApplication {
+ public:
+  using QApplication::QApplication;
+
+  bool notify(QObject* receiver, QEvent* event) override {
+    try {
+      return QApplication::notify(receiver, event);
+    } catch (...) {
+      WizardDialogQt::handlerFailed(receiver, std::current_exception());
+      return true;
+    }
+  }
+};
 
 }  // namespace
 
@@ -53,7 +72,7 @@ QApplication* WizardBackendQt::ensureApplication(const QString& libraryDir) {
   // the host's own message loop dispatches the messages of Qt's windows and of its internal
   // message window, which delivers Qt's posted events and timers (as Qt's ActiveQt in-process
   // servers work).
-  g_madeApplication = new QApplication(argc, argv);
+  g_madeApplication = new GuardedApplication(argc, argv);
   // The host, not the last of our windows, decides when the process ends.
   g_madeApplication->setQuitOnLastWindowClosed(false);
   return g_madeApplication;

@@ -103,6 +103,28 @@ void WizardComponent::UnloadTNWizard() {
   release(Slot::TradeOffsA);
 }
 
+void WizardComponent::endAfterFailure(const std::string& message) noexcept {
+  if (m_ending) return;
+  m_ending = true;
+  try {
+    m_ui.messageBox(message, MessageIcon::Exclamation, "NORIX");
+  } catch (...) {
+    // The wizard ends all the same.
+  }
+  try {
+    UnloadTNWizard();
+  } catch (...) {
+    // Whatever could not be released goes with the component.
+  }
+  m_ending = false;
+  // Last: the host may destroy the component from inside its handler.
+  try {
+    relayUnloadTNWizard(m_context.FileIndex, false);
+  } catch (...) {
+    // The host's own failure does not go back into the event loop either.
+  }
+}
+
 void WizardComponent::mSelMethod_ShowTNWDirect() {
   hide(Slot::SelMethod);
   if (!mDirectA && !create(Slot::DirectA)) {
@@ -194,6 +216,7 @@ bool WizardComponent::create(Slot slot) {
       break;
   }
   if (!dialog) return false;
+  dialog->setFailureHandler([this](const std::string& message) { endAfterFailure(message); });
   center(*dialog);
   // A dialog's loading may have raised an event whose host handler filled the field meanwhile.
   release(slot);
@@ -214,7 +237,10 @@ void WizardComponent::hide(Slot slot) {
 void WizardComponent::release(Slot slot) {
   std::unique_ptr<WizardDialog> dialog = std::move(field(slot));
   if (slot == Slot::SelMethod) runWhenSelMethodHidden();
-  if (dialog) m_factory.release(std::move(dialog));
+  if (!dialog) return;
+  // A released dialog that is still to be destroyed ends nothing any more.
+  dialog->setFailureHandler(nullptr);
+  m_factory.release(std::move(dialog));
 }
 
 void WizardComponent::runWhenSelMethodHidden() {

@@ -46,6 +46,11 @@ class WizardComponent {
   // Hides every dialog that exists and releases all three.
   void UnloadTNWizard();
 
+  // Ends the wizard after one of its dialogs' event handlers failed with an exception: shows
+  // message in a "NORIX" message box with the exclamation icon, hides and releases every dialog
+  // and raises UnloadTNWizard(FileIndex, false). Nothing it calls can make it throw.
+  void endAfterFailure(const std::string& message) noexcept;
+
   // The data this wizard shares between its dialogs.
   WizardContext& context() { return m_context; }
   const WizardContext& context() const { return m_context; }
@@ -94,6 +99,8 @@ class WizardComponent {
   // What follows the modal show of the selection dialog, run when that dialog is next hidden
   // or released (the modal show "returns" then).
   std::function<void()> m_whenSelMethodHidden;
+  // Set while endAfterFailure runs: a failure on the way out ends nothing twice.
+  bool m_ending = false;
 };
 
 }  // namespace tnw

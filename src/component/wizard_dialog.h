@@ -2,6 +2,10 @@
 
 #include "common/ui_services.h"
 
+// Std
+#include <functional>
+#include <string>
+
 namespace tnw {
 
 // What the component asks of each of its three dialogs, whatever draws them (Qt widgets, a
@@ -23,6 +27,12 @@ class WizardDialog {
   virtual ScreenSize dialogSize() const = 0;
   // Moves the dialog's outer top-left corner to (left, top) in the screen's units.
   virtual void moveDialog(int left, int top) = 0;
+
+  // What ends the wizard when one of the dialog's event handlers fails with an exception: it is
+  // given the message to show. Dialogs whose handlers cannot fail keep the default and ignore it.
+  using FailureHandler = std::function<void(const std::string& message)>;
+  // Sets (or, with null, removes) the handler of failed event handlers.
+  virtual void setFailureHandler(FailureHandler handler) { static_cast<void>(handler); }
 };
 
 }  // namespace tnw

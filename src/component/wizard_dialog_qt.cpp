@@ -7,6 +7,10 @@
 #include <QMetaObject>
 #include <QShowEvent>
 
+// Std
+#include <new>
+#include <string>
+
 namespace tnw {
 
 WizardDialogQt::WizardDialogQt(QWidget* parent) : QDialog(parent) {
@@ -75,6 +79,51 @@ void WizardDialogQt::settleSize() {
 }
 
 void WizardDialogQt::reject() { closeRequested(); }
+
+void WizardDialogQt::setFailureHandler(FailureHandler handler) {
+  m_failureHandler = std::move(handler);
+}
+
+bool WizardDialogQt::event(QEvent* event) {
+  try {
+    return QDialog::event(event);
+  } catch (...) {
+    handlerFailed(this, std::current_exception());
+    return true;
+  }
+}
+
+namespace {
+
+// What the user is told about an exception that ended the wizard.
+std::string failureMessage(const std::exception_ptr& error) {
+  try {
+    std::rethrow_exception(error);
+  } catch (const std::bad_alloc&) {
+    return "Out of memory.";
+  } catch (const std::exception& e) {
+    const std::string what = e.what();
+    return what.empty() ? "Unexpected error." : what;
+  } catch (...) {
+    return "Unexpected error.";
+  }
+}
+
+}  // namespace
+
+void WizardDialogQt::handlerFailed(QObject* inside, std::exception_ptr error) noexcept {
+  WizardDialogQt* dialog = nullptr;
+  for (QObject* o = inside; o != nullptr && dialog == nullptr; o = o->parent())
+    dialog = qobject_cast<WizardDialogQt*>(o);
+  if (dialog == nullptr || !dialog->m_failureHandler) return;
+  try {
+    // A copy: ending the wizard releases the dialog, and with it the handler it holds.
+    const FailureHandler end = dialog->m_failureHandler;
+    end(failureMessage(error));
+  } catch (...) {
+    // Not even the message could be made (memory is short): the error stops here.
+  }
+}
 
 void WizardDialogQt::closeEvent(QCloseEvent* event) {
   event->ignore();

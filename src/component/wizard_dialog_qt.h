@@ -8,7 +8,10 @@
 #include <QSize>
 
 // Std
+#include <exception>
 #include <optional>
+#include <type_traits>
+#include <utility>
 
 namespace tnw {
 
@@ -42,7 +45,18 @@ class WizardDialogQt : public QDialog, public WizardDialog {
   // Escape: the same as the close box.
   void reject() override;
 
+  // Sets what ends the wizard when an event handler of this dialog fails.
+  void setFailureHandler(FailureHandler handler) override;
+  // Ends the wizard of the dialog that holds inside (a widget of it, or the dialog itself) after
+  // one of its handlers failed with error: the failure handler gets the message that says what
+  // went wrong. Outside a wizard dialog, or once the dialog is released, the error is dropped.
+  static void handlerFailed(QObject* inside, std::exception_ptr error) noexcept;
+
  protected:
+  // Every event of the dialog itself, its own handlers and the queued calls made for it: an
+  // exception they throw ends the wizard and never reaches Qt's event loop.
+  bool event(QEvent* event) override;
+
   // What the close box and Escape do; the dialogs run their Cancel handler.
   virtual void closeRequested() = 0;
   // Runs each time the dialog becomes the active window.
@@ -63,6 +77,33 @@ class WizardDialogQt : public QDialog, public WizardDialog {
   void keepCentreWithFrame();
 
   std::optional<Placement> m_placement;
+  FailureHandler m_failureHandler;
 };
+
+// Runs fn, a handler of an event of inside (a widget of one of the wizard's dialogs); an
+// exception it throws ends the wizard (WizardDialogQt::handlerFailed) and goes no further.
+template <class Fn>
+void runGuarded(QObject* inside, Fn&& fn) noexcept {
+  try {
+    std::forward<Fn>(fn)();
+  } catch (...) {
+    WizardDialogQt::handlerFailed(inside, std::current_exception());
+  }
+}
+
+// fn wrapped for QObject::connect: the slot runs fn guarded by runGuarded. fn takes all of the
+// signal's arguments or none of them.
+template <class Fn>
+auto guarded(QObject* inside, Fn fn) {
+  return [inside, fn = std::move(fn)](auto&&... args) {
+    runGuarded(inside, [&] {
+      if constexpr (std::is_invocable_v<Fn&, decltype(args)...>) {
+        fn(std::forward<decltype(args)>(args)...);
+      } else {
+        fn();
+      }
+    });
+  };
+}
 
 }  // namespace tnw

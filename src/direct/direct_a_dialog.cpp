@@ -90,7 +90,7 @@ DirectADialog::DirectADialog(WizardContext& context, UiServices& ui, DirectAEven
   connectJudgmentPage();
   connectButtons();
   m_timer.setObjectName(QStringLiteral("Timer1"));
-  connect(&m_timer, &QTimer::timeout, this, [this] { m_presenter.Timer1_Timer(); });
+  connect(&m_timer, &QTimer::timeout, this, guarded(this, [this] { m_presenter.Timer1_Timer(); }));
 
   m_presenter.setChangeListener([this] { render(); });
   m_presenter.Form_Load();
@@ -165,59 +165,73 @@ QLayout* DirectADialog::buildButtons() {
 void DirectADialog::connectOrderPage() {
   DirectOrderPageWidget* page = m_orderPage;
   DirectAPresenter& p = m_presenter;
-  connect(
-      page, &DirectOrderPageWidget::droppedOnGroup, this,
-      [&p](int group, const QByteArray& tag) { p.picOrder_DragDrop(group, tag.toStdString()); });
+  connect(page, &DirectOrderPageWidget::droppedOnGroup, this,
+          guarded(this, [&p](int group, const QByteArray& tag) {
+            p.picOrder_DragDrop(group, tag.toStdString());
+          }));
   connect(page, &DirectOrderPageWidget::droppedOnPlaced, this,
-          [&p](int att, const QByteArray& tag) { p.cmdAttB_DragDrop(att, tag.toStdString()); });
+          guarded(this, [&p](int att, const QByteArray& tag) {
+            p.cmdAttB_DragDrop(att, tag.toStdString());
+          }));
   connect(page, &DirectOrderPageWidget::draggedOverList, this,
-          [&p](const QByteArray& tag) { p.lblAttName_DragOver(tag.toStdString()); });
+          guarded(this, [&p](const QByteArray& tag) { p.lblAttName_DragOver(tag.toStdString()); }));
   connect(page, &DirectOrderPageWidget::groupClicked, this,
-          [&p](int group) { p.picOrder_Click(group); });
+          guarded(this, [&p](int group) { p.picOrder_Click(group); }));
   connect(page, &DirectOrderPageWidget::placedClicked, this,
-          [&p](int att) { p.cmdAttB_Click(att); });
+          guarded(this, [&p](int att) { p.cmdAttB_Click(att); }));
   connect(page, &DirectOrderPageWidget::attributeInfoRequested, this,
-          [&p](int att) { p.optAttInfo_Click(att); });
-  connect(page, &DirectOrderPageWidget::placeRequested, this, [this](int att) {
-    const int group = m_presenter.ordering().order().SelectedGroup();
-    m_presenter.picOrder_DragDrop(group, encodeDragPayload({DragSource::AttributeList, att}));
-    // The next attribute is ready for the next key press; with none left, Next is.
-    if (!m_orderPage->focusFirstListed()) m_cmdNext->setFocus(Qt::OtherFocusReason);
-  });
-  connect(page, &DirectOrderPageWidget::addClicked, this, [&p] { p.cmdAdd_Click(); });
-  connect(page, &DirectOrderPageWidget::insertClicked, this, [&p] { p.cmdInsert_Click(); });
+          guarded(this, [&p](int att) { p.optAttInfo_Click(att); }));
+  connect(
+      page, &DirectOrderPageWidget::placeRequested, this, guarded(this, [this](int att) {
+        const int group = m_presenter.ordering().order().SelectedGroup();
+        m_presenter.picOrder_DragDrop(group, encodeDragPayload({DragSource::AttributeList, att}));
+        // The next attribute is ready for the next key press; with none left, Next is.
+        if (!m_orderPage->focusFirstListed()) m_cmdNext->setFocus(Qt::OtherFocusReason);
+      }));
+  connect(page, &DirectOrderPageWidget::addClicked, this,
+          guarded(this, [&p] { p.cmdAdd_Click(); }));
+  connect(page, &DirectOrderPageWidget::insertClicked, this,
+          guarded(this, [&p] { p.cmdInsert_Click(); }));
 }
 
 void DirectADialog::connectReferencePage() {
   connect(m_referencePage, &DirectReferencePageWidget::attributeClicked, this,
-          [this](int i) { m_presenter.cmdAttButtons_Click(i); });
+          guarded(this, [this](int i) { m_presenter.cmdAttButtons_Click(i); }));
 }
 
 void DirectADialog::connectJudgmentPage() {
   DirectJudgmentPageWidget* page = m_judgmentPage;
   connect(page->targetList(), &QComboBox::activated, this,
-          [this](int i) { m_presenter.imgcmbTargetAtt_Click(i); });
-  connect(page->coneArea(), &ConeAreaWidget::handleDragged, this, [this](int index, QPointF pt) {
-    m_presenter.picHandle_Drag(index, static_cast<float>(pt.x()), static_cast<float>(pt.y()));
-  });
-  connect(page->enterButton(), &QPushButton::clicked, this, [this] {
-    // A failed bound check gives the focus back to its box, with the text selected.
-    if (!m_presenter.cmdEnter_Click() && m_presenter.judgment().validity() == 0) {
-      applyFocusRequest();
-    }
-  });
+          guarded(this, [this](int i) { m_presenter.imgcmbTargetAtt_Click(i); }));
+  connect(page->coneArea(), &ConeAreaWidget::handleDragged, this,
+          guarded(this, [this](int index, QPointF pt) {
+            m_presenter.picHandle_Drag(index, static_cast<float>(pt.x()),
+                                       static_cast<float>(pt.y()));
+          }));
+  connect(page->enterButton(), &QPushButton::clicked, this, guarded(this, [this] {
+            // A failed bound check gives the focus back to its box, with the text selected.
+            if (!m_presenter.cmdEnter_Click() && m_presenter.judgment().validity() == 0) {
+              applyFocusRequest();
+            }
+          }));
   connect(page->restartButton(), &QPushButton::clicked, this,
-          [this] { m_presenter.cmdReStart_Click(); });
+          guarded(this, [this] { m_presenter.cmdReStart_Click(); }));
 }
 
 void DirectADialog::connectButtons() {
-  connect(m_cmdBack, &QPushButton::clicked, this, [this] { m_presenter.cmdBack_Click(); });
-  connect(m_cmdNext, &QPushButton::clicked, this, [this] { m_presenter.cmdNext_Click(); });
-  connect(m_cmdFinish, &QPushButton::clicked, this, [this] { m_presenter.cmdFinish_Click(); });
-  connect(m_cmdCancel, &QPushButton::clicked, this, [this] { m_presenter.cmdCancel_Click(); });
-  connect(m_cmdHelp, &QPushButton::clicked, this, [this] { m_presenter.cmdHelp_Click(); });
+  connect(m_cmdBack, &QPushButton::clicked, this,
+          guarded(this, [this] { m_presenter.cmdBack_Click(); }));
+  connect(m_cmdNext, &QPushButton::clicked, this,
+          guarded(this, [this] { m_presenter.cmdNext_Click(); }));
+  connect(m_cmdFinish, &QPushButton::clicked, this,
+          guarded(this, [this] { m_presenter.cmdFinish_Click(); }));
+  connect(m_cmdCancel, &QPushButton::clicked, this,
+          guarded(this, [this] { m_presenter.cmdCancel_Click(); }));
+  connect(m_cmdHelp, &QPushButton::clicked, this,
+          guarded(this, [this] { m_presenter.cmdHelp_Click(); }));
   auto* help = new QShortcut(QKeySequence::HelpContents, this);
-  connect(help, &QShortcut::activated, this, [this] { m_presenter.cmdHelp_Click(); });
+  connect(help, &QShortcut::activated, this,
+          guarded(this, [this] { m_presenter.cmdHelp_Click(); }));
 }
 
 void DirectADialog::closeRequested() { m_presenter.cmdCancel_Click(); }

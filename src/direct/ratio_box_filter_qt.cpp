@@ -1,6 +1,7 @@
 #include "direct/ratio_box_filter_qt.h"
 
 #include "common/number_box_keys_qt.h"
+#include "component/wizard_dialog_qt.h"
 #include "direct/direct_a_presenter.h"
 
 // Qt
@@ -44,10 +45,12 @@ RatioBoxFilter::RatioBoxFilter(DirectAPresenter& presenter, QLineEdit* lower, QL
     edit->installEventFilter(this);
     edit->setAttribute(Qt::WA_InputMethodEnabled, false);
   }
-  connect(lower, &QLineEdit::textEdited, this,
-          [this](const QString& text) { handleEdited(JudgmentPage::Box::Lower, text); });
-  connect(upper, &QLineEdit::textEdited, this,
-          [this](const QString& text) { handleEdited(JudgmentPage::Box::Upper, text); });
+  connect(lower, &QLineEdit::textEdited, this, guarded(this, [this](const QString& text) {
+            handleEdited(JudgmentPage::Box::Lower, text);
+          }));
+  connect(upper, &QLineEdit::textEdited, this, guarded(this, [this](const QString& text) {
+            handleEdited(JudgmentPage::Box::Upper, text);
+          }));
 }
 
 int RatioBoxFilter::keyAsciiOf(const QKeyEvent* event) {
@@ -109,6 +112,13 @@ void RatioBoxFilter::handleEdited(JudgmentPage::Box box, const QString& text) {
 }
 
 bool RatioBoxFilter::eventFilter(QObject* watched, QEvent* event) {
+  // A key press or leaving a box runs the presenter; if it fails, the event goes no further.
+  bool filtered = true;
+  runGuarded(this, [&] { filtered = filterBoxEvent(watched, event); });
+  return filtered;
+}
+
+bool RatioBoxFilter::filterBoxEvent(QObject* watched, QEvent* event) {
   QLineEdit* edit = qobject_cast<QLineEdit*>(watched);
   if (edit != m_lower && edit != m_upper) return QObject::eventFilter(watched, event);
   const auto box = edit == m_lower ? JudgmentPage::Box::Lower : JudgmentPage::Box::Upper;
@@ -129,7 +139,10 @@ bool RatioBoxFilter::eventFilter(QObject* watched, QEvent* event) {
       m_presenter.txtWR_LostFocus(box);
       // The box deselects its text when it has handled losing the focus; giving the focus
       // back (with the text selected) waits until then.
-      if (m_afterAction) QMetaObject::invokeMethod(this, m_afterAction, Qt::QueuedConnection);
+      if (m_afterAction) {
+        QMetaObject::invokeMethod(
+            this, [this, after = m_afterAction] { runGuarded(this, after); }, Qt::QueuedConnection);
+      }
       return false;
     }
     default:

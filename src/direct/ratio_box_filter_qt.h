@@ -42,6 +42,7 @@ class RatioBoxFilter : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  bool filterBoxEvent(QObject* watched, QEvent* event);
   bool handleKey(JudgmentPage::Box box, QLineEdit* edit, QKeyEvent* event);
   void handleEdited(JudgmentPage::Box box, const QString& text);
 

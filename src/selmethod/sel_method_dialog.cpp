@@ -129,12 +129,16 @@ void SelMethodDialog::buildLayout() {
 
 void SelMethodDialog::connectControls() {
   connect(m_lstMethods, &QListWidget::itemSelectionChanged, this,
-          &SelMethodDialog::onSelectionChanged);
-  connect(m_cmdNext, &QPushButton::clicked, this, [this] { m_presenter.cmdNext_Click(); });
-  connect(m_cmdCancel, &QPushButton::clicked, this, [this] { m_presenter.cmdCancel_Click(); });
-  connect(m_cmdHelp, &QPushButton::clicked, this, [this] { m_presenter.cmdHelp_Click(); });
+          guarded(this, [this] { onSelectionChanged(); }));
+  connect(m_cmdNext, &QPushButton::clicked, this,
+          guarded(this, [this] { m_presenter.cmdNext_Click(); }));
+  connect(m_cmdCancel, &QPushButton::clicked, this,
+          guarded(this, [this] { m_presenter.cmdCancel_Click(); }));
+  connect(m_cmdHelp, &QPushButton::clicked, this,
+          guarded(this, [this] { m_presenter.cmdHelp_Click(); }));
   auto* help = new QShortcut(QKeySequence::HelpContents, this);
-  connect(help, &QShortcut::activated, this, [this] { m_presenter.cmdHelp_Click(); });
+  connect(help, &QShortcut::activated, this,
+          guarded(this, [this] { m_presenter.cmdHelp_Click(); }));
 }
 
 void SelMethodDialog::render() {

@@ -3,6 +3,7 @@
 #include "common/number_box_keys_qt.h"
 #include "common/number_format.h"
 #include "component/wizard_context.h"
+#include "component/wizard_dialog_qt.h"
 #include "tradeoffs/elided_label_widget.h"
 #include "tradeoffs/judgment_page.h"
 #include "tradeoffs/pc_graph_widget.h"
@@ -67,16 +68,20 @@ void JudgmentPageBindingQt::act(Handler handler) {
 void JudgmentPageBindingQt::connectSelection() {
   const auto& c = m_widget.controls();
   connect(c.optPCAutomatic, &QRadioButton::clicked, this,
-          [this] { act([this] { m_presenter.optPCAutomatic_Click(); }); });
+          guarded(this, [this] { act([this] { m_presenter.optPCAutomatic_Click(); }); }));
   connect(c.optPCManual, &QRadioButton::clicked, this,
-          [this] { act([this] { m_presenter.optPCManual_Click(); }); });
+          guarded(this, [this] { act([this] { m_presenter.optPCManual_Click(); }); }));
   connect(c.lstTradeOffFirstC, &QListWidget::currentRowChanged, this,
-          [this](int row) { act([this, row] { m_presenter.lstTradeOffFirstC_Click(row); }); });
+          guarded(this, [this](int row) {
+            act([this, row] { m_presenter.lstTradeOffFirstC_Click(row); });
+          }));
   connect(c.lstTradeOffSecondC, &QListWidget::currentRowChanged, this,
-          [this](int row) { act([this, row] { m_presenter.lstTradeOffSecondC_Click(row); }); });
-  connect(c.tsComparisonApproaches, &QTabBar::currentChanged, this, [this](int tab) {
-    act([this, tab] { m_presenter.tsComparisonApproaches_Click(tab + 1); });
-  });
+          guarded(this, [this](int row) {
+            act([this, row] { m_presenter.lstTradeOffSecondC_Click(row); });
+          }));
+  connect(c.tsComparisonApproaches, &QTabBar::currentChanged, this, guarded(this, [this](int tab) {
+            act([this, tab] { m_presenter.tsComparisonApproaches_Click(tab + 1); });
+          }));
 }
 
 void JudgmentPageBindingQt::connectScores() {
@@ -84,43 +89,53 @@ void JudgmentPageBindingQt::connectScores() {
   for (int box = 0; box < 4; ++box) {
     c.scoreBox[box]->installEventFilter(this);
     // Edits the key filter does not see (paste, Delete) are handed over as the box's new text.
-    connect(c.scoreBox[box], &QLineEdit::textEdited, this, [this, box](const QString& text) {
-      if (m_rendering) return;
-      m_presenter.judgmentPage().setScoreText(box, text.toStdString());
-      // The box already shows the text; keep its caret where the user left it.
-      m_shown[box] = {text.toStdString(), m_page.controls().scoreBoxes[box].selStart, 0};
-    });
-    connect(c.stepUp[box], &QAction::triggered, this, [this, box] {
-      act([this, box] { m_presenter.tbScoreChanger_ButtonClick(box, true); });
-    });
-    connect(c.stepDown[box], &QAction::triggered, this, [this, box] {
-      act([this, box] { m_presenter.tbScoreChanger_ButtonClick(box, false); });
-    });
+    connect(c.scoreBox[box], &QLineEdit::textEdited, this,
+            guarded(this, [this, box](const QString& text) {
+              if (m_rendering) return;
+              m_presenter.judgmentPage().setScoreText(box, text.toStdString());
+              // The box already shows the text; keep its caret where the user left it.
+              m_shown[box] = {text.toStdString(), m_page.controls().scoreBoxes[box].selStart, 0};
+            }));
+    connect(c.stepUp[box], &QAction::triggered, this, guarded(this, [this, box] {
+              act([this, box] { m_presenter.tbScoreChanger_ButtonClick(box, true); });
+            }));
+    connect(c.stepDown[box], &QAction::triggered, this, guarded(this, [this, box] {
+              act([this, box] { m_presenter.tbScoreChanger_ButtonClick(box, false); });
+            }));
   }
-  connect(c.framePCGraph, &PcGraphWidget::pointDragged, this, [this](int which, QPointF f, bool) {
-    act([&] { m_presenter.dragPoint(which == PcGraphWidget::PointA, f.x(), f.y()); });
-  });
+  connect(c.framePCGraph, &PcGraphWidget::pointDragged, this,
+          guarded(this, [this](int which, QPointF f, bool) {
+            act([&] { m_presenter.dragPoint(which == PcGraphWidget::PointA, f.x(), f.y()); });
+          }));
 }
 
 void JudgmentPageBindingQt::connectJudgment() {
   const auto& c = m_widget.controls();
-  connect(c.verbalGroup, &QButtonGroup::idClicked, this,
-          [this](int id) { act([this, id] { m_presenter.optPCVerbal_Click(id); }); });
+  connect(c.verbalGroup, &QButtonGroup::idClicked, this, guarded(this, [this](int id) {
+            act([this, id] { m_presenter.optPCVerbal_Click(id); });
+          }));
   connect(c.cmdTradeOffClearAll, &QPushButton::clicked, this,
-          [this] { act([this] { m_presenter.cmdTradeOffClearAll_Click(); }); });
-  connect(c.cmdTradeOffEnter, &QPushButton::clicked, this, [this] {
-    const std::int16_t before = m_page.TradeOffNo();
-    act([this] { m_presenter.cmdTradeOffEnter_Click(); });
-    // A failed range check leaves the count and returns the focus to the faulty box.
-    if (m_page.TradeOffNo() == before && m_page.entryError() &&
-        m_page.controls().cmdTradeOffEnter.enabled) {
-      focusControl(m_page.focus());
-    }
-  });
+          guarded(this, [this] { act([this] { m_presenter.cmdTradeOffClearAll_Click(); }); }));
+  connect(c.cmdTradeOffEnter, &QPushButton::clicked, this, guarded(this, [this] {
+            const std::int16_t before = m_page.TradeOffNo();
+            act([this] { m_presenter.cmdTradeOffEnter_Click(); });
+            // A failed range check leaves the count and returns the focus to the faulty box.
+            if (m_page.TradeOffNo() == before && m_page.entryError() &&
+                m_page.controls().cmdTradeOffEnter.enabled) {
+              focusControl(m_page.focus());
+            }
+          }));
 }
 
 bool JudgmentPageBindingQt::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::KeyPress) return QObject::eventFilter(watched, event);
+  // A key in a score box runs the presenter; if it fails, the key goes no further.
+  bool filtered = true;
+  runGuarded(this, [&] { filtered = filterKey(watched, event); });
+  return filtered;
+}
+
+bool JudgmentPageBindingQt::filterKey(QObject* watched, QEvent* event) {
   const auto& c = m_widget.controls();
   const auto* it = std::find(std::begin(c.scoreBox), std::end(c.scoreBox), watched);
   if (it == std::end(c.scoreBox)) return QObject::eventFilter(watched, event);

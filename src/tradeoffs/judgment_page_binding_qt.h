@@ -38,6 +38,7 @@ class JudgmentPageBindingQt : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  bool filterKey(QObject* watched, QEvent* event);
   void connectSelection();
   void connectScores();
   void connectJudgment();

@@ -1,5 +1,6 @@
 #include "tradeoffs/results_page_binding_qt.h"
 
+#include "component/wizard_dialog_qt.h"
 #include "graphs/chart_widget.h"
 #include "graphs/drawing_surface_qt.h"
 #include "tradeoffs/results_page.h"
@@ -29,12 +30,13 @@ ResultsPageBindingQt::ResultsPageBindingQt(TradeOffsResultsWidget& widget,
                                            TradeOffsAPresenter& presenter, QObject* parent)
     : QObject(parent), m_widget(widget), m_presenter(presenter), m_page(presenter.resultsPage()) {
   const auto& c = m_widget.controls();
-  connect(c.tsTabsW, &QTabBar::currentChanged, this, [this](int tab) {
-    if (!m_rendering) m_presenter.tsTabsW_Click(tab + 1);
-  });
+  connect(c.tsTabsW, &QTabBar::currentChanged, this, guarded(this, [this](int tab) {
+            if (!m_rendering) m_presenter.tsTabsW_Click(tab + 1);
+          }));
   for (int i = 0; i < 3; ++i) {
     const char* key = TradeOffsResultsWidget::chartKey(i);
-    connect(c.chartButton[i], &QAction::triggered, this, [this, key] { chooseChart(key); });
+    connect(c.chartButton[i], &QAction::triggered, this,
+            guarded(this, [this, key] { chooseChart(key); }));
   }
   const ResultsPage* shown = &m_page;
   c.picWeightGraph->setPainter([shown](QPainter& painter, const QRectF& area) {

@@ -133,12 +133,13 @@ void TradeOffsADialog::buildFrame() {
 
 void TradeOffsADialog::connectFrame() {
   TradeOffsAPresenter* p = m_presenter.get();
-  connect(m_cmdNext, &QPushButton::clicked, this, [p] { p->cmdNext_Click(); });
-  connect(m_cmdBack, &QPushButton::clicked, this, [p] { p->cmdBack_Click(); });
-  connect(m_cmdFinish, &QPushButton::clicked, this, [p] { p->cmdFinish_Click(); });
-  connect(m_cmdCancel, &QPushButton::clicked, this, [p] { p->cmdCancel_Click(); });
-  connect(m_cmdHelp, &QPushButton::clicked, this, [p] { p->cmdTNWizardHelp_Click(); });
-  connect(m_cmdPrint, &QPushButton::clicked, this, [this] { print(); });
+  connect(m_cmdNext, &QPushButton::clicked, this, guarded(this, [p] { p->cmdNext_Click(); }));
+  connect(m_cmdBack, &QPushButton::clicked, this, guarded(this, [p] { p->cmdBack_Click(); }));
+  connect(m_cmdFinish, &QPushButton::clicked, this, guarded(this, [p] { p->cmdFinish_Click(); }));
+  connect(m_cmdCancel, &QPushButton::clicked, this, guarded(this, [p] { p->cmdCancel_Click(); }));
+  connect(m_cmdHelp, &QPushButton::clicked, this,
+          guarded(this, [p] { p->cmdTNWizardHelp_Click(); }));
+  connect(m_cmdPrint, &QPushButton::clicked, this, guarded(this, [this] { print(); }));
 }
 
 void TradeOffsADialog::closeRequested() { m_presenter->cmdCancel_Click(); }
@@ -193,7 +194,8 @@ void TradeOffsADialog::print() {
   dialog->setObjectName(QStringLiteral("dlgPrint"));
   dialog->setWindowTitle(tr("Print the results"));
   dialog->setAttribute(Qt::WA_DeleteOnClose);
-  connect(dialog, &QDialog::accepted, this, [this, printer] { printResults(*printer); });
+  connect(dialog, &QDialog::accepted, this,
+          guarded(this, [this, printer] { printResults(*printer); }));
   dialog->open();
 }
 

@@ -23,8 +23,10 @@
 #include <QtTest>
 
 // Std
+#include <algorithm>
 #include <cstdio>
 #include <functional>
+#include <stdexcept>
 #include <string>
 #include <thread>
 #include <vector>
@@ -109,6 +111,16 @@ void cancelThenUnload(WizardBackendQt& backend, bool unloadInsideTheEvent) {
 // The application a test needs when it runs without the first test of its process.
 bool haveApplication() { return WizardBackendQt::ensureApplication(QString()) != nullptr; }
 
+// An event filter that fails on every mouse release it sees, as a widget's own handler that
+// nothing of the wizard wraps would.
+class FailingFilter : public QObject {
+ public:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::MouseButtonRelease) throw std::runtime_error("The widget failed.");
+    return QObject::eventFilter(watched, event);
+  }
+};
+
 bool noTopLevelWidgetLeft() {
   return pumpUntil([] { return QApplication::topLevelWidgets().isEmpty(); });
 }
@@ -160,6 +172,42 @@ class WizardBackendQtMadeApplicationTest : public QObject {
       QVERIFY(dialog->isVisible());
     }
     QVERIFY2(pumpUntil([&] { return dialog.isNull(); }), "the released dialog was never deleted");
+  }
+
+  // The application made here catches what no handler of the wizard caught, on every widget.
+  void aFailureAnywhereInADialogEndsTheWizardInTheMadeApplication() {
+    QVERIFY(haveApplication());
+    RecordingUiServices ui;
+    WizardBackendQt backend(&ui);
+    ShownWizard wizard(backend);
+    QPointer<QWidget> dialog = selMethod();
+    QVERIFY(dialog != nullptr);
+    QVERIFY(
+        pumpUntil([&] { return dialog->windowHandle() && dialog->windowHandle()->isExposed(); }));
+    auto* cancel = dialog->findChild<QPushButton*>(QStringLiteral("cmdCancel"));
+    FailingFilter failing;
+    cancel->installEventFilter(&failing);
+    bool returned = true;
+    try {
+      QTest::mouseClick(dialog->windowHandle(), Qt::LeftButton, {},
+                        cancel->mapTo(dialog.data(), cancel->rect().center()));
+    } catch (...) {
+      returned = false;
+    }
+    QVERIFY2(returned, "the exception escaped the application");
+    QCOMPARE(ui.messages().size(), std::size_t{1});
+    QCOMPARE(ui.messages()[0].text, std::string("The widget failed."));
+    QCOMPARE(ui.messages()[0].title, std::string("NORIX"));
+    QVERIFY(ui.messages()[0].icon == MessageIcon::Exclamation);
+    // The failing release never reached Cancel: the only UnloadTNWizard is the failure's.
+    QCOMPARE(wizard.host.log.back(), std::string("UnloadTNWizard 3 false"));
+    QCOMPARE(std::count(wizard.host.log.begin(), wizard.host.log.end(), "UnloadTNWizard 3 false"),
+             1L);
+    QVERIFY(wizard.component.selMethod() == nullptr);
+    QVERIFY2(pumpUntil([&] { return dialog.isNull(); }), "the released dialog was never deleted");
+    wizard.component.ShowTNWizard();
+    QVERIFY(selMethod() != nullptr);
+    wizard.component.UnloadTNWizard();
   }
 
   void aSecondBackendUsesTheSameApplication() {
