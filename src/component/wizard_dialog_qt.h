@@ -91,19 +91,24 @@ void runGuarded(QObject* inside, Fn&& fn) noexcept {
   }
 }
 
-// fn wrapped for QObject::connect: the slot runs fn guarded by runGuarded. fn takes all of the
-// signal's arguments or none of them.
+// A slot that runs fn guarded by runGuarded. It is callable with exactly the arguments fn takes,
+// so QObject::connect hands it as many of the signal's arguments as fn wants.
 template <class Fn>
-auto guarded(QObject* inside, Fn fn) {
-  return [inside, fn = std::move(fn)](auto&&... args) {
-    runGuarded(inside, [&] {
-      if constexpr (std::is_invocable_v<Fn&, decltype(args)...>) {
-        fn(std::forward<decltype(args)>(args)...);
-      } else {
-        fn();
-      }
-    });
-  };
+struct GuardedSlot {
+  QObject* inside;
+  Fn fn;
+
+  // Runs fn(args...) guarded.
+  template <class... Args>
+  auto operator()(Args&&... args) const -> decltype(fn(std::forward<Args>(args)...), void()) {
+    runGuarded(inside, [&] { fn(std::forward<Args>(args)...); });
+  }
+};
+
+// fn wrapped for QObject::connect: the slot runs fn guarded by runGuarded.
+template <class Fn>
+GuardedSlot<Fn> guarded(QObject* inside, Fn fn) {
+  return GuardedSlot<Fn>{inside, std::move(fn)};
 }
 
 }  // namespace tnw
