@@ -32,6 +32,9 @@
 namespace tnw {
 namespace {
 
+using direct::AttributeDropFilter;
+using direct::ConeAreaWidget;
+
 // Events go nowhere: the benchmark measures the dialog.
 class NoEvents : public direct::DirectAEvents {
  public:
