@@ -37,7 +37,7 @@ tnw::WizardContext makeContext() {
   return context;
 }
 
-struct NullEvents : tnw::DirectAEvents {
+struct NullEvents : tnw::direct::DirectAEvents {
   void ExportDirectAW(const std::string&, std::int16_t, std::vector<double>& w,
                       std::vector<double>&, std::vector<double>&) override {
     exported = !w.empty();
@@ -52,7 +52,7 @@ struct NullEvents : tnw::DirectAEvents {
 void BM_RecordWeightRatios(benchmark::State& state) {
   tnw::WizardContext context = makeContext();
   context.RefAtt = static_cast<std::int16_t>(kAttributes - 1);  // in group 10
-  tnw::WeightRatioJudgments judgments(context);
+  tnw::direct::WeightRatioJudgments judgments(context);
   judgments.CalcIniWeightRatios();
   // Target 1 is in group 2: its ties are copied, group 1 is pushed up, groups 3 to 9 down.
   for (auto _ : state) {
@@ -63,13 +63,13 @@ BENCHMARK(BM_RecordWeightRatios);
 
 void BM_Check_Judgment_Status(benchmark::State& state) {
   tnw::WizardContext context = makeContext();
-  tnw::WeightRatioJudgments judgments(context);
+  tnw::direct::WeightRatioJudgments judgments(context);
   judgments.CalcIniWeightRatios();
-  const tnw::PreferenceCone cone(200.0F, 8.0F);
-  const tnw::RegionHandles handles{cone.handleForRatio(0.4), cone.handleForRatio(0.6)};
+  const tnw::direct::PreferenceCone cone(200.0F, 8.0F);
+  const tnw::direct::RegionHandles handles{cone.handleForRatio(0.4), cone.handleForRatio(0.6)};
   // Target 5 is in group 6: both limit searches run over every other group.
   for (auto _ : state) {
-    benchmark::DoNotOptimize(tnw::JudgmentStatusCheck::check(cone, handles, judgments, 5));
+    benchmark::DoNotOptimize(tnw::direct::JudgmentStatusCheck::check(cone, handles, judgments, 5));
   }
 }
 BENCHMARK(BM_Check_Judgment_Status);
@@ -79,7 +79,7 @@ BENCHMARK(BM_Check_Judgment_Status);
 void runScenario(NullEvents& events) {
   tnw::WizardContext context = makeContext();
   tnw::RecordingUiServices ui;
-  tnw::DirectAPresenter p(context, ui, events);
+  tnw::direct::DirectAPresenter p(context, ui, events);
   p.Form_Load();
   for (int j = 0; j < kAttributes; ++j) {
     while (p.ordering().order().GroupCount() < groupOf(j)) p.cmdAdd_Click();
@@ -88,7 +88,7 @@ void runScenario(NullEvents& events) {
   p.cmdNext_Click();
   p.cmdAttButtons_Click(0);
   p.cmdNext_Click();
-  using Box = tnw::JudgmentPage::Box;
+  using Box = tnw::direct::JudgmentPage::Box;
   for (int j = 1; j < kAttributes; ++j) {
     const double lower = 1.0 - 0.09 * groupOf(j);
     p.imgcmbTargetAtt_Click(j);
@@ -122,7 +122,7 @@ void BM_TypingARatioKeyByKey(benchmark::State& state) {
   NullEvents events;
   tnw::WizardContext context = makeContext();
   tnw::RecordingUiServices ui;
-  tnw::DirectAPresenter p(context, ui, events);
+  tnw::direct::DirectAPresenter p(context, ui, events);
   p.Form_Load();
   for (int j = 0; j < kAttributes; ++j) {
     while (p.ordering().order().GroupCount() < groupOf(j)) p.cmdAdd_Click();
@@ -131,11 +131,11 @@ void BM_TypingARatioKeyByKey(benchmark::State& state) {
   p.cmdNext_Click();
   p.cmdAttButtons_Click(0);
   p.cmdNext_Click();
-  using Box = tnw::JudgmentPage::Box;
+  using Box = tnw::direct::JudgmentPage::Box;
   for (auto _ : state) {
     p.txtWR_SetText(Box::Lower, "");
     for (int i = 0; i < n; ++i) {
-      const tnw::TextBoxState& shown = p.judgment().box(Box::Lower);
+      const tnw::wizard::TextBoxState& shown = p.judgment().box(Box::Lower);
       const char key = i == 0 ? '0' : (i == 1 ? '.' : '5');
       p.txtWR_KeyPress(Box::Lower, shown.selStart, shown.selLength, key);
     }

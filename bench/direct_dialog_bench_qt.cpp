@@ -20,6 +20,7 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QRegularExpression>
 
 // Google Benchmark
 #include <benchmark/benchmark.h>
@@ -31,8 +32,11 @@
 namespace tnw {
 namespace {
 
+using direct::AttributeDropFilter;
+using direct::ConeAreaWidget;
+
 // Events go nowhere: the benchmark measures the dialog.
-class NoEvents : public DirectAEvents {
+class NoEvents : public direct::DirectAEvents {
  public:
   void ExportDirectAW(const std::string&, std::int16_t, std::vector<double>&, std::vector<double>&,
                       std::vector<double>&) override {}
@@ -53,10 +57,9 @@ void drop(QWidget* target, const QString& tag) {
 }
 
 QWidget* child(const QWidget* root, const char* name, int index = -1) {
-  for (QWidget* w : root->findChildren<QWidget*>(QString::fromUtf8(name))) {
-    if (index < 0 || w->property("index").toInt() == index) return w;
-  }
-  return nullptr;
+  const QString n = QString::fromUtf8(name);
+  if (index >= 0) return root->findChild<QWidget*>(n + QLatin1Char('_') + QString::number(index));
+  return root->findChild<QWidget*>(n);
 }
 
 void click(QWidget* w) { static_cast<QPushButton*>(w)->click(); }
@@ -70,12 +73,13 @@ struct JudgmentPageAt31 {
       context.model.AttOrientation[i] = i % 3 == 0 ? "1" : "0";
       context.model.AttScoreHigh[i] = 10.0;
     }
-    dialog = std::make_unique<DirectADialog>(context, ui, events);
+    dialog = std::make_unique<direct::DirectADialog>(context, ui, events);
     dialog->show();
     click(child(dialog.get(), "cmdAdd"));
     click(child(dialog.get(), "cmdAdd"));
     for (int j = 0; j < 31; ++j) {
-      for (QWidget* box : dialog->findChildren<QWidget*>(QStringLiteral("picOrder"))) {
+      for (QWidget* box :
+           dialog->findChildren<QWidget*>(QRegularExpression(QStringLiteral("^picOrder_\\d+$")))) {
         if (box->property("tag").toInt() == 1 + j % 4) drop(box, QStringLiteral("A%1").arg(j));
       }
     }
@@ -88,7 +92,7 @@ struct JudgmentPageAt31 {
   WizardContext context;
   RecordingUiServices ui;
   NoEvents events;
-  std::unique_ptr<DirectADialog> dialog;
+  std::unique_ptr<direct::DirectADialog> dialog;
 };
 
 void BM_HandleDragStep(benchmark::State& state) {

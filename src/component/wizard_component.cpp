@@ -23,7 +23,7 @@ class WizardComponent::SelMethodSink : public SelMethodEvents {
   WizardComponent& m_c;
 };
 
-class WizardComponent::DirectASink : public DirectAEvents {
+class WizardComponent::DirectASink : public direct::DirectAEvents {
  public:
   explicit DirectASink(WizardComponent& c) : m_c(c) {}
   void ExportDirectAW(const std::string& TNType, std::int16_t RefAttID,

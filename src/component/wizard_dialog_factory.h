@@ -7,7 +7,9 @@
 
 namespace tnw {
 
+namespace direct {
 class DirectAEvents;
+}  // namespace direct
 class SelMethodEvents;
 class TradeOffsAEvents;
 struct WizardContext;
@@ -24,7 +26,7 @@ class WizardDialogFactory {
                                                         SelMethodEvents& events) = 0;
   // A new direct-method dialog (frmDirectA), loaded; null if none can be made.
   virtual std::unique_ptr<WizardDialog> createDirectA(WizardContext& context,
-                                                      DirectAEvents& events) = 0;
+                                                      direct::DirectAEvents& events) = 0;
   // A new trade-off dialog (frmTradeOffsA), loaded; null if none can be made.
   virtual std::unique_ptr<WizardDialog> createTradeOffsA(WizardContext& context,
                                                          TradeOffsAEvents& events) = 0;

@@ -41,9 +41,9 @@ std::unique_ptr<WizardDialog> WizardDialogFactoryQt::createSelMethod(WizardConte
 }
 
 std::unique_ptr<WizardDialog> WizardDialogFactoryQt::createDirectA(WizardContext& context,
-                                                                   DirectAEvents& events) {
+                                                                   direct::DirectAEvents& events) {
   if (!haveApplication()) return nullptr;
-  return settled(std::make_unique<DirectADialog>(context, m_ui, events));
+  return settled(std::make_unique<direct::DirectADialog>(context, m_ui, events));
 }
 
 std::unique_ptr<WizardDialog> WizardDialogFactoryQt::createTradeOffsA(WizardContext& context,

@@ -21,7 +21,7 @@ class WizardDialogFactoryQt : public WizardDialogFactory {
                                                 SelMethodEvents& events) override;
   // A new frmDirectA, loaded; null without a QApplication.
   std::unique_ptr<WizardDialog> createDirectA(WizardContext& context,
-                                              DirectAEvents& events) override;
+                                              direct::DirectAEvents& events) override;
   // A new frmTradeOffsA; null without a QApplication.
   std::unique_ptr<WizardDialog> createTradeOffsA(WizardContext& context,
                                                  TradeOffsAEvents& events) override;

@@ -10,11 +10,10 @@
 #include <QStyleOptionButton>
 #include <QStylePainter>
 
-namespace tnw {
-AttributeButtonWidget::AttributeButtonWidget(const QString& objectName, int index, QWidget* parent)
+namespace tnw::direct {
+AttributeButtonWidget::AttributeButtonWidget(const QString& arrayName, int index, QWidget* parent)
     : QPushButton(parent), m_index(index) {
-  setObjectName(objectName);
-  setProperty("index", index);
+  setObjectName(arrayName + QLatin1Char('_') + QString::number(index));
   setAutoDefault(false);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   applyStyle();
@@ -109,4 +108,4 @@ void AttributeButtonWidget::mouseMoveEvent(QMouseEvent* event) {
   drag->exec(Qt::MoveAction);
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

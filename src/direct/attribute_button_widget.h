@@ -6,7 +6,7 @@
 #include <QPushButton>
 #include <QString>
 
-namespace tnw {
+namespace tnw::direct {
 
 // An attribute's button (cmdAttA, cmdAttB, cmdAttButtons, cmdAttBtn): a flat push button in the
 // attribute's orientation colour that shows the attribute's name and, when draggable, starts a
@@ -15,8 +15,8 @@ class AttributeButtonWidget : public QPushButton {
   Q_OBJECT
 
  public:
-  // A button named objectName with the control-array index in its "index" property.
-  AttributeButtonWidget(const QString& objectName, int index, QWidget* parent = nullptr);
+  // A button of the control array arrayName, named arrayName_index.
+  AttributeButtonWidget(const QString& arrayName, int index, QWidget* parent = nullptr);
 
   // The control-array index of the button.
   int index() const { return m_index; }
@@ -60,4 +60,4 @@ class AttributeButtonWidget : public QPushButton {
   bool m_pressed = false;
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -5,7 +5,7 @@
 #include <QMimeData>
 #include <QWidget>
 
-namespace tnw {
+namespace tnw::direct {
 namespace {
 
 constexpr const char* kAcceptsDropProperty = "tnwAcceptsAttributeDrop";
@@ -67,4 +67,4 @@ bool AttributeDropFilter::eventFilter(QObject* watched, QEvent* event) {
   return true;
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -7,7 +7,7 @@
 class QMimeData;
 class QWidget;
 
-namespace tnw {
+namespace tnw::direct {
 
 // Turns drags of attribute buttons over the widgets it watches into signals. Install it on a
 // widget with watch(); drags of other kinds are left alone, so those widgets refuse them.
@@ -36,4 +36,4 @@ class AttributeDropFilter : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

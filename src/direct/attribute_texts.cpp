@@ -2,7 +2,7 @@
 
 #include "common/number_format.h"
 
-namespace tnw {
+namespace tnw::direct {
 
 std::string AttributeTexts::trim(std::string_view text) {
   const auto first = text.find_first_not_of(' ');
@@ -26,4 +26,4 @@ bool AttributeTexts::isCost(const AttributeModel& model, int i) {
   return leadingNumber(model.AttOrientation[static_cast<std::size_t>(i)]) != 0.0;
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

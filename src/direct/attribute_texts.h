@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace tnw {
+namespace tnw::direct {
 
 // Text helpers over the attribute model shared by the direct method's pages.
 class AttributeTexts {
@@ -21,4 +21,4 @@ class AttributeTexts {
   static bool isCost(const AttributeModel& model, int i);
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -8,12 +8,11 @@
 // Std
 #include <algorithm>
 
-namespace tnw {
+namespace tnw::direct {
 
-ClickableLabelWidget::ClickableLabelWidget(const QString& objectName, int index, QWidget* parent)
+ClickableLabelWidget::ClickableLabelWidget(const QString& arrayName, int index, QWidget* parent)
     : QLabel(parent), m_index(index) {
-  setObjectName(objectName);
-  setProperty("index", index);
+  setObjectName(arrayName + QLatin1Char('_') + QString::number(index));
 }
 
 void ClickableLabelWidget::setElided(bool elided) {
@@ -51,4 +50,4 @@ void ClickableLabelWidget::mouseReleaseEvent(QMouseEvent* event) {
   QLabel::mouseReleaseEvent(event);
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

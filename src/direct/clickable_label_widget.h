@@ -3,15 +3,15 @@
 // Qt
 #include <QLabel>
 
-namespace tnw {
+namespace tnw::direct {
 
 // A label that reports clicks (lblAttName, lblOrderID): the system lets such labels be clicked.
 class ClickableLabelWidget : public QLabel {
   Q_OBJECT
 
  public:
-  // A label named objectName with the control-array index in its "index" property.
-  ClickableLabelWidget(const QString& objectName, int index, QWidget* parent = nullptr);
+  // A label of the control array arrayName, named arrayName_index.
+  ClickableLabelWidget(const QString& arrayName, int index, QWidget* parent = nullptr);
 
   // The control-array index of the label.
   int index() const { return m_index; }
@@ -36,4 +36,4 @@ class ClickableLabelWidget : public QLabel {
   bool m_elided = false;
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -10,7 +10,7 @@
 // Std
 #include <algorithm>
 
-namespace tnw {
+namespace tnw::direct {
 namespace {
 
 constexpr int kHandlePixels = 11;
@@ -27,8 +27,7 @@ ConeAreaWidget::ConeAreaWidget(QWidget* parent) : QWidget(parent) {
   setSizePolicy(policy);
   for (int i = 0; i < 2; ++i) {
     auto* h = new QFrame(this);
-    h->setObjectName(QStringLiteral("picHandle"));
-    h->setProperty("index", i);
+    h->setObjectName(QStringLiteral("picHandle_%1").arg(i));
     h->setFixedSize(kHandlePixels, kHandlePixels);
     h->setFrameShape(QFrame::Box);
     h->setAutoFillBackground(true);
@@ -178,4 +177,4 @@ bool ConeAreaWidget::eventFilter(QObject* watched, QEvent* event) {
   }
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

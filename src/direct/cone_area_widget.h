@@ -10,7 +10,7 @@
 
 class QFrame;
 
-namespace tnw {
+namespace tnw::direct {
 
 // The square drawing area of the judgment page (picTradeOffsRange): paints the preference cone
 // it is given and carries the two draggable handles (picHandle). It computes nothing: positions
@@ -74,4 +74,4 @@ class ConeAreaWidget : public QWidget {
   QPointF m_grabOffset;
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -1,19 +1,17 @@
 #include "direct/direct_a_dialog.h"
 
 #include "direct/cone_area_widget.h"
+#include "direct/control_rendering.h"
 #include "direct/direct_judgment_page_widget.h"
 #include "direct/direct_order_page_widget.h"
 #include "direct/direct_reference_page_widget.h"
 #include "direct/direct_results_page_widget.h"
 #include "direct/drag_payload.h"
-#include "direct/orientation_images_qt.h"
 #include "direct/ratio_box_filter_qt.h"
-#include "tradeoffs/elided_label_widget.h"
 
 // Qt
 #include <QComboBox>
 #include <QFrame>
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QKeySequence>
 #include <QLabel>
@@ -24,13 +22,12 @@
 #include <QSizeGrip>
 #include <QStackedWidget>
 #include <QTableWidget>
-#include <QTextEdit>
 #include <QVBoxLayout>
 
 // Std
 #include <algorithm>
 
-namespace tnw {
+namespace tnw::direct {
 namespace {
 
 QPushButton* makeButton(const char* name, QWidget* parent) {
@@ -124,7 +121,8 @@ QWidget* DirectADialog::buildHeader() {
   auto* caption = new QLabel(tr("Reference attribute (Wr):"), m_header);
   m_refImage = makeLabel("imgRefAtt", m_header);
   m_refImage->setFixedSize(32, 32);
-  QLabel* name = makeLabel("lblRefAtt", m_header);
+  m_refName = makeLabel("lblRefAtt", m_header);
+  QLabel* name = m_refName;
   QFont bold = name->font();
   bold.setBold(true);
   name->setFont(bold);
@@ -132,9 +130,11 @@ QWidget* DirectADialog::buildHeader() {
   auto* range = new QHBoxLayout(m_refRange);
   range->setContentsMargins(0, 0, 0, 0);
   range->addWidget(new QLabel(tr("Score range:"), m_refRange));
-  range->addWidget(makeLabel("lblRefRangeLow", m_refRange));
+  m_refLow = makeLabel("lblRefRangeLow", m_refRange);
+  m_refHigh = makeLabel("lblRefRangeHigh", m_refRange);
+  range->addWidget(m_refLow);
   range->addWidget(new QLabel(tr("to"), m_refRange));
-  range->addWidget(makeLabel("lblRefRangeHigh", m_refRange));
+  range->addWidget(m_refHigh);
   auto* row = new QHBoxLayout(m_header);
   row->setContentsMargins(0, 0, 0, 4);
   row->addWidget(caption);
@@ -248,15 +248,16 @@ void DirectADialog::render() {
     const int step = m_presenter.WizardStep();
     setWindowTitle(QString::fromStdString(m_presenter.caption()));
     // Only the page on show is rendered; a page is brought up to date when its step comes.
+    const DirectAPresenter& p = m_presenter;
     switch (step) {
-      case 0:
-        m_orderPage->render(m_presenter);
+      case DirectAPresenter::kOrderStep:
+        m_orderPage->render(p.ordering());
         break;
-      case 1:
-        m_referencePage->render(m_presenter, m_context);
+      case DirectAPresenter::kReferenceStep:
+        m_referencePage->render(p.reference(), p.ordering(), p.lamps(), m_context);
         break;
-      case 2:
-        m_judgmentPage->render(m_presenter, m_context);
+      case DirectAPresenter::kJudgmentStep:
+        m_judgmentPage->render(p.judgment(), p.ordering(), p.lamps(), m_context);
         break;
       default:
         m_resultsPage->render(m_presenter.grid());
@@ -281,42 +282,18 @@ void DirectADialog::render() {
 }
 
 void DirectADialog::renderControls() {
-  const ControlRegistry& controls = m_presenter.controls();
-  for (const std::string& name : controls.names()) {
-    if (name == "frmDirectA" || name == "picIndicator") continue;
-    QWidget* w = namedControl(name);
-    if (w == nullptr) continue;
-    const ControlState& state = controls.control(name);
-    const QString caption = QString::fromStdString(state.caption);
-    if (auto* button = qobject_cast<QAbstractButton*>(w)) {
-      if (button->text() != caption) button->setText(caption);
-      button->setVisible(state.visible);
-    } else if (name.rfind("img", 0) == 0) {
-      if (w->property("image").toString() != caption) {
-        w->setProperty("image", caption);
-        if (auto* label = qobject_cast<QLabel*>(w))
-          label->setPixmap(orientationPixmap(caption, 32, label->devicePixelRatioF()));
-      }
-    } else if (auto* elided = qobject_cast<ElidedLabelWidget*>(w)) {
-      elided->setFullText(caption);
-    } else if (auto* label = qobject_cast<QLabel*>(w)) {
-      if (label->text() != caption) label->setText(caption);
-    } else if (auto* text = qobject_cast<QTextEdit*>(w)) {
-      if (text->toPlainText() != caption) text->setPlainText(caption);
-    } else if (auto* box = qobject_cast<QGroupBox*>(w)) {
-      box->setTitle(caption);
-    }
-    w->setEnabled(state.enabled);
-  }
-}
-
-QWidget* DirectADialog::namedControl(const std::string& name) {
-  // The named controls never change; looking each up once keeps a keystroke cheap.
-  auto it = m_named.find(name);
-  if (it == m_named.end()) {
-    it = m_named.emplace(name, findChild<QWidget*>(QString::fromStdString(name))).first;
-  }
-  return it->second;
+  const DirectAPresenter& p = m_presenter;
+  renderButton(m_cmdBack, p.cmdBack());
+  renderButton(m_cmdNext, p.cmdNext());
+  renderButton(m_cmdFinish, p.cmdFinish());
+  renderButton(m_cmdCancel, p.cmdCancel());
+  renderButton(m_cmdHelp, p.cmdHelp());
+  m_orderPage->renderControls(p.ordering());
+  m_judgmentPage->renderControls(p.judgment());
+  renderLabel(m_refName, p.lblRefAtt());
+  renderLabel(m_refLow, p.judgment().lblRefRangeLow());
+  renderLabel(m_refHigh, p.judgment().lblRefRangeHigh());
+  renderImage(m_refImage, p.judgment().imgRefAtt());
 }
 
 void DirectADialog::renderHeader() {
@@ -401,4 +378,4 @@ void DirectADialog::applyFocusRequest() {
   }
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -4,19 +4,14 @@
 #include "direct/direct_a_presenter.h"
 
 // Qt
-#include <QPointer>
 #include <QTimer>
-
-// Std
-#include <map>
-#include <string>
 
 class QLabel;
 class QLineEdit;
 class QPushButton;
 class QStackedWidget;
 
-namespace tnw {
+namespace tnw::direct {
 
 class DirectJudgmentPageWidget;
 class DirectOrderPageWidget;
@@ -25,8 +20,9 @@ class DirectResultsPageWidget;
 class RatioBoxFilter;
 
 // frmDirectA: the direct method's four steps as a Qt dialog over DirectAPresenter. The dialog
-// holds the widgets, hands every user action to one presenter operation and renders the
-// presenter's state after each change. Every control's objectName is its given name.
+// holds one view per page, wires each view's actions to presenter operations (connect<Page>())
+// and, after each change, renders the frame, every page's controls and the page on show.
+// Every control's objectName is its given name.
 class DirectADialog : public WizardDialogQt {
   Q_OBJECT
 
@@ -58,7 +54,6 @@ class DirectADialog : public WizardDialogQt {
   void render();
   void renderControls();
   void renderHeader();
-  QWidget* namedControl(const std::string& name);
   void applyFocusRequest();
   void releasePressedButtons();
   void focusStep(int step);
@@ -70,6 +65,9 @@ class DirectADialog : public WizardDialogQt {
   QStackedWidget* m_stack = nullptr;
   QWidget* m_header = nullptr;
   QLabel* m_refImage = nullptr;
+  QLabel* m_refName = nullptr;
+  QLabel* m_refLow = nullptr;
+  QLabel* m_refHigh = nullptr;
   QWidget* m_refRange = nullptr;
   DirectOrderPageWidget* m_orderPage = nullptr;
   DirectReferencePageWidget* m_referencePage = nullptr;
@@ -81,10 +79,9 @@ class DirectADialog : public WizardDialogQt {
   QPushButton* m_cmdFinish = nullptr;
   QPushButton* m_cmdCancel = nullptr;
   QPushButton* m_cmdHelp = nullptr;
-  std::map<std::string, QPointer<QWidget>> m_named;
   QList<QWidget*> m_tabChain;
   bool m_rendering = false;
   bool m_renderAgain = false;
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace tnw {
+namespace tnw::direct {
 
 // The events the direct-method dialog raises; the component object receives them.
 class DirectAEvents {
@@ -26,4 +26,4 @@ class DirectAEvents {
   virtual void UnloadTNWizard(std::int16_t fIndex, bool WeightsDone) = 0;
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

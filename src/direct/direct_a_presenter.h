@@ -1,30 +1,35 @@
 #pragma once
 
-#include "direct/control_registry.h"
 #include "direct/direct_a_shared.h"
 #include "direct/direct_export.h"
 #include "direct/exact_weight_bounds.h"
 #include "direct/judgment_page.h"
 #include "direct/ordering_page.h"
-#include "direct/results_grid.h"
+#include "direct/reference_page.h"
+#include "direct/results_page.h"
 #include "direct/status_lamps.h"
+#include "wizard/wizard_presenter.h"
 
 // Std
 #include <array>
-#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-namespace tnw {
+namespace tnw::direct {
 
-// The direct-method dialog frmDirectA without its widgets: the four-step flow (order, reference,
-// judgments, results) and every control's state, so that a view renders it and hands every user
-// action to one operation here. Operations are named after the dialog's handlers. After each
-// operation the change listener is called; events go to the DirectAEvents listener; messages,
-// beeps, the busy pointer and help go through the UI services.
-class DirectAPresenter {
+// The direct-method dialog frmDirectA without its widgets: the four steps (order, reference,
+// judgments, results), each a page that owns its controls' state, so that a view renders them
+// and hands every user action to one operation here. Operations are named after the dialog's
+// handlers. After each operation the change listener is called; events go to the DirectAEvents
+// listener; messages, beeps, the busy pointer and help go through the UI services.
+class DirectAPresenter : public wizard::WizardPresenter {
  public:
+  // The steps, from 0.
+  static constexpr int kOrderStep = OrderingPage::kStep;
+  static constexpr int kReferenceStep = ReferencePage::kStep;
+  static constexpr int kJudgmentStep = JudgmentPage::kStep;
+  static constexpr int kResultsStep = ResultsPage::kStep;
   // The form's caption on each step.
   static constexpr std::array<const char*, 4> kCaptions{
       "Tarnel Wizard: Give an importantce order of the attirbutes",
@@ -44,11 +49,6 @@ class DirectAPresenter {
 
   // A presenter over the wizard's data; nothing happens until Form_Load.
   DirectAPresenter(WizardContext& context, UiServices& ui, DirectAEvents& events);
-  DirectAPresenter(const DirectAPresenter&) = delete;
-  DirectAPresenter& operator=(const DirectAPresenter&) = delete;
-
-  // Sets the function called after every change of state (the view re-renders).
-  void setChangeListener(std::function<void()> listener) { m_listener = std::move(listener); }
 
   // Form_Load: step 0, with the earlier order restored when the model holds an earlier result.
   void Form_Load();
@@ -79,7 +79,7 @@ class DirectAPresenter {
   // Step 2: the target chosen in imgcmbTargetAtt (item i is attribute i).
   void imgcmbTargetAtt_Click(int i);
   // Step 2: a key typed into a ratio box whose text, caret and selection are `current`.
-  void txtWR_KeyPress(JudgmentPage::Box box, const TextBoxState& current, int keyAscii);
+  void txtWR_KeyPress(JudgmentPage::Box box, const wizard::TextBoxState& current, int keyAscii);
   // Step 2: a key typed into a ratio box that shows judgment().box(box)'s text, with its caret
   // and selection; the cost of a key does not grow with the text.
   void txtWR_KeyPress(JudgmentPage::Box box, int selStart, int selLength, int keyAscii);
@@ -99,60 +99,57 @@ class DirectAPresenter {
   // Step 2: Re-start All.
   void cmdReStart_Click();
 
-  // The current step, 0 to 3.
-  int WizardStep() const { return m_step; }
-  // The form's caption.
-  const std::string& caption() const { return m_controls.caption("frmDirectA"); }
-  // Every named control's caption, enabled and visible state.
-  const ControlRegistry& controls() const { return m_controls; }
-  // One named control's state.
-  const ControlState& control(std::string_view name) const { return m_controls.control(name); }
+  // The current step, 0 to 3 (the same as step()).
+  int WizardStep() const { return step(); }
+  // Enter and Re-start All (step 2).
+  const wizard::ButtonState& cmdEnter() const { return m_judgment.cmdEnter(); }
+  const wizard::ButtonState& cmdReStart() const { return m_judgment.cmdReStart(); }
+  // Add and Insert (step 0).
+  const wizard::ButtonState& cmdAdd() const { return m_ordering.cmdAdd(); }
+  const wizard::ButtonState& cmdInsert() const { return m_ordering.cmdInsert(); }
+  // The reference attribute's name above steps 1 and 2.
+  const wizard::LabelState& lblRefAtt() const { return m_shared.lblRefAtt; }
+  // The indicator on the reference's button (step 1).
+  const wizard::LabelState& picIndicator() const { return m_reference.picIndicator(); }
   // Step 0's attribute list, order boxes and information frame.
   const OrderingPage& ordering() const { return m_ordering; }
+  // Step 1's final order and reference choice.
+  const ReferencePage& reference() const { return m_reference; }
   // Step 2's targets, boxes, cone and judgments.
   const JudgmentPage& judgment() const { return m_judgment; }
+  // Step 3's grid and exact weight ranges.
+  const ResultsPage& results() const { return m_results; }
   // Step 3's grid gridTN.
-  const ResultsGrid& grid() const { return m_grid; }
+  const ResultsGrid& grid() const { return m_results.grid(); }
   // Step 3's exact weight ranges, shown beside gridTN (computed on entering step 3).
-  const ExactWeightBounds::Result& exactBounds() const { return m_exactBounds; }
+  const ExactWeightBounds::Result& exactBounds() const { return m_results.exactBounds(); }
   // The status lamps, the indicator's colour and Timer1's interval.
   const StatusLamps& lamps() const { return m_lamps; }
   // Timer1's interval in milliseconds (0 when stopped).
   int timerInterval() const { return m_lamps.timerInterval(); }
   // Step 1: the attributes of final group k (1-based), the buttons in box picO(k - 1).
-  std::vector<int> finalGroup(int k) const;
+  std::vector<int> finalGroup(int k) const { return m_reference.finalGroup(k); }
   // Step 1: the attribute whose button carries the indicator picIndicator (-1 when hidden).
-  int indicatorAttribute() const { return m_indicator; }
+  int indicatorAttribute() const { return m_reference.indicatorAttribute(); }
   // Whether the wizard resumes an earlier result.
-  bool resuming() const { return m_resume; }
+  bool resuming() const { return m_shared.resume; }
   // Whether the model has 1 to 31 attributes; otherwise only Back, Cancel and Help work.
-  bool usable() const { return m_usable; }
+  bool usable() const { return m_shared.usable; }
   // The arrays of the last export (the very arrays handed to ExportDirectAW).
   const DirectExport::Weights& exported() const { return m_export; }
 
  private:
   static int usableCount(const WizardContext& context);
-  void addControls();
-  void setStep(int step, bool withCaption);
-  void nextFromOrder();
-  void nextFromReference();
-  void nextFromJudgments();
-  void changed() const;
+  void showStep();
 
   WizardContext& m_context;
-  ControlRegistry m_controls;
   DirectAShared m_shared;
   StatusLamps m_lamps;
   OrderingPage m_ordering;
+  ReferencePage m_reference;
   JudgmentPage m_judgment;
-  ResultsGrid m_grid;
-  ExactWeightBounds::Result m_exactBounds;
+  ResultsPage m_results;
   DirectExport::Weights m_export;
-  std::function<void()> m_listener;
-  int m_step = 0;
-  int m_indicator = -1;
-  bool m_resume = false;
-  bool m_usable = false;
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -2,18 +2,34 @@
 
 #include "common/ui_services.h"
 #include "component/wizard_context.h"
-#include "direct/control_registry.h"
 #include "direct/direct_a_events.h"
+#include "wizard/control_states.h"
 
-namespace tnw {
+// Std
+#include <string>
+
+namespace tnw::direct {
 
 // What the pages of the direct-method dialog share: the wizard's data, the user-interface
-// services, the dialog's event listener and the dialog's named controls.
+// services, the dialog's event listener, the frame's buttons and the controls more than one
+// page writes.
 struct DirectAShared {
+  // The shared state over the wizard's data and the presenter's frame buttons.
+  DirectAShared(WizardContext& context, UiServices& ui, DirectAEvents& events,
+                wizard::WizardButtons& buttons)
+      : context(context), ui(ui), events(events), buttons(buttons) {}
+
   WizardContext& context;
   UiServices& ui;
   DirectAEvents& events;
-  ControlRegistry& controls;
+  // The frame's buttons (Back, Next, Finish, Cancel, Help).
+  wizard::WizardButtons& buttons;
+  // The reference attribute's name above steps 1 and 2.
+  wizard::LabelState lblRefAtt;
+  // Whether the model has 1 to 31 attributes; otherwise only Back, Cancel and Help work.
+  bool usable = false;
+  // Whether the wizard resumes an earlier result.
+  bool resume = false;
 
   // Shows a message box titled "NORIX" with the exclamation icon.
   void warn(const std::string& text) const {
@@ -21,4 +37,4 @@ struct DirectAShared {
   }
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace tnw {
+namespace tnw::direct {
 
 DirectExport::Outcome DirectExport::compute(const std::vector<double>& lower,
                                             const std::vector<double>& upper, int n, Weights& out) {
@@ -48,4 +48,4 @@ std::string DirectExport::message(Outcome outcome) {
   return {};
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

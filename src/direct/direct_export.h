@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace tnw {
+namespace tnw::direct {
 
 // The weights Finish hands to the host: each bound divided by the sum of the opposite bounds
 // (intended: the exported range is wider than the grid's), the weight the midpoint of the two.
@@ -28,4 +28,4 @@ class DirectExport {
   static std::string message(Outcome outcome);
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

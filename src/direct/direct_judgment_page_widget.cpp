@@ -1,11 +1,14 @@
 #include "direct/direct_judgment_page_widget.h"
 
 #include "direct/cone_area_widget.h"
-#include "direct/direct_a_presenter.h"
+#include "direct/control_rendering.h"
 #include "direct/direct_view_colours_qt.h"
+#include "direct/judgment_page.h"
+#include "direct/ordering_page.h"
 #include "direct/orientation_images_qt.h"
 #include "direct/preference_chart_widget.h"
 #include "direct/ratio_box_filter_qt.h"
+#include "direct/status_lamps.h"
 #include "direct/status_lights_widget.h"
 #include "tradeoffs/elided_label_widget.h"
 
@@ -20,7 +23,7 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
-namespace tnw {
+namespace tnw::direct {
 namespace {
 
 QLabel* namedLabel(const QString& name, QWidget* parent) {
@@ -164,10 +167,9 @@ QWidget* DirectJudgmentPageWidget::buildTabs() {
   return m_tabs;
 }
 
-void DirectJudgmentPageWidget::render(const DirectAPresenter& presenter,
-                                      const WizardContext& context) {
-  renderTargets(presenter);
-  const JudgmentPage& page = presenter.judgment();
+void DirectJudgmentPageWidget::render(const JudgmentPage& page, const OrderingPage& ordering,
+                                      const StatusLamps& lamps, const WizardContext& context) {
+  renderTargets(page);
   for (const auto box : {JudgmentPage::Box::Lower, JudgmentPage::Box::Upper}) {
     QLineEdit* edit = box == JudgmentPage::Box::Lower ? m_lower : m_upper;
     // The caret is only moved when the text changed under it.
@@ -175,19 +177,29 @@ void DirectJudgmentPageWidget::render(const DirectAPresenter& presenter,
       RatioBoxFilter::showBoxState(edit, page.box(box));
     }
   }
-  renderCone(presenter);
-  const StatusLamps& lamps = presenter.lamps();
+  renderCone(page);
   for (int i = 0; i < 3; ++i) {
     m_lights->setLamp(i, colourFromBgr(lamps.lampColor(i)), lamps.labelHighlighted(i),
                       colourFromBgr(lamps.labelTextColor(i)));
   }
   const QString why = QString::fromStdString(page.diagnosis().text);
   if (m_diagnosis->text() != why) m_diagnosis->setText(why);
-  renderOrderTab(presenter, context);
+  renderOrderTab(page, ordering, context);
 }
 
-void DirectJudgmentPageWidget::renderTargets(const DirectAPresenter& presenter) {
-  const TargetList& targets = presenter.judgment().targets();
+void DirectJudgmentPageWidget::renderControls(const JudgmentPage& page) {
+  renderButton(m_enter, page.cmdEnter());
+  renderButton(m_restart, page.cmdReStart());
+  renderLabel(m_targetName, page.lblTargetAtt());
+  renderLabel(m_targetLow, page.lblTarRangeLow());
+  renderLabel(m_targetHigh, page.lblTarRangeHigh());
+  renderImage(m_targetImage, page.imgTargetAtt());
+  renderLabel(m_chartRef, page.lblChartRefAtt());
+  renderLabel(m_chartTarget, page.lblChartTarAtt());
+}
+
+void DirectJudgmentPageWidget::renderTargets(const JudgmentPage& page) {
+  const TargetList& targets = page.targets();
   const int selected = targets.selectedIndex();
   QStringList texts;
   QStringList images;
@@ -212,8 +224,7 @@ void DirectJudgmentPageWidget::renderTargets(const DirectAPresenter& presenter) 
   if (m_targetList->currentIndex() != selected) m_targetList->setCurrentIndex(selected);
 }
 
-void DirectJudgmentPageWidget::renderCone(const DirectAPresenter& presenter) {
-  const JudgmentPage& page = presenter.judgment();
+void DirectJudgmentPageWidget::renderCone(const JudgmentPage& page) {
   m_cone->setAreaSide(page.cone().side());
   const RegionHandles& h = page.handles();
   m_cone->setHandlePosition(0, QPointF(h.first.x, h.first.y));
@@ -227,15 +238,15 @@ void DirectJudgmentPageWidget::renderCone(const DirectAPresenter& presenter) {
   m_cone->setCone(triangle);
 }
 
-void DirectJudgmentPageWidget::renderOrderTab(const DirectAPresenter& presenter,
+void DirectJudgmentPageWidget::renderOrderTab(const JudgmentPage& page,
+                                              const OrderingPage& ordering,
                                               const WizardContext& context) {
-  const JudgmentPage& page = presenter.judgment();
   m_tabs->setTabEnabled(1, page.orderTabVisible());
   if (!page.orderTabVisible()) return;
-  const int n = static_cast<int>(presenter.ordering().attributeButtons().size());
+  const int n = static_cast<int>(ordering.attributeButtons().size());
   QVector<FinalOrderWidget::AttributeFace> faces;
   for (int i = 0; i < n; ++i) {
-    const auto b = presenter.ordering().referenceButton(i);
+    const auto b = ordering.referenceButton(i);
     faces.append({QString::fromStdString(b.caption), colourFromBgr(b.faceColor)});
   }
   QVector<int> groupOf(n, 0);
@@ -255,4 +266,4 @@ void DirectJudgmentPageWidget::renderOrderTab(const DirectAPresenter& presenter,
   }
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

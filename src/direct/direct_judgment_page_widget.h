@@ -12,10 +12,15 @@ class QPushButton;
 class QTabWidget;
 
 namespace tnw {
+struct WizardContext;
+}  // namespace tnw
+
+namespace tnw::direct {
 
 class ConeAreaWidget;
-class DirectAPresenter;
-struct WizardContext;
+class JudgmentPage;
+class OrderingPage;
+class StatusLamps;
 class StatusLightsWidget;
 
 // Step 2 of the direct method: the target choice with its score range and image, the two ratio
@@ -28,8 +33,12 @@ class DirectJudgmentPageWidget : public QWidget {
   // The page with empty controls.
   explicit DirectJudgmentPageWidget(QWidget* parent = nullptr);
 
-  // Shows the presenter's step 2: targets, boxes, cone, lamps and the order tab.
-  void render(const DirectAPresenter& presenter, const WizardContext& context);
+  // Shows step 2's page: targets, boxes, cone, lamps and the order tab (the order's buttons
+  // as step 0 shows them).
+  void render(const JudgmentPage& page, const OrderingPage& ordering, const StatusLamps& lamps,
+              const WizardContext& context);
+  // Shows the page's buttons and the names, ranges and picture of the two attributes.
+  void renderControls(const JudgmentPage& page);
   // The target list (imgcmbTargetAtt).
   QComboBox* targetList() const { return m_targetList; }
   // The target's name, score range and image (lblTargetAtt, lblTarRangeLow/High, imgTargetAtt).
@@ -60,9 +69,10 @@ class DirectJudgmentPageWidget : public QWidget {
   QWidget* buildTargetFrame();
   QWidget* buildRatioFrame();
   QWidget* buildTabs();
-  void renderTargets(const DirectAPresenter& presenter);
-  void renderCone(const DirectAPresenter& presenter);
-  void renderOrderTab(const DirectAPresenter& presenter, const WizardContext& context);
+  void renderTargets(const JudgmentPage& page);
+  void renderCone(const JudgmentPage& page);
+  void renderOrderTab(const JudgmentPage& page, const OrderingPage& ordering,
+                      const WizardContext& context);
 
   QComboBox* m_targetList = nullptr;
   QLabel* m_targetName = nullptr;
@@ -86,4 +96,4 @@ class DirectJudgmentPageWidget : public QWidget {
   QVector<int> m_orderGroups;
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -3,11 +3,12 @@
 #include "direct/attribute_button_widget.h"
 #include "direct/attribute_drop_filter_qt.h"
 #include "direct/clickable_label_widget.h"
-#include "direct/direct_a_presenter.h"
+#include "direct/control_rendering.h"
 #include "direct/direct_view_colours_qt.h"
 #include "direct/drag_payload.h"
 #include "direct/flow_layout_qt.h"
 #include "direct/group_box_widget.h"
+#include "direct/ordering_page.h"
 
 // Qt
 #include <QButtonGroup>
@@ -23,7 +24,7 @@
 #include <QScrollBar>
 #include <QTextEdit>
 
-namespace tnw {
+namespace tnw::direct {
 namespace {
 
 QScrollArea* makeScrollArea(const QString& name, const QString& barName, QWidget* inner,
@@ -63,6 +64,7 @@ DirectOrderPageWidget::DirectOrderPageWidget(QWidget* parent) : QWidget(parent) 
                      "the ones with blue labels are cost-oriented."),
       this);
   notice->setObjectName(QStringLiteral("lblNotice3"));
+  m_notice = notice;
   notice->setTextFormat(Qt::PlainText);
   notice->setWordWrap(true);
   notice->setAlignment(Qt::AlignLeft | Qt::AlignTop);
@@ -167,8 +169,7 @@ void DirectOrderPageWidget::setAttributes(const QVector<AttributeFace>& attribut
     r.option = new QRadioButton(rowWidget);
     // The keyboard reaches an attribute's information through its button (see eventFilter).
     r.option->setFocusPolicy(Qt::NoFocus);
-    r.option->setObjectName(QStringLiteral("optAttInfo"));
-    r.option->setProperty("index", j);
+    r.option->setObjectName(QStringLiteral("optAttInfo_%1").arg(j));
     r.option->setAccessibleName(tr("Show the information of %1").arg(attributes[j].name));
     options->addButton(r.option, j);
     r.button = new AttributeButtonWidget(QStringLiteral("cmdAttA"), j, rowWidget);
@@ -311,8 +312,7 @@ void DirectOrderPageWidget::onDragOver(QWidget* target, const QByteArray& payloa
   emit draggedOverList(payload);
 }
 
-void DirectOrderPageWidget::render(const DirectAPresenter& presenter) {
-  const OrderingPage& page = presenter.ordering();
+void DirectOrderPageWidget::render(const OrderingPage& page) {
   const auto& buttons = page.attributeButtons();
   QVector<AttributeFace> faces;
   for (const auto& b : buttons) {
@@ -340,11 +340,22 @@ void DirectOrderPageWidget::render(const DirectAPresenter& presenter) {
     groups.append(view);
   }
   setGroups(groups, order.framedGroup());
-  const auto caption = [&presenter](const char* name) {
-    return QString::fromStdString(presenter.control(name).caption);
+  const auto caption = [](const wizard::LabelState& state) {
+    return QString::fromStdString(state.caption);
   };
-  showAttributeInfo(page.selectedInfo(), caption("frameAttInfo"), caption("labAttName"),
-                    caption("labAttProperty"), caption("txtAttDefinition"));
+  showAttributeInfo(page.selectedInfo(), caption(page.frameAttInfo()), caption(page.labAttName()),
+                    caption(page.labAttProperty()), caption(page.txtAttDefinition()));
+}
+
+void DirectOrderPageWidget::renderControls(const OrderingPage& page) {
+  renderButton(m_add, page.cmdAdd());
+  renderButton(m_insert, page.cmdInsert());
+  renderLabel(m_notice, page.lblNotice3());
+  m_info->setTitle(QString::fromStdString(page.frameAttInfo().caption));
+  renderLabel(m_infoName, page.labAttName());
+  renderLabel(m_infoProperty, page.labAttProperty());
+  const QString definition = QString::fromStdString(page.txtAttDefinition().caption);
+  if (m_infoDefinition->toPlainText() != definition) m_infoDefinition->setPlainText(definition);
 }
 
 QList<QWidget*> DirectOrderPageWidget::tabChain() const {
@@ -373,7 +384,7 @@ bool DirectOrderPageWidget::focusFirstListed() {
 bool DirectOrderPageWidget::eventFilter(QObject* watched, QEvent* event) {
   auto* button = qobject_cast<AttributeButtonWidget*>(watched);
   if (button == nullptr) return QWidget::eventFilter(watched, event);
-  const bool placed = button->objectName() == QLatin1String("cmdAttB");
+  const bool placed = m_placedButtons.contains(button);
   if (event->type() == QEvent::FocusIn) {
     emit attributeInfoRequested(placed ? button->attribute() : button->index());
   } else if (placed && event->type() == QEvent::KeyPress) {
@@ -392,4 +403,4 @@ bool DirectOrderPageWidget::eventFilter(QObject* watched, QEvent* event) {
   return QWidget::eventFilter(watched, event);
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -15,10 +15,10 @@ class QScrollArea;
 class QTextEdit;
 class QVBoxLayout;
 
-namespace tnw {
+namespace tnw::direct {
 
 class AttributeButtonWidget;
-class DirectAPresenter;
+class OrderingPage;
 class AttributeDropFilter;
 class ClickableLabelWidget;
 class GroupBoxWidget;
@@ -53,8 +53,10 @@ class DirectOrderPageWidget : public QWidget {
   // Shows attribute j's information and selects its option button.
   void showAttributeInfo(int j, const QString& title, const QString& name, const QString& property,
                          const QString& definition);
-  // Shows the presenter's step 0: attribute list, groups, placed buttons, information.
-  void render(const DirectAPresenter& presenter);
+  // Shows step 0's page: attribute list, groups, placed buttons, information.
+  void render(const OrderingPage& page);
+  // Shows the page's buttons (Add, Insert), the notice and the information frame's texts.
+  void renderControls(const OrderingPage& page);
   // The page's controls in the order Tab visits them: the listed attributes, each group box
   // with its placed attributes, Add, Insert and the definition.
   QList<QWidget*> tabChain() const;
@@ -113,6 +115,7 @@ class DirectOrderPageWidget : public QWidget {
   QVBoxLayout* m_orderLayout = nullptr;
   QPushButton* m_add = nullptr;
   QPushButton* m_insert = nullptr;
+  QLabel* m_notice = nullptr;
   QGroupBox* m_info = nullptr;
   QLabel* m_infoName = nullptr;
   QLabel* m_infoProperty = nullptr;
@@ -124,4 +127,4 @@ class DirectOrderPageWidget : public QWidget {
   int m_shownGroups = 0;
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

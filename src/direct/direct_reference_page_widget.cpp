@@ -1,9 +1,11 @@
 #include "direct/direct_reference_page_widget.h"
 
 #include "direct/attribute_button_widget.h"
-#include "direct/direct_a_presenter.h"
 #include "direct/direct_view_colours_qt.h"
 #include "direct/indicator_widget.h"
+#include "direct/ordering_page.h"
+#include "direct/reference_page.h"
+#include "direct/status_lamps.h"
 
 // Qt
 #include <QGroupBox>
@@ -11,7 +13,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-namespace tnw {
+namespace tnw::direct {
 
 DirectReferencePageWidget::DirectReferencePageWidget(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("picStep1"));
@@ -72,12 +74,12 @@ void DirectReferencePageWidget::setIndicatorColour(const QColor& colour) {
   m_indicator->setFillColour(colour);
 }
 
-void DirectReferencePageWidget::render(const DirectAPresenter& presenter,
-                                       const WizardContext& context) {
-  const int n = static_cast<int>(presenter.ordering().attributeButtons().size());
+void DirectReferencePageWidget::render(const ReferencePage& page, const OrderingPage& ordering,
+                                       const StatusLamps& lamps, const WizardContext& context) {
+  const int n = static_cast<int>(ordering.attributeButtons().size());
   QVector<FinalOrderWidget::AttributeFace> faces;
   for (int i = 0; i < n; ++i) {
-    const auto b = presenter.ordering().referenceButton(i);
+    const auto b = ordering.referenceButton(i);
     faces.append({QString::fromStdString(b.caption), colourFromBgr(b.faceColor)});
   }
   const bool rebuilt = faces != m_faces;
@@ -87,7 +89,7 @@ void DirectReferencePageWidget::render(const DirectAPresenter& presenter,
   }
   QVector<int> groupOf(n, 0);
   for (int k = 1; k <= context.FinalGroupCount; ++k) {
-    for (const int i : presenter.finalGroup(k)) {
+    for (const int i : page.finalGroup(k)) {
       if (i >= 0 && i < n) groupOf[i] = k;
     }
   }
@@ -95,9 +97,9 @@ void DirectReferencePageWidget::render(const DirectAPresenter& presenter,
     m_groupOf = groupOf;
     setOrder(context.FinalGroupCount, groupOf);
   }
-  const int ref = presenter.control("picIndicator").visible ? presenter.indicatorAttribute() : -1;
+  const int ref = page.picIndicator().visible ? page.indicatorAttribute() : -1;
   if (ref != m_reference) setReference(ref);
-  setIndicatorColour(colourFromBgr(presenter.lamps().indicatorColor()));
+  setIndicatorColour(colourFromBgr(lamps.indicatorColor()));
 }
 
 QWidget* DirectReferencePageWidget::firstButton() const {
@@ -112,4 +114,4 @@ QWidget* DirectReferencePageWidget::firstButton() const {
   return first;
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

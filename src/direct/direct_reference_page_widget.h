@@ -8,10 +8,15 @@
 class QLabel;
 
 namespace tnw {
-
-class DirectAPresenter;
-class IndicatorWidget;
 struct WizardContext;
+}  // namespace tnw
+
+namespace tnw::direct {
+
+class OrderingPage;
+class ReferencePage;
+class StatusLamps;
+class IndicatorWidget;
 
 // Step 1 of the direct method: the final importance order with one button per attribute, the
 // reference attribute's name and the blinking indicator beside its button.
@@ -30,8 +35,10 @@ class DirectReferencePageWidget : public QWidget {
   void setReference(int i);
   // Sets the indicator's fill colour.
   void setIndicatorColour(const QColor& colour);
-  // Shows the presenter's step 1: the final order, the reference and the indicator.
-  void render(const DirectAPresenter& presenter, const WizardContext& context);
+  // Shows step 1's page: the final order (the buttons as step 0 shows them), the reference and
+  // the indicator in the lamps' colour.
+  void render(const ReferencePage& page, const OrderingPage& ordering, const StatusLamps& lamps,
+              const WizardContext& context);
   // The first attribute button in the order (the most important group's first), or null.
   QWidget* firstButton() const;
   // The order view.
@@ -51,4 +58,4 @@ class DirectReferencePageWidget : public QWidget {
   int m_reference = -1;
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -11,7 +11,7 @@
 // Std
 #include <algorithm>
 
-namespace tnw {
+namespace tnw::direct {
 
 DirectResultsPageWidget::DirectResultsPageWidget(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("picStep3"));
@@ -135,4 +135,4 @@ void DirectResultsPageWidget::render(const ResultsGrid& grid) {
   setTable(headers, rows);
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

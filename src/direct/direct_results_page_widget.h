@@ -11,8 +11,11 @@ class QLabel;
 class QTableWidget;
 
 namespace tnw {
-
 struct AttributeModel;
+}  // namespace tnw
+
+namespace tnw::direct {
+
 class ResultsGrid;
 
 // Step 3 of the direct method: the results grid gridTN with one row per attribute, and below it
@@ -47,4 +50,4 @@ class DirectResultsPageWidget : public QWidget {
   QString m_signature;
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

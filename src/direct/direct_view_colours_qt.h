@@ -6,7 +6,7 @@
 // Std
 #include <cstdint>
 
-namespace tnw {
+namespace tnw::direct {
 
 // A colour given in the platform's 0x00BBGGRR form, as the presenters keep colours.
 inline QColor colourFromBgr(std::uint32_t bgr) {
@@ -14,4 +14,4 @@ inline QColor colourFromBgr(std::uint32_t bgr) {
                 static_cast<int>((bgr >> 16U) & 0xFFU));
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -1,6 +1,6 @@
 #include "direct/drag_payload.h"
 
-namespace tnw {
+namespace tnw::direct {
 
 std::string encodeDragPayload(const DragPayload& payload) {
   const char letter = payload.source == DragSource::AttributeList ? 'A' : 'B';
@@ -32,4 +32,4 @@ std::optional<DragPayload> decodeDragPayload(std::string_view tag) {
   return payload;
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace tnw {
+namespace tnw::direct {
 
 // The private MIME type under which views carry the payload of a dragged attribute button.
 inline constexpr const char* kDragMimeType = "application/x-tnwizard-attribute";
@@ -31,4 +31,4 @@ std::string encodeDragPayload(const DragPayload& payload);
 // overlong number), so that foreign drops are ignored.
 std::optional<DragPayload> decodeDragPayload(std::string_view tag);
 
-}  // namespace tnw
+}  // namespace tnw::direct

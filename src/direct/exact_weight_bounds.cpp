@@ -9,7 +9,7 @@
 #include <cmath>
 #include <map>
 
-namespace tnw {
+namespace tnw::direct {
 
 // The closed form for groups, and why it is exact.
 //
@@ -149,4 +149,4 @@ std::vector<std::array<std::string, ExactWeightBounds::kColumns>> ExactWeightBou
   return out;
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

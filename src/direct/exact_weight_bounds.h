@@ -7,8 +7,10 @@
 #include <vector>
 
 namespace tnw {
-
 struct AttributeModel;
+}  // namespace tnw
+
+namespace tnw::direct {
 
 // The tightest bounds of the normalised weights that the ratio intervals allow. Every attribute's
 // weight is its ratio divided by the sum of all ratios; the ratios range over their intervals,
@@ -71,4 +73,4 @@ class ExactWeightBounds {
                                                              const Result& result);
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace tnw {
+namespace tnw::direct {
 
 // The compacted importance order the ordering step ends with: groups numbered 1 to
 // FinalGroupCount without gaps, 1 the most important.
@@ -17,4 +17,4 @@ struct FinalOrder {
   std::vector<std::int16_t> FinalAttGroup;
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -10,7 +10,7 @@
 #include <QHBoxLayout>
 #include <QScrollBar>
 
-namespace tnw {
+namespace tnw::direct {
 
 FinalOrderWidget::FinalOrderWidget(const Names& names, QWidget* parent)
     : QScrollArea(parent), m_names(names) {
@@ -90,4 +90,4 @@ QList<QWidget*> FinalOrderWidget::tabChain() const {
   return chain;
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

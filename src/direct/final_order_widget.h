@@ -8,7 +8,7 @@
 
 class QVBoxLayout;
 
-namespace tnw {
+namespace tnw::direct {
 
 class AttributeButtonWidget;
 class ClickableLabelWidget;
@@ -63,4 +63,4 @@ class FinalOrderWidget : public QScrollArea {
   int m_shownGroups = 0;
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

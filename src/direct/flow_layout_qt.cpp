@@ -6,7 +6,7 @@
 // Std
 #include <algorithm>
 
-namespace tnw {
+namespace tnw::direct {
 
 FlowLayout::FlowLayout(QWidget* parent, int spacing) : QLayout(parent), m_spacing(spacing) {}
 
@@ -70,4 +70,4 @@ int FlowLayout::doLayout(const QRect& rect, bool testOnly) const {
   return y + lineHeight - rect.y() + m.bottom();
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

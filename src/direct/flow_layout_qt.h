@@ -4,7 +4,7 @@
 #include <QLayout>
 #include <QList>
 
-namespace tnw {
+namespace tnw::direct {
 
 // A layout that places its items left to right and wraps them into as many rows as the width
 // needs; the group boxes use it so that any number of attribute buttons fits.
@@ -33,4 +33,4 @@ class FlowLayout : public QLayout {
   int m_spacing = 4;
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

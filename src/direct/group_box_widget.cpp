@@ -8,7 +8,7 @@
 #include <QPainter>
 #include <QPushButton>
 
-namespace tnw {
+namespace tnw::direct {
 namespace {
 
 const QColor kBoxColour(255, 255, 160);
@@ -16,10 +16,9 @@ const QColor kSelectedFrame(200, 0, 0);
 
 }  // namespace
 
-GroupBoxWidget::GroupBoxWidget(const QString& objectName, int index, QWidget* parent)
+GroupBoxWidget::GroupBoxWidget(const QString& arrayName, int index, QWidget* parent)
     : QFrame(parent), m_index(index) {
-  setObjectName(objectName);
-  setProperty("index", index);
+  setObjectName(arrayName + QLatin1Char('_') + QString::number(index));
   setFrameShape(QFrame::Box);
   setAutoFillBackground(true);
   QPalette pal = palette();
@@ -104,4 +103,4 @@ void GroupBoxWidget::paintEvent(QPaintEvent* event) {
   p.drawRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5));
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -3,7 +3,7 @@
 // Qt
 #include <QFrame>
 
-namespace tnw {
+namespace tnw::direct {
 
 class FlowLayout;
 
@@ -13,9 +13,9 @@ class GroupBoxWidget : public QFrame {
   Q_OBJECT
 
  public:
-  // A box named objectName with the control-array index in its "index" property; a
+  // A box of the control array arrayName, named arrayName_index; a
   // focusable box is clicked by Space or Enter as well.
-  GroupBoxWidget(const QString& objectName, int index, QWidget* parent = nullptr);
+  GroupBoxWidget(const QString& arrayName, int index, QWidget* parent = nullptr);
   // Lets the box take the focus (the ordering page's boxes can be chosen by keyboard).
   void setFocusable(bool focusable);
 
@@ -55,4 +55,4 @@ class GroupBoxWidget : public QFrame {
   FlowLayout* m_layout = nullptr;
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -5,7 +5,7 @@
 // Std
 #include <algorithm>
 
-namespace tnw {
+namespace tnw::direct {
 
 ImportanceOrder::ImportanceOrder(int numAtt)
     : m_numAtt(std::clamp(numAtt, 0, kMaxAttributes)),
@@ -165,4 +165,4 @@ FinalOrder ImportanceOrder::GetFinalOrder() const {
   return order;
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

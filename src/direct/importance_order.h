@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace tnw {
+namespace tnw::direct {
 
 // The ordering step's model: importance groups being filled by dragging attributes into them.
 // Groups are numbered from 1 (most important); empty groups are allowed until GetFinalOrder
@@ -88,4 +88,4 @@ class ImportanceOrder {
   std::vector<int> m_placements;
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

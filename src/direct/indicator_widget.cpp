@@ -3,7 +3,7 @@
 // Qt
 #include <QPainter>
 
-namespace tnw {
+namespace tnw::direct {
 
 IndicatorWidget::IndicatorWidget(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("picIndicator"));
@@ -27,4 +27,4 @@ void IndicatorWidget::paintEvent(QPaintEvent*) {
   p.drawEllipse(QRectF(rect()).adjusted(1, 1, -1, -1));
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -4,7 +4,7 @@
 #include <QColor>
 #include <QWidget>
 
-namespace tnw {
+namespace tnw::direct {
 
 // The indicator of step 1 (picIndicator): a small round lamp beside the reference attribute's
 // button, filled with the colour it is given.
@@ -30,4 +30,4 @@ class IndicatorWidget : public QWidget {
   QColor m_colour{255, 0, 0};
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

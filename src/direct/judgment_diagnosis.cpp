@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace tnw {
+namespace tnw::direct {
 
 namespace {
 
@@ -163,4 +163,4 @@ JudgmentDiagnosis::Result JudgmentDiagnosis::diagnose(const PreferenceCone& cone
   return d;
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -9,8 +9,10 @@
 #include <string>
 
 namespace tnw {
-
 struct AttributeModel;
+}  // namespace tnw
+
+namespace tnw::direct {
 
 // Why a judgment on the judgment page is inconsistent or invalid, in words: which bound
 // conflicts (with which judged attribute), and the nearest interval that the ratio boxes could
@@ -47,4 +49,4 @@ class JudgmentDiagnosis {
   static const char* boundName(Bound bound);
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

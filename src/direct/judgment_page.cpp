@@ -6,7 +6,7 @@
 #include "direct/ratio_bound_check.h"
 #include "direct/ratio_key_filter.h"
 
-namespace tnw {
+namespace tnw::direct {
 
 namespace {
 
@@ -21,6 +21,17 @@ std::string scoreText(double score) { return formatNumber(score, "###,##0.0#"); 
 JudgmentPage::JudgmentPage(DirectAShared& shared, StatusLamps& lamps)
     : m_shared(shared), m_lamps(lamps), m_judgments(shared.context) {}
 
+void JudgmentPage::initializePage() { enter(m_shared.resume); }
+
+void JudgmentPage::cleanupPage() { leave(); }
+
+void JudgmentPage::revisitPage() { m_shared.buttons.cmdNext.enabled = true; }
+
+void JudgmentPage::showButtons(bool visible) {
+  m_cmdEnter.visible = visible;
+  m_cmdReStart.visible = visible;
+}
+
 bool JudgmentPage::enter(bool resume) {
   m_judgments.reset();
   bool resumed = false;
@@ -31,7 +42,6 @@ bool JudgmentPage::enter(bool resume) {
   }
   if (!resumed) m_judgments.CalcIniWeightRatios();
   ListAtt();
-  ControlRegistry& c = m_shared.controls;
   if (resumed) {
     for (int i = 0; i < m_judgments.count(); ++i) IniJudgmentStatusB(i);
   }
@@ -39,8 +49,8 @@ bool JudgmentPage::enter(bool resume) {
   // With every attribute settled (resumed, or all tied with the reference) there is nothing
   // left to judge, and the page is complete at once.
   showCompletion();
-  c.setEnabled("cmdEnter", m_targets.currentTarget() >= 0);
-  c.setEnabled("cmdReStart", resumed);
+  m_cmdEnter.enabled = m_targets.currentTarget() >= 0;
+  m_cmdReStart.enabled = resumed;
   m_orderTabVisible = true;
   return resumed;
 }
@@ -62,7 +72,6 @@ void JudgmentPage::ListAtt() {
 
 void JudgmentPage::DisplayAttPair(int target, int reference) {
   const AttributeModel& model = m_shared.context.model;
-  ControlRegistry& c = m_shared.controls;
   const auto& items = m_targets.items();
   const auto image = [&items](int i, bool selected) -> std::string {
     if (i < 0 || i >= static_cast<int>(items.size())) return {};
@@ -74,18 +83,16 @@ void JudgmentPage::DisplayAttPair(int target, int reference) {
     const auto u = static_cast<std::size_t>(i);
     return scoreText(high ? model.AttScoreHigh[u] : model.AttScoreLow[u]);
   };
-  for (const char* name : {"lblRefAtt", "lblChartRefAtt"}) {
-    c.setCaption(name, AttributeTexts::name(model, reference));
-  }
-  for (const char* name : {"lblTargetAtt", "lblChartTarAtt"}) {
-    c.setCaption(name, target >= 0 ? AttributeTexts::name(model, target) : "");
-  }
-  c.setCaption("lblRefRangeLow", range(reference, false));
-  c.setCaption("lblRefRangeHigh", range(reference, true));
-  c.setCaption("lblTarRangeLow", range(target, false));
-  c.setCaption("lblTarRangeHigh", range(target, true));
-  c.setCaption("imgRefAtt", image(reference, false));
-  c.setCaption("imgTargetAtt", image(target, true));
+  m_shared.lblRefAtt.caption = AttributeTexts::name(model, reference);
+  m_lblChartRefAtt.caption = m_shared.lblRefAtt.caption;
+  m_lblTargetAtt.caption = target >= 0 ? AttributeTexts::name(model, target) : "";
+  m_lblChartTarAtt.caption = m_lblTargetAtt.caption;
+  m_lblRefRangeLow.caption = range(reference, false);
+  m_lblRefRangeHigh.caption = range(reference, true);
+  m_lblTarRangeLow.caption = range(target, false);
+  m_lblTarRangeHigh.caption = range(target, true);
+  m_imgRefAtt.caption = image(reference, false);
+  m_imgTargetAtt.caption = image(target, true);
 }
 
 void JudgmentPage::placeHandles(double lower, double upper) {
@@ -137,7 +144,7 @@ void JudgmentPage::Check_Judgment_Status() {
     m_upper.setText(formatNumber(result.upperRatio, "0.00"));
   }
   m_lamps.show(result.state);
-  m_shared.controls.setEnabled("cmdEnter", result.state == JudgmentState::Consistent);
+  m_cmdEnter.enabled = result.state == JudgmentState::Consistent;
 }
 
 void JudgmentPage::DisplayPrefCone() {
@@ -167,12 +174,14 @@ void JudgmentPage::chooseTarget(int i) {
   } else {
     IniJudgmentStatusA(i);
   }
-  m_shared.controls.setEnabled("cmdEnter", true);
+  m_cmdEnter.enabled = true;
 }
 
-TextBoxState& JudgmentPage::boxState(Box box) { return box == Box::Lower ? m_lower : m_upper; }
+wizard::TextBoxState& JudgmentPage::boxState(Box box) {
+  return box == Box::Lower ? m_lower : m_upper;
+}
 
-const TextBoxState& JudgmentPage::box(Box box) const {
+const wizard::TextBoxState& JudgmentPage::box(Box box) const {
   return box == Box::Lower ? m_lower : m_upper;
 }
 
@@ -187,21 +196,21 @@ bool JudgmentPage::keyDown(Box /*box*/, int keyCode, bool shift) const {
   return RatioKeyFilter::discardKeyDown(keyCode, shift);
 }
 
-void JudgmentPage::keyPress(Box box, const TextBoxState& current, int keyAscii) {
-  TextBoxState& state = boxState(box);
+void JudgmentPage::keyPress(Box box, const wizard::TextBoxState& current, int keyAscii) {
+  wizard::TextBoxState& state = boxState(box);
   state = current;
   state.periodCount = -1;  // the caller's text: its periods are counted again when asked
   keyPress(box, current.selStart, current.selLength, keyAscii);
 }
 
 void JudgmentPage::keyPress(Box box, int selStart, int selLength, int keyAscii) {
-  TextBoxState& state = boxState(box);
+  wizard::TextBoxState& state = boxState(box);
   state.selStart = selStart;
   state.selLength = selLength;
   state.clampSelection();
   m_focus = boxName(box);
   if (RatioKeyFilter::typeKey(state, keyAscii) != RatioKeyFilter::KeyAction::Enter) return;
-  if (m_shared.controls.enabled("cmdReStart")) m_focus = "cmdReStart";
+  if (m_cmdReStart.enabled) m_focus = "cmdReStart";
   // Enter checks the lower bound from either box; the upper gets its own check on leaving.
   if (checkBound(Box::Lower)) DisplayPrefCone();
 }
@@ -254,14 +263,13 @@ std::array<IntPoint, 3> JudgmentPage::coneTriangle() const {
 
 bool JudgmentPage::enterJudgment() {
   const int t = m_targets.currentTarget();
-  ControlRegistry& c = m_shared.controls;
-  if (t < 0 || !c.enabled("cmdEnter")) return false;
+  if (t < 0 || !m_cmdEnter.enabled) return false;
   // Enter can be pressed without the focus leaving a box (by its mnemonic, or from the command
   // line), so it runs the checks that leaving the boxes runs, and records nothing while one
   // of them fails.
   if (!checkBound(Box::Lower) || !checkBound(Box::Upper)) return false;
   checkStatusOfBoxes();
-  if (!c.enabled("cmdEnter")) return false;
+  if (!m_cmdEnter.enabled) return false;
   const double lower = RatioBoundCheck::boxValue(m_lower.text);
   const double upper = RatioBoundCheck::boxValue(m_upper.text);
   // The target's item is marked at once, with those of its ties.
@@ -270,8 +278,8 @@ bool JudgmentPage::enterJudgment() {
     m_targets.markJudged(k);
   }
   placeHandles(m_judgments.lower(t), m_judgments.upper(t));
-  c.setEnabled("cmdEnter", false);
-  c.setEnabled("cmdReStart", true);
+  m_cmdEnter.enabled = false;
+  m_cmdReStart.enabled = true;
   showCompletion();
   return true;
 }
@@ -297,17 +305,16 @@ void JudgmentPage::restart() {
   ListAtt();
   IniJudgmentStatusA(m_targets.currentTarget());
   m_shared.ui.setBusy(false);
-  ControlRegistry& c = m_shared.controls;
-  c.setEnabled("cmdEnter", m_targets.currentTarget() >= 0);
-  c.setEnabled("cmdReStart", false);
+  m_cmdEnter.enabled = m_targets.currentTarget() >= 0;
+  m_cmdReStart.enabled = false;
   showCompletion();
 }
 
 void JudgmentPage::showCompletion() {
   // Next and Finish only while no attribute is open: an open interval is never exported.
   const bool complete = m_judgments.isComplete();
-  m_shared.controls.setEnabled("cmdNext", complete);
-  m_shared.controls.setEnabled("cmdFinish", complete);
+  m_shared.buttons.cmdNext.enabled = complete;
+  m_shared.buttons.cmdFinish.enabled = complete;
 }
 
 std::vector<int> JudgmentPage::orderGroup(int k) const {
@@ -318,4 +325,4 @@ std::vector<int> JudgmentPage::orderGroup(int k) const {
   return atts;
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

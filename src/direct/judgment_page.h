@@ -6,21 +6,24 @@
 #include "direct/preference_cone.h"
 #include "direct/status_lamps.h"
 #include "direct/target_list.h"
-#include "direct/text_box_state.h"
 #include "direct/weight_ratio_judgments.h"
+#include "wizard/control_states.h"
+#include "wizard/wizard_page.h"
 
 // Std
 #include <array>
 #include <string>
 #include <vector>
 
-namespace tnw {
+namespace tnw::direct {
 
 // Step 2 of the direct method: the target list imgcmbTargetAtt, the ratio boxes txtWRLower and
 // txtWRUpper, the preference cone with its two handles picHandle, the status lamps, cmdEnter
 // and cmdReStart, and the final order on the tab picOrderTab.
-class JudgmentPage {
+class JudgmentPage : public wizard::WizardPage {
  public:
+  // The step this page is on.
+  static constexpr int kStep = 2;
   // One of the two ratio boxes.
   enum class Box { Lower, Upper };
 
@@ -42,6 +45,18 @@ class JudgmentPage {
   // The page over the shared data, blinking its lamps through `lamps`.
   JudgmentPage(DirectAShared& shared, StatusLamps& lamps);
 
+  // Entered by Next from the reference choice: enter() with the earlier judgments when the
+  // wizard resumes them.
+  void initializePage() override;
+  // Left by Back for the reference choice: leave().
+  void cleanupPage() override;
+  // Back from the results: Next is enabled again.
+  void revisitPage() override;
+  // The results come next.
+  int nextId() const override { return kStep + 1; }
+  // Complete while no attribute is open, which enables Next.
+  bool isComplete() const override { return m_shared.usable && m_shared.buttons.cmdNext.enabled; }
+
   // Entering the page from step 1: the initial or the resumed intervals, the target list, the
   // first judgment and the order tab. Returns whether the earlier judgments were resumed.
   bool enter(bool resume);
@@ -51,7 +66,7 @@ class JudgmentPage {
   // imgcmbTargetAtt_Click: attribute i chosen as the target (refusals shown as messages).
   void chooseTarget(int i);
   // A key typed into a box whose text, caret and selection are `current`.
-  void keyPress(Box box, const TextBoxState& current, int keyAscii);
+  void keyPress(Box box, const wizard::TextBoxState& current, int keyAscii);
   // A key typed into a box that shows the page's text, with the caret and selection given: the
   // text is not handed over, so a key costs the same however long the text is.
   void keyPress(Box box, int selStart, int selLength, int keyAscii);
@@ -77,7 +92,7 @@ class JudgmentPage {
   // The target list.
   const TargetList& targets() const { return m_targets; }
   // The text, caret and selection of a box.
-  const TextBoxState& box(Box box) const;
+  const wizard::TextBoxState& box(Box box) const;
   // The control that has the focus on this page ("txtWRLower", "txtWRUpper", "cmdReStart" or "").
   const std::string& focus() const { return m_focus; }
   // The validity flag of the current entry: 1 after a bound passed its check, 0 after a failure.
@@ -95,6 +110,23 @@ class JudgmentPage {
   // Why the lit status is "Inconsistent" or "Invalid", with the nearest consistent interval;
   // an empty diagnosis while no such status is lit.
   JudgmentDiagnosis::Result diagnosis() const;
+  // Enter and Re-start All, shown on this page's step only.
+  const wizard::ButtonState& cmdEnter() const { return m_cmdEnter; }
+  const wizard::ButtonState& cmdReStart() const { return m_cmdReStart; }
+  // Shows Enter and Re-start All on this page's step, hides them on the others.
+  void showButtons(bool visible);
+  // The names of the two attributes, above the boxes and on the chart's axes.
+  const wizard::LabelState& lblTargetAtt() const { return m_lblTargetAtt; }
+  const wizard::LabelState& lblChartRefAtt() const { return m_lblChartRefAtt; }
+  const wizard::LabelState& lblChartTarAtt() const { return m_lblChartTarAtt; }
+  // The score ranges of the reference and the target.
+  const wizard::LabelState& lblRefRangeLow() const { return m_lblRefRangeLow; }
+  const wizard::LabelState& lblRefRangeHigh() const { return m_lblRefRangeHigh; }
+  const wizard::LabelState& lblTarRangeLow() const { return m_lblTarRangeLow; }
+  const wizard::LabelState& lblTarRangeHigh() const { return m_lblTarRangeHigh; }
+  // The orientation pictures of the two attributes: the caption is the picture's name.
+  const wizard::LabelState& imgRefAtt() const { return m_imgRefAtt; }
+  const wizard::LabelState& imgTargetAtt() const { return m_imgTargetAtt; }
   // Whether the final-order frames of the tab are shown.
   bool orderTabVisible() const { return m_orderTabVisible; }
   // The attributes of final group k (1-based) in model order: the buttons cmdAttBtn of frame
@@ -116,7 +148,7 @@ class JudgmentPage {
   void checkStatusOfBoxes();
   // Enables Next and Finish exactly when no attribute is open.
   void showCompletion();
-  TextBoxState& boxState(Box box);
+  wizard::TextBoxState& boxState(Box box);
 
   DirectAShared& m_shared;
   StatusLamps& m_lamps;
@@ -124,12 +156,23 @@ class JudgmentPage {
   TargetList m_targets;
   PreferenceCone m_cone{200.0F, 8.0F};
   RegionHandles m_handles;
-  TextBoxState m_lower;
-  TextBoxState m_upper;
+  wizard::TextBoxState m_lower;
+  wizard::TextBoxState m_upper;
   std::string m_focus;
   int m_valid = 0;
   bool m_loading = false;
   bool m_orderTabVisible = false;
+  wizard::ButtonState m_cmdEnter{"&Enter"};
+  wizard::ButtonState m_cmdReStart{"&Re-start All"};
+  wizard::LabelState m_lblTargetAtt;
+  wizard::LabelState m_lblChartRefAtt;
+  wizard::LabelState m_lblChartTarAtt;
+  wizard::LabelState m_lblRefRangeLow;
+  wizard::LabelState m_lblRefRangeHigh;
+  wizard::LabelState m_lblTarRangeLow;
+  wizard::LabelState m_lblTarRangeHigh;
+  wizard::LabelState m_imgRefAtt;
+  wizard::LabelState m_imgTargetAtt;
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

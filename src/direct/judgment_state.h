@@ -1,6 +1,6 @@
 #pragma once
 
-namespace tnw {
+namespace tnw::direct {
 
 // The judgment status the page keeps: 0 when cleared, else as Check_Judgment_Status found it.
 enum class JudgmentState {
@@ -10,4 +10,4 @@ enum class JudgmentState {
   Inconsistent = 3  // it contradicts a judged attribute of another group
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

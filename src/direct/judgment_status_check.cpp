@@ -5,7 +5,7 @@
 // Std
 #include <algorithm>
 
-namespace tnw {
+namespace tnw::direct {
 
 namespace {
 
@@ -56,4 +56,4 @@ JudgmentStatusCheck::Result JudgmentStatusCheck::check(const PreferenceCone& con
   return result;
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

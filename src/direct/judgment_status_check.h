@@ -7,7 +7,7 @@
 // Std
 #include <optional>
 
-namespace tnw {
+namespace tnw::direct {
 
 // Check_Judgment_Status without its display: what the two handles say about the target's
 // interval against the judged attributes of the other groups.
@@ -35,4 +35,4 @@ class JudgmentStatusCheck {
                                           int groupCount);
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

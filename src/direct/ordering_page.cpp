@@ -1,10 +1,48 @@
 #include "direct/ordering_page.h"
 
 #include "direct/attribute_texts.h"
+#include "direct/weight_ratio_judgments.h"
+#include "model/model_check.h"
 
-namespace tnw {
+namespace tnw::direct {
 
 OrderingPage::OrderingPage(DirectAShared& shared, int numAtt) : m_shared(shared), m_order(numAtt) {}
+
+void OrderingPage::initializePage() {
+  m_shared.buttons.cmdNext.enabled = false;
+  m_shared.buttons.cmdFinish.enabled = false;
+  m_shared.usable = m_order.numAtt() > 0;
+  IniAttList();
+  IniOrderList();
+  if (!m_shared.usable) {
+    m_cmdAdd.enabled = false;
+    m_cmdInsert.enabled = false;
+    m_shared.warn(attributeCountProblem(m_shared.context.model).value_or(""));
+  } else if (PreviousJudgments::hasPreviousResult(m_shared.context.model)) {
+    resumeEarlierOrder();
+  }
+  clickGroup(1);
+}
+
+void OrderingPage::resumeEarlierOrder() {
+  WeightRatioJudgments judgments(m_shared.context);
+  PreviousJudgments::Order order;
+  const auto outcome = PreviousJudgments::GetPreviousOrder(m_shared.context, judgments, order);
+  m_shared.resume = outcome == PreviousJudgments::Outcome::Resumed;
+  if (m_shared.resume) {
+    DisplayPreviousOrder(order);
+    m_shared.buttons.cmdNext.enabled = true;
+  } else {
+    m_shared.warn(PreviousJudgments::message(outcome));
+  }
+}
+
+void OrderingPage::revisitPage() { m_shared.buttons.cmdNext.enabled = true; }
+
+void OrderingPage::showButtons(bool visible) {
+  m_cmdAdd.visible = visible;
+  m_cmdInsert.visible = visible;
+}
 
 void OrderingPage::IniAttList() {
   m_buttons.clear();
@@ -30,8 +68,8 @@ void OrderingPage::refreshButtons() {
   for (int j = 0; j < static_cast<int>(m_buttons.size()); ++j) {
     m_buttons[static_cast<std::size_t>(j)].visible = m_order.AttGroup(j) == 0;
   }
-  m_shared.controls.setEnabled("cmdAdd", m_order.canAddGroup());
-  m_shared.controls.setEnabled("cmdInsert", m_order.canAddGroup());
+  m_cmdAdd.enabled = m_order.canAddGroup();
+  m_cmdInsert.enabled = m_order.canAddGroup();
 }
 
 ImportanceOrder::DropResult OrderingPage::dropOnGroup(std::string_view tag, int group) {
@@ -40,7 +78,7 @@ ImportanceOrder::DropResult OrderingPage::dropOnGroup(std::string_view tag, int 
   const auto result = m_order.dropOnGroup(*payload, group);
   refreshButtons();
   if (result == ImportanceOrder::DropResult::Placed && m_order.allPlaced()) {
-    m_shared.controls.setEnabled("cmdNext", true);
+    m_shared.buttons.cmdNext.enabled = true;
   }
   return result;
 }
@@ -72,12 +110,11 @@ void OrderingPage::showAttributeInfo(int j) {
   if (j < 0 || j >= m_order.numAtt()) return;
   const AttributeModel& model = m_shared.context.model;
   m_info = j;
-  ControlRegistry& c = m_shared.controls;
-  c.setCaption("frameAttInfo", "Attribute " + std::to_string(j + 1) + "'s information");
-  c.setCaption("labAttName", AttributeTexts::name(model, j));
-  c.setCaption("labAttProperty",
-               AttributeTexts::isCost(model, j) ? "Cost-oriented" : "Benefit-oriented");
-  c.setCaption("txtAttDefinition", AttributeTexts::definition(model, j));
+  m_frameAttInfo.caption = "Attribute " + std::to_string(j + 1) + "'s information";
+  m_labAttName.caption = AttributeTexts::name(model, j);
+  m_labAttProperty.caption =
+      AttributeTexts::isCost(model, j) ? "Cost-oriented" : "Benefit-oriented";
+  m_txtAttDefinition.caption = AttributeTexts::definition(model, j);
 }
 
 void OrderingPage::dragOverAttributeList(std::string_view tag) {
@@ -91,4 +128,4 @@ OrderingPage::AttributeButton OrderingPage::referenceButton(int j) const {
   return b;
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -3,6 +3,8 @@
 #include "direct/direct_a_shared.h"
 #include "direct/importance_order.h"
 #include "direct/previous_judgments.h"
+#include "wizard/control_states.h"
+#include "wizard/wizard_page.h"
 
 // Std
 #include <cstdint>
@@ -10,13 +12,15 @@
 #include <string_view>
 #include <vector>
 
-namespace tnw {
+namespace tnw::direct {
 
 // Step 0 of the direct method: the attribute list on the left (cmdAttA, lblAttName,
 // optAttInfo), the order panel on the right (picOrder boxes with the placed buttons cmdAttB),
 // cmdAdd and cmdInsert, and the attribute information frame.
-class OrderingPage {
+class OrderingPage : public wizard::WizardPage {
  public:
+  // The step this page is on.
+  static constexpr int kStep = 0;
   // Button faces (0x00BBGGRR): light red for benefit-, light blue for cost-oriented attributes.
   static constexpr std::uint32_t kBenefitFace = 0xC0C0FF;  // RGB 255, 192, 192
   static constexpr std::uint32_t kCostFace = 0xFFC0C0;     // RGB 192, 192, 255
@@ -41,6 +45,17 @@ class OrderingPage {
 
   // The page over the shared data; numAtt attributes (0..31).
   OrderingPage(DirectAShared& shared, int numAtt);
+
+  // Loading: the attribute list and two empty groups, or the order of an earlier result when
+  // the model holds one; with no usable attributes, Add and Insert are disabled and a message
+  // says why. Next and Finish start disabled.
+  void initializePage() override;
+  // Back from the reference choice: Next is enabled again (the order is complete).
+  void revisitPage() override;
+  // The reference choice comes next.
+  int nextId() const override { return kStep + 1; }
+  // Complete once every attribute is placed (or an earlier order resumed), which enables Next.
+  bool isComplete() const override { return m_shared.usable && m_shared.buttons.cmdNext.enabled; }
 
   // Builds the attribute buttons and shows attribute 0's information (IniAttList).
   void IniAttList();
@@ -74,14 +89,34 @@ class OrderingPage {
   int selectedInfo() const { return m_info; }
   // The button of attribute j as the reference choice shows it (same caption and face).
   AttributeButton referenceButton(int j) const;
+  // Add and Insert, shown on this step only.
+  const wizard::ButtonState& cmdAdd() const { return m_cmdAdd; }
+  const wizard::ButtonState& cmdInsert() const { return m_cmdInsert; }
+  // The information frame's caption and its attribute's name, orientation and definition.
+  const wizard::LabelState& frameAttInfo() const { return m_frameAttInfo; }
+  const wizard::LabelState& labAttName() const { return m_labAttName; }
+  const wizard::LabelState& labAttProperty() const { return m_labAttProperty; }
+  const wizard::LabelState& txtAttDefinition() const { return m_txtAttDefinition; }
+  // The notice under the order panel.
+  const wizard::LabelState& lblNotice3() const { return m_lblNotice3; }
+  // Shows Add and Insert on this page's step, hides them on the others.
+  void showButtons(bool visible);
 
  private:
   void refreshButtons();
+  void resumeEarlierOrder();
 
   DirectAShared& m_shared;
   ImportanceOrder m_order;
   std::vector<AttributeButton> m_buttons;
   int m_info = 0;
+  wizard::ButtonState m_cmdAdd{"&Add"};
+  wizard::ButtonState m_cmdInsert{"&Insert"};
+  wizard::LabelState m_frameAttInfo{"Attribute 1's information"};
+  wizard::LabelState m_labAttName;
+  wizard::LabelState m_labAttProperty;
+  wizard::LabelState m_txtAttDefinition;
+  wizard::LabelState m_lblNotice3{kNotice};
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

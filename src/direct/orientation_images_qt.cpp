@@ -7,7 +7,7 @@
 // Std
 #include <cmath>
 
-namespace tnw {
+namespace tnw::direct {
 namespace {
 
 // How one face is drawn.
@@ -122,4 +122,4 @@ QIcon orientationIcon(const QString& name) {
   return icon;
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -5,7 +5,7 @@
 #include <QPixmap>
 #include <QString>
 
-namespace tnw {
+namespace tnw::direct {
 
 // The six orientation images of the judgment page, drawn by us: "Smiling" (benefit-oriented),
 // "Crying" (cost-oriented), each plain, selected ("Smiling1", "Crying1") and as the reference
@@ -15,4 +15,4 @@ QPixmap orientationPixmap(const QString& name, int size, qreal devicePixelRatio 
 // The same image as an icon, sharp at 100 % and 200 % scale.
 QIcon orientationIcon(const QString& name);
 
-}  // namespace tnw
+}  // namespace tnw::direct

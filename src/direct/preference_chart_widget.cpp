@@ -9,7 +9,7 @@
 // Std
 #include <algorithm>
 
-namespace tnw {
+namespace tnw::direct {
 
 PreferenceChartWidget::PreferenceChartWidget(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("picPCGraph"));
@@ -50,4 +50,4 @@ void PreferenceChartWidget::resizeEvent(QResizeEvent* event) {
   m_reference->setGeometry(margin, top + side, left + side - margin, line);
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

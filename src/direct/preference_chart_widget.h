@@ -6,9 +6,12 @@
 class QLabel;
 
 namespace tnw {
+class ElidedLabelWidget;
+}  // namespace tnw
+
+namespace tnw::direct {
 
 class ConeAreaWidget;
-class ElidedLabelWidget;
 
 // The judgment chart (picPCGraph): the square cone area with the target's name above it (the
 // vertical axis, lblChartTarAtt) and the reference's name below it (the horizontal axis,
@@ -39,4 +42,4 @@ class PreferenceChartWidget : public QWidget {
   ElidedLabelWidget* m_reference = nullptr;
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace tnw {
+namespace tnw::direct {
 
 PreferenceCone::PreferenceCone(float side, float handleSize)
     : m_side(std::isfinite(side) ? std::max(side, 1.0F) : 1.0F),
@@ -53,4 +53,4 @@ std::array<IntPoint, 3> PreferenceCone::triangle(HandlePoint first, HandlePoint 
           IntPoint{toPixel(second.x), toPixel(second.y)}};
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

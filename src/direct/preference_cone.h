@@ -5,7 +5,7 @@
 // Std
 #include <array>
 
-namespace tnw {
+namespace tnw::direct {
 
 // A point in whole pixels.
 struct IntPoint {
@@ -57,4 +57,4 @@ class PreferenceCone {
   float m_handleSize;
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace tnw {
+namespace tnw::direct {
 
 namespace {
 
@@ -127,4 +127,4 @@ std::string PreviousJudgments::message(Outcome outcome) {
   return {};
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

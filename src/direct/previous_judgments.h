@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace tnw {
+namespace tnw::direct {
 
 // Resuming the direct method from the earlier result stored in the model: the earlier weights
 // turned back into ratio intervals against a reference attribute (GetPreviousWeightRatios),
@@ -49,4 +49,4 @@ class PreviousJudgments {
   static std::string message(Outcome outcome);
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

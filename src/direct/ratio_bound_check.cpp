@@ -6,7 +6,7 @@
 // Std
 #include <cmath>
 
-namespace tnw {
+namespace tnw::direct {
 
 double RatioBoundCheck::boxValue(std::string_view text) {
   const double value = leadingNumber(AttributeTexts::trim(text));
@@ -58,4 +58,4 @@ RatioBoundCheck::Result RatioBoundCheck::CheckUpperWeightRatio(std::string_view 
   return {};
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

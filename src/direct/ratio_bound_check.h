@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace tnw {
+namespace tnw::direct {
 
 // The checks of the two ratio boxes when the focus leaves them (CheckLowerWeightRatio,
 // CheckUpperWeightRatio). Each reads both boxes with the leading-number conversion.
@@ -30,4 +30,4 @@ class RatioBoundCheck {
       "The weight ratio you entered is too large to be a number the wizard can use!";
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -11,7 +11,7 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 
-namespace tnw {
+namespace tnw::direct {
 namespace {
 
 constexpr int kEnter = 13;
@@ -19,8 +19,8 @@ constexpr int kBackspace = 8;
 constexpr int kCtrlV = 22;
 constexpr int kInsert = 45;
 
-TextBoxState stateOf(const QLineEdit* edit) {
-  TextBoxState state;
+wizard::TextBoxState stateOf(const QLineEdit* edit) {
+  wizard::TextBoxState state;
   state.text = edit->text().toStdString();
   if (edit->hasSelectedText()) {
     state.selStart = edit->selectionStart();
@@ -68,7 +68,7 @@ int RatioBoxFilter::keyAsciiOf(const QKeyEvent* event) {
   return c < 256 ? static_cast<int>(c) : static_cast<int>('?');
 }
 
-void RatioBoxFilter::showBoxState(QLineEdit* edit, const TextBoxState& state) {
+void RatioBoxFilter::showBoxState(QLineEdit* edit, const wizard::TextBoxState& state) {
   const QString text = QString::fromStdString(state.text);
   if (edit->text() != text) edit->setText(text);
   if (state.selLength > 0) {
@@ -91,7 +91,7 @@ bool RatioBoxFilter::handleKey(JudgmentPage::Box box, QLineEdit* edit, QKeyEvent
   }
   // The box shows the presenter's text (every edit goes through it), so only the caret and the
   // selection go over; a box whose length differs hands its whole text over.
-  const TextBoxState& shown = m_presenter.judgment().box(box);
+  const wizard::TextBoxState& shown = m_presenter.judgment().box(box);
   if (static_cast<qsizetype>(shown.text.size()) == edit->text().size()) {
     const int start = edit->hasSelectedText() ? edit->selectionStart() : edit->cursorPosition();
     m_presenter.txtWR_KeyPress(box, start, edit->selectionLength(), keyAscii);
@@ -150,4 +150,4 @@ bool RatioBoxFilter::filterBoxEvent(QObject* watched, QEvent* event) {
   }
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

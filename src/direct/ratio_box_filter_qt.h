@@ -11,7 +11,7 @@
 class QKeyEvent;
 class QLineEdit;
 
-namespace tnw {
+namespace tnw::direct {
 
 class DirectAPresenter;
 
@@ -36,7 +36,7 @@ class RatioBoxFilter : public QObject {
   // KeyPress (arrows, Delete, function keys) and the box handles it alone.
   static int keyAsciiOf(const QKeyEvent* event);
   // Shows the presenter's text, caret and selection of a box in the widget.
-  static void showBoxState(QLineEdit* edit, const TextBoxState& state);
+  static void showBoxState(QLineEdit* edit, const wizard::TextBoxState& state);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -53,4 +53,4 @@ class RatioBoxFilter : public QObject {
   bool m_restoringFocus = false;
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -2,9 +2,9 @@
 
 #include "direct/attribute_texts.h"
 
-namespace tnw {
+namespace tnw::direct {
 
-RatioKeyFilter::KeyAction RatioKeyFilter::DoKeyPress(TextBoxState& box, int& keyAscii) {
+RatioKeyFilter::KeyAction RatioKeyFilter::DoKeyPress(wizard::TextBoxState& box, int& keyAscii) {
   if (keyAscii == kCtrlV) {
     keyAscii = 0;
     return KeyAction::Discard;
@@ -27,7 +27,7 @@ RatioKeyFilter::KeyAction RatioKeyFilter::DoKeyPress(TextBoxState& box, int& key
   return KeyAction::Pass;
 }
 
-void RatioKeyFilter::CheckPeriod(TextBoxState& box) {
+void RatioKeyFilter::CheckPeriod(wizard::TextBoxState& box) {
   // The count is kept by the box's editing, so a key stroke does not look through the text.
   if (box.periods() < 2) return;
   box.clampSelection();
@@ -41,7 +41,7 @@ bool RatioKeyFilter::discardKeyDown(int keyCode, bool shift) {
   return keyCode == kInsertKeyCode && shift;
 }
 
-RatioKeyFilter::KeyAction RatioKeyFilter::typeKey(TextBoxState& box, int keyAscii) {
+RatioKeyFilter::KeyAction RatioKeyFilter::typeKey(wizard::TextBoxState& box, int keyAscii) {
   int key = keyAscii;
   const KeyAction action = DoKeyPress(box, key);
   if (action == KeyAction::Pass) {
@@ -55,4 +55,4 @@ RatioKeyFilter::KeyAction RatioKeyFilter::typeKey(TextBoxState& box, int keyAsci
   return action;
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "direct/text_box_state.h"
+#include "wizard/control_states.h"
 
-namespace tnw {
+namespace tnw::direct {
 
 // The key filter of the two ratio boxes txtWRLower and txtWRUpper: digits, one period and
 // control keys only; pasting is blocked.
@@ -24,13 +24,13 @@ class RatioKeyFilter {
   // The KeyPress filter of a box: Ctrl+V is dropped; Enter resets the box to its trimmed text
   // with the caret at the start (keyAscii becomes Backspace, which then deletes nothing);
   // printable keys run CheckPeriod first and pass only as digits or ".".
-  static KeyAction DoKeyPress(TextBoxState& box, int& keyAscii);
+  static KeyAction DoKeyPress(wizard::TextBoxState& box, int& keyAscii);
   // At key-up: a second "." is removed (the character before the caret).
-  static void CheckPeriod(TextBoxState& box);
+  static void CheckPeriod(wizard::TextBoxState& box);
   // KeyDown: whether the key is dropped (Shift+Insert).
   static bool discardKeyDown(int keyCode, bool shift);
   // One whole key stroke as a box sees it: key-down, key-press, the box's own editing, key-up.
-  static KeyAction typeKey(TextBoxState& box, int keyAscii);
+  static KeyAction typeKey(wizard::TextBoxState& box, int keyAscii);
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -1,6 +1,6 @@
 #pragma once
 
-namespace tnw {
+namespace tnw::direct {
 
 // A point on the judgment drawing area, from its left and top edges, in the area's units.
 struct HandlePoint {
@@ -18,4 +18,4 @@ struct RegionHandles {
   friend bool operator==(const RegionHandles&, const RegionHandles&) = default;
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

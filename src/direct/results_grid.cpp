@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace tnw {
+namespace tnw::direct {
 
 namespace {
 
@@ -72,4 +72,4 @@ const std::string& ResultsGrid::cell(int row, int column) const {
   return m_cells[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -6,8 +6,10 @@
 #include <vector>
 
 namespace tnw {
-
 struct AttributeModel;
+}  // namespace tnw
+
+namespace tnw::direct {
 
 // The results grid gridTN of the last page: one row per attribute with its low, middle and high
 // weight. The low and high weights are each normalised over their own column (unlike the
@@ -49,4 +51,4 @@ class ResultsGrid {
   std::vector<double> m_high;
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

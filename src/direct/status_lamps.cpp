@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace tnw {
+namespace tnw::direct {
 namespace {
 
 // The relative luminance of an sRGB channel value 0-255, linearised.
@@ -98,4 +98,4 @@ std::uint32_t StatusLamps::readableOn(std::uint32_t background) {
   return contrastRatio(background, kBlack) >= contrastRatio(background, kWhite) ? kBlack : kWhite;
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -6,7 +6,7 @@
 #include <array>
 #include <cstdint>
 
-namespace tnw {
+namespace tnw::direct {
 
 // The three status lamps of the judgment page ("Consistent", "Invalid", "Inconsistent") with
 // their labels lblAlarm, the blinking indicator of the reference choice, and Timer1 that
@@ -76,4 +76,4 @@ class StatusLamps {
   std::uint32_t m_indicator = kRed;
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -4,7 +4,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
-namespace tnw {
+namespace tnw::direct {
 
 StatusLightsWidget::StatusLightsWidget(QWidget* parent) : QFrame(parent) {
   setObjectName(QStringLiteral("picJudgmentState"));
@@ -16,8 +16,7 @@ StatusLightsWidget::StatusLightsWidget(QWidget* parent) : QFrame(parent) {
                          QT_TR_NOOP("Inconsistent")};
   for (int i = 0; i < 3; ++i) {
     auto* lamp = new QLabel(tr(texts[i]), this);
-    lamp->setObjectName(QStringLiteral("lblAlarm"));
-    lamp->setProperty("index", i);
+    lamp->setObjectName(QStringLiteral("lblAlarm_%1").arg(i));
     lamp->setAlignment(Qt::AlignCenter);
     lamp->setMinimumHeight(lamp->fontMetrics().height() + 10);
     // Room for the bold text of a lit lamp, so lighting it never clips its label.
@@ -68,4 +67,4 @@ void StatusLightsWidget::applyStyle(int index) {
                m_lit[i] ? QStringLiteral("bold") : QStringLiteral("normal")));
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

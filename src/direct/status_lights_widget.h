@@ -9,7 +9,7 @@
 
 class QLabel;
 
-namespace tnw {
+namespace tnw::direct {
 
 // The judgment-status frame (picJudgmentState): three lamps labelled "Consistent", "Invalid" and
 // "Inconsistent" (lblAlarm, indices 0 to 2). It only shows the colours it is given.
@@ -40,4 +40,4 @@ class StatusLightsWidget : public QFrame {
   std::array<QColor, 3> m_texts{};
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -2,7 +2,7 @@
 
 #include "direct/attribute_texts.h"
 
-namespace tnw {
+namespace tnw::direct {
 
 void TargetList::clear() {
   m_items.clear();
@@ -65,4 +65,4 @@ void TargetList::markJudged(int i) {
   m_items[static_cast<std::size_t>(i)].text = kJudgedPrefix + m_names[static_cast<std::size_t>(i)];
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace tnw {
+namespace tnw::direct {
 
 // The target list imgcmbTargetAtt of the judgment page (ListAtt) and the choice of a target.
 class TargetList {
@@ -60,4 +60,4 @@ class TargetList {
   int m_costCount = 0;
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -3,7 +3,7 @@
 // Std
 #include <algorithm>
 
-namespace tnw {
+namespace tnw::direct {
 
 namespace {
 constexpr double kLessImportant = 0.8;
@@ -163,4 +163,4 @@ void WeightRatioJudgments::propagateDown(int t) {
   }
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct

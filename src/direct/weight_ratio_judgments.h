@@ -6,7 +6,7 @@
 // Std
 #include <vector>
 
-namespace tnw {
+namespace tnw::direct {
 
 // The judgment tables of the direct method: for every attribute the interval of the ratio of
 // its weight to the reference attribute's (LowerWeights, CloseWeights, UpperWeights of the
@@ -70,4 +70,4 @@ class WeightRatioJudgments {
   std::vector<RegionHandles> m_handles;
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

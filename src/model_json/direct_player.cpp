@@ -12,7 +12,8 @@ namespace {
 
 using nlohmann::json;
 using nlohmann::ordered_json;
-using Box = JudgmentPage::Box;
+using namespace tnw::direct;
+using Box = direct::JudgmentPage::Box;
 
 // A scenario that cannot be run as written; what() says why.
 struct ScenarioError : std::runtime_error {
@@ -20,7 +21,7 @@ struct ScenarioError : std::runtime_error {
 };
 
 // The host side of the run: keeps the export and ignores the rest.
-struct ExportCatcher : DirectAEvents {
+struct ExportCatcher : direct::DirectAEvents {
   void ExportDirectAW(const std::string&, std::int16_t, std::vector<double>& weights,
                       std::vector<double>& weightsH, std::vector<double>& weightsL) override {
     exported = ordered_json{{"weights", weights}, {"weightsH", weightsH}, {"weightsL", weightsL}};
@@ -45,7 +46,7 @@ void noteMessagesSince(const RecordingUiServices& ui, std::size_t from,
   for (std::size_t i = from; i < ui.messages().size(); ++i) notes.push_back(ui.messages()[i].text);
 }
 
-void applyOrder(DirectAPresenter& p, const std::vector<int>& order, int n) {
+void applyOrder(direct::DirectAPresenter& p, const std::vector<int>& order, int n) {
   if (static_cast<int>(order.size()) != n) {
     throw ScenarioError("\"order\" needs one group number per attribute");
   }
@@ -58,7 +59,7 @@ void applyOrder(DirectAPresenter& p, const std::vector<int>& order, int n) {
   }
 }
 
-void chooseOrderAndReference(DirectAPresenter& p, const DirectScenario& scenario, int n) {
+void chooseOrderAndReference(direct::DirectAPresenter& p, const DirectScenario& scenario, int n) {
   if (scenario.order) {
     applyOrder(p, *scenario.order, n);
   } else if (!p.resuming()) {
@@ -78,16 +79,16 @@ void chooseOrderAndReference(DirectAPresenter& p, const DirectScenario& scenario
 
 // Types `text` into a ratio box as a user does: the old text selected and deleted, then every
 // character through the box's key filter.
-void typeText(DirectAPresenter& p, Box box, const std::string& text) {
+void typeText(direct::DirectAPresenter& p, Box box, const std::string& text) {
   p.txtWR_SetText(box, "");
   for (const unsigned char c : text) {
-    const TextBoxState& shown = p.judgment().box(box);
+    const wizard::TextBoxState& shown = p.judgment().box(box);
     p.txtWR_KeyPress(box, shown.selStart, shown.selLength, c);
   }
 }
 
 // One judgment step as DESIGN.md describes it; returns whether Enter recorded it.
-bool judge(DirectAPresenter& p, const RecordingUiServices& ui, const ScenarioStep& step) {
+bool judge(direct::DirectAPresenter& p, const RecordingUiServices& ui, const ScenarioStep& step) {
   const std::size_t before = ui.messages().size();
   const int target = step.target;
   p.imgcmbTargetAtt_Click(target);
@@ -100,7 +101,7 @@ bool judge(DirectAPresenter& p, const RecordingUiServices& ui, const ScenarioSte
   if (ui.messages().size() != before) return false;
   p.txtWR_LostFocus(Box::Upper);
   if (ui.messages().size() != before) return false;
-  if (!p.control("cmdEnter").enabled) return false;
+  if (!p.cmdEnter().enabled) return false;
   return p.cmdEnter_Click();
 }
 
@@ -134,7 +135,8 @@ ordered_json diagnosisJson(const JudgmentDiagnosis::Result& d) {
                       {"text", d.text}};
 }
 
-ordered_json runStep(DirectAPresenter& p, const RecordingUiServices& ui, const ScenarioStep& step) {
+ordered_json runStep(direct::DirectAPresenter& p, const RecordingUiServices& ui,
+                     const ScenarioStep& step) {
   const std::size_t before = ui.messages().size();
   bool recorded = false;
   if (step.restart) {
@@ -163,23 +165,23 @@ ordered_json gridRows(const ResultsGrid& grid) {
 }
 
 // The exact weight ranges of the results step: [] before it, null when they cannot be computed.
-ordered_json exactBounds(const DirectAPresenter& p) {
+ordered_json exactBounds(const direct::DirectAPresenter& p) {
   if (p.WizardStep() != 3) return ordered_json::array();
   const auto& r = p.exactBounds();
-  if (r.outcome != ExactWeightBounds::Outcome::Computed) return nullptr;
+  if (r.outcome != direct::ExactWeightBounds::Outcome::Computed) return nullptr;
   ordered_json bounds = ordered_json::array();
   for (const auto& b : r.bounds) bounds.push_back(ordered_json{{"low", b.low}, {"high", b.high}});
   return bounds;
 }
 
 // Why the results step shows no exact weight ranges; null when it shows them (or is not reached).
-ordered_json exactBoundsError(const WizardContext& c, const DirectAPresenter& p) {
+ordered_json exactBoundsError(const WizardContext& c, const direct::DirectAPresenter& p) {
   if (p.WizardStep() != 3) return nullptr;
-  const std::string text = ExactWeightBounds::message(c.model, p.exactBounds());
+  const std::string text = direct::ExactWeightBounds::message(c.model, p.exactBounds());
   return text.empty() ? ordered_json(nullptr) : ordered_json(text);
 }
 
-ordered_json result(const WizardContext& c, const DirectAPresenter& p, ordered_json steps,
+ordered_json result(const WizardContext& c, const direct::DirectAPresenter& p, ordered_json steps,
                     const ordered_json& exported) {
   const auto& judged = p.judgment().judgments().judgedFlags();
   return ordered_json{{"finalGroupCount", c.FinalGroupCount},
@@ -200,7 +202,7 @@ ordered_json result(const WizardContext& c, const DirectAPresenter& p, ordered_j
 ordered_json runScenario(WizardContext& context, RecordingUiServices& ui,
                          const DirectScenario& scenario, std::vector<std::string>& notes) {
   ExportCatcher events;
-  DirectAPresenter p(context, ui, events);
+  direct::DirectAPresenter p(context, ui, events);
   p.Form_Load();
   if (!p.usable()) throw ScenarioError(ui.messages().back().text);
   const int n = p.ordering().order().numAtt();

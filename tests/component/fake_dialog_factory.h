@@ -116,7 +116,8 @@ class FakeSelMethod : public FakeDialog {
 // A direct-method dialog with its export arrays.
 class FakeDirectA : public FakeDialog {
  public:
-  FakeDirectA(DialogLog& log, std::string name, WizardContext& context, DirectAEvents& events)
+  FakeDirectA(DialogLog& log, std::string name, WizardContext& context,
+              direct::DirectAEvents& events)
       : FakeDialog(log, std::move(name), {640, 480}), m_context(context), m_events(events) {
     m_events.SendMasseges("Order the attributes according to their relative importance.");
   }
@@ -150,7 +151,7 @@ class FakeDirectA : public FakeDialog {
 
  private:
   WizardContext& m_context;
-  DirectAEvents& m_events;
+  direct::DirectAEvents& m_events;
 };
 
 // A trade-off dialog with its export arrays.
@@ -192,7 +193,7 @@ class FakeDialogFactory : public WizardDialogFactory {
                                            context, m_ui, events);
   }
   std::unique_ptr<WizardDialog> createDirectA(WizardContext& context,
-                                              DirectAEvents& events) override {
+                                              direct::DirectAEvents& events) override {
     if (!directAvailable) return nullptr;
     return std::make_unique<FakeDirectA>(log, "DirectA#" + std::to_string(++m_directCount), context,
                                          events);

@@ -134,7 +134,7 @@ void MnemonicWalkTest::theSelectionDialogHasNoSharedMnemonic() {
 void MnemonicWalkTest::noStepOfTheDirectDialogHasASharedMnemonic() {
   WizardContext context = test::makeContext(3);
   test::RecordingDirectAEvents events;
-  auto d = std::make_unique<DirectADialog>(context, m_ui, events);
+  auto d = std::make_unique<direct::DirectADialog>(context, m_ui, events);
   d->show();
   waitForWindow(d.get());
   const auto click = [&d](const char* name, int index = -1) {
@@ -164,7 +164,7 @@ void MnemonicWalkTest::noStepOfTheDirectDialogHasASharedMnemonic() {
   targets->setCurrentIndex(2);
   emit targets->activated(2);
   click("cmdEnter");
-  QVERIFY(d->presenter().control("cmdFinish").enabled);
+  QVERIFY(d->presenter().cmdFinish().enabled);
   verifyUnique(d.get(), "step 2, complete, Next and Finish enabled");
   tabs->setCurrentIndex(1);
   verifyUnique(d.get(), "step 2, complete, order tab");

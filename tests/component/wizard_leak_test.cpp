@@ -17,6 +17,7 @@
 #include <QListWidget>
 #include <QMimeData>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTest>
 
 // Std
@@ -78,10 +79,9 @@ QWidget* currentDialog() {
 template <typename T>
 T* control(const QWidget* d, const char* name, int index = -1) {
   if (d == nullptr) return nullptr;
-  for (T* w : d->findChildren<T*>(QString::fromLatin1(name))) {
-    if (index < 0 || w->property("index").toInt() == index) return w;
-  }
-  return nullptr;
+  const QString n = QString::fromLatin1(name);
+  if (index >= 0) return d->findChild<T*>(n + QLatin1Char('_') + QString::number(index));
+  return d->findChild<T*>(n);
 }
 
 // What the run tried last, for the report of a failed run.
@@ -99,7 +99,8 @@ bool press(const QWidget* d, const char* name, int index = -1) {
 // Drops the attribute with `tag` on the order page's group box of `group`, as a drag ends.
 bool drop(const QWidget* d, int group, const QString& tag) {
   g_step = "drop " + tag.toStdString() + " on group " + std::to_string(group);
-  for (QWidget* box : d->findChildren<QWidget*>(QStringLiteral("picOrder"))) {
+  for (QWidget* box :
+       d->findChildren<QWidget*>(QRegularExpression(QStringLiteral("^picOrder_\\d+$")))) {
     if (box->property("tag").toInt() != group || !box->isVisible()) continue;
     QMimeData mime;
     mime.setData(QStringLiteral("application/x-tnwizard-attribute"), tag.toUtf8());

@@ -20,7 +20,7 @@
 // Std
 #include <memory>
 
-namespace tnw {
+namespace tnw::direct {
 
 using test::control;
 
@@ -136,7 +136,7 @@ void DirectAAnalysisDialogTest::theResultsStepShowsTheExactWeightRangesBesideThe
   QCOMPARE(next, static_cast<QWidget*>(exact));
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct
 
-QTEST_MAIN(tnw::DirectAAnalysisDialogTest)
+QTEST_MAIN(tnw::direct::DirectAAnalysisDialogTest)
 #include "direct_a_analysis_dialog_test.moc"

@@ -21,7 +21,7 @@
 // Std
 #include <memory>
 
-namespace tnw {
+namespace tnw::direct {
 
 using test::control;
 
@@ -234,7 +234,7 @@ void DirectADialogEntryTest::theListAndTheCaptionFollowAtOnce() {
   QCOMPARE(m_dialog->windowTitle(), QString::fromUtf8(DirectAPresenter::kCaptions[1]));
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct
 
-QTEST_MAIN(tnw::DirectADialogEntryTest)
+QTEST_MAIN(tnw::direct::DirectADialogEntryTest)
 #include "direct_a_dialog_entry_test.moc"

@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QRegularExpression>
 #include <QStringList>
 #include <QStyle>
 #include <QStyleOptionComboBox>
@@ -27,19 +28,28 @@
 
 namespace tnw::test {
 
-// The control named `name` with control-array index `index` (any index when -1), or null.
+// The elements of the control array `name` (each named name_index), in child order.
+template <typename T>
+QList<T*> elements(const QWidget* root, const char* name) {
+  const QString pattern = QStringLiteral("^%1_\\d+$").arg(QString::fromUtf8(name));
+  return root->findChildren<T*>(QRegularExpression(pattern));
+}
+
+// The control named `name`, or the element `index` of the control array `name` (named
+// name_index; any element when -1), or null.
 template <typename T>
 T* control(const QWidget* root, const char* name, int index = -1) {
-  for (T* w : root->findChildren<T*>(QString::fromUtf8(name))) {
-    if (index < 0 || w->property("index").toInt() == index) return w;
-  }
-  return nullptr;
+  const QString n = QString::fromUtf8(name);
+  if (index >= 0) return root->findChild<T*>(n + QLatin1Char('_') + QString::number(index));
+  if (T* w = root->findChild<T*>(n)) return w;
+  const QList<T*> all = elements<T>(root, name);
+  return all.isEmpty() ? nullptr : all.front();
 }
 
 // The shown group box of the ordering page whose tag is `group`. Found by name and tag only,
 // so that it also finds the boxes of a dialog made inside the component's shared library.
 inline QWidget* orderBox(const QWidget* root, int group) {
-  for (QWidget* box : root->findChildren<QWidget*>(QStringLiteral("picOrder"))) {
+  for (QWidget* box : elements<QWidget>(root, "picOrder")) {
     if (box->property("tag").toInt() == group && box->isVisibleTo(root)) return box;
   }
   return nullptr;
@@ -47,7 +57,7 @@ inline QWidget* orderBox(const QWidget* root, int group) {
 
 // Whether the group box of `group` carries the selection frame (dialogs of this binary only).
 inline bool orderBoxSelected(const QWidget* root, int group) {
-  const auto* box = qobject_cast<const GroupBoxWidget*>(orderBox(root, group));
+  const auto* box = qobject_cast<const direct::GroupBoxWidget*>(orderBox(root, group));
   return box != nullptr && box->isSelected();
 }
 
@@ -56,7 +66,7 @@ inline bool orderBoxSelected(const QWidget* root, int group) {
 inline bool dragAndDrop(QWidget* target, const QString& tag) {
   if (target == nullptr) return false;
   QMimeData mime;
-  mime.setData(AttributeDropFilter::mimeType(), tag.toUtf8());
+  mime.setData(direct::AttributeDropFilter::mimeType(), tag.toUtf8());
   const QPoint pos = target->rect().center();
   QDragEnterEvent enter(pos, Qt::MoveAction, &mime, Qt::LeftButton, Qt::NoModifier);
   QApplication::sendEvent(target, &enter);

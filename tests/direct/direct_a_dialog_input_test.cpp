@@ -21,7 +21,7 @@
 // Std
 #include <memory>
 
-namespace tnw {
+namespace tnw::direct {
 
 using test::control;
 
@@ -323,7 +323,7 @@ void DirectADialogInputTest::aModelWithoutUsableAttributesStillCancels() {
              "The current model has " + std::to_string(numAtt) +
                  " attributes. The wizard can only weigh from 1 to 31 attributes.");
     QVERIFY(!button("cmdNext")->isEnabled());
-    QVERIFY(m_dialog->findChildren<AttributeButtonWidget*>(QStringLiteral("cmdAttA")).isEmpty());
+    QVERIFY(test::elements<AttributeButtonWidget>(m_dialog.get(), "cmdAttA").isEmpty());
     QTest::mouseClick(button("cmdCancel"), Qt::LeftButton);
     QCOMPARE(m_events.log.back(), std::string("UnloadTNWizard"));
     QVERIFY(m_events.exports.empty());
@@ -374,7 +374,7 @@ void DirectADialogInputTest::resumesFromTheSampleWithAnEarlierResult() {
   for (int j = 0; j < 6; ++j) {
     QVERIFY(!control<AttributeButtonWidget>(m_dialog.get(), "cmdAttA", j)->isVisible());
   }
-  QCOMPARE(m_dialog->findChildren<AttributeButtonWidget*>(QStringLiteral("cmdAttB")).size(), 6);
+  QCOMPARE(test::elements<AttributeButtonWidget>(m_dialog.get(), "cmdAttB").size(), 6);
   // The earlier reference is chosen again.
   QTest::mouseClick(button("cmdNext"), Qt::LeftButton);
   QCOMPARE(control<QLabel>(m_dialog.get(), "lblRefAtt")->text(), QStringLiteral("Safety rating"));
@@ -420,7 +420,7 @@ void DirectADialogInputTest::aZeroEarlierReferenceWeightIsToldAndNothingIsResume
   QVERIFY(m_events.exports.empty());
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct
 
-QTEST_MAIN(tnw::DirectADialogInputTest)
+QTEST_MAIN(tnw::direct::DirectADialogInputTest)
 #include "direct_a_dialog_input_test.moc"

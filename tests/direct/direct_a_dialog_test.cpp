@@ -25,7 +25,7 @@
 #include <cmath>
 #include <memory>
 
-namespace tnw {
+namespace tnw::direct {
 
 using test::control;
 
@@ -153,9 +153,8 @@ void DirectADialogTest::fullDirectMethodThroughTheWidgets() {
   QTest::mouseClick(button("cmdInsert"), Qt::LeftButton);
   QCOMPARE(m_dialog->presenter().ordering().order().GroupCount(), 4);
   QWidget* moved = test::orderBox(m_dialog.get(), 3);
-  QCOMPARE(moved->findChildren<AttributeButtonWidget*>(QStringLiteral("cmdAttB")).size(), 1);
-  QCOMPARE(moved->findChildren<AttributeButtonWidget*>(QStringLiteral("cmdAttB"))[0]->tag(),
-           QStringLiteral("B2"));
+  QCOMPARE(test::elements<AttributeButtonWidget>(moved, "cmdAttB").size(), 1);
+  QCOMPARE(test::elements<AttributeButtonWidget>(moved, "cmdAttB")[0]->tag(), QStringLiteral("B2"));
   QVERIFY(test::orderBox(m_dialog.get(), 2)->findChildren<AttributeButtonWidget*>().isEmpty());
 
   // Step 1: the empty group is gone; choose attribute 2 as the reference.
@@ -364,7 +363,7 @@ void DirectADialogTest::backFromTheReferenceKeepsTheOrderAndNextReordersAgain() 
   QVERIFY(!button("cmdNext")->isEnabled());
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct
 
-QTEST_MAIN(tnw::DirectADialogTest)
+QTEST_MAIN(tnw::direct::DirectADialogTest)
 #include "direct_a_dialog_test.moc"

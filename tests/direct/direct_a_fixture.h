@@ -12,7 +12,7 @@
 #include <memory>
 #include <string>
 
-namespace tnw {
+namespace tnw::direct {
 
 using Box = JudgmentPage::Box;
 
@@ -48,4 +48,4 @@ class DirectAPresenterTest : public ::testing::Test {
   int changes = 0;
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -19,7 +19,7 @@
 #include <string>
 #include <vector>
 
-namespace tnw {
+namespace tnw::direct {
 namespace {
 
 // A host that logs every event with its values, and may change the exported arrays.
@@ -169,7 +169,7 @@ void DirectAHostDialogTest::backToSelectionAndDirectAgainGivesAFreshDialog() {
   QCOMPARE(m_host.log.back(), std::string("UnloadTNWizard 4 false"));
 }
 
-}  // namespace tnw
+}  // namespace tnw::direct
 
-QTEST_MAIN(tnw::DirectAHostDialogTest)
+QTEST_MAIN(tnw::direct::DirectAHostDialogTest)
 #include "direct_a_host_dialog_test.moc"

@@ -3,7 +3,7 @@
 // Std
 #include <cmath>
 
-namespace tnw {
+namespace tnw::direct {
 namespace {
 
 // Four attributes ordered {1, 2, 2, 3}, reference attribute 1, on the judgment step.
@@ -35,15 +35,15 @@ TEST_F(JudgmentFlowTest, EnteringTheJudgmentsListsTargetsAndStartsTheFirst) {
   EXPECT_FALSE(ui.busy());
   EXPECT_GE(ui.busyCount(), 1);
   EXPECT_EQ(p.judgment().targets().currentTarget(), 0);
-  EXPECT_EQ(p.control("lblRefAtt").caption, "Att2");
-  EXPECT_EQ(p.control("lblTargetAtt").caption, "Att1");
-  EXPECT_EQ(p.control("lblTarRangeHigh").caption, "10.0");
+  EXPECT_EQ(p.lblRefAtt().caption, "Att2");
+  EXPECT_EQ(p.judgment().lblTargetAtt().caption, "Att1");
+  EXPECT_EQ(p.judgment().lblTarRangeHigh().caption, "10.0");
   EXPECT_EQ(lowerText(), "1.20");
   EXPECT_EQ(upperText(), "1.20");
-  EXPECT_TRUE(p.control("cmdEnter").visible);
-  EXPECT_TRUE(p.control("cmdEnter").enabled);
-  EXPECT_FALSE(p.control("cmdReStart").enabled);
-  EXPECT_FALSE(p.control("cmdNext").enabled);
+  EXPECT_TRUE(p.cmdEnter().visible);
+  EXPECT_TRUE(p.cmdEnter().enabled);
+  EXPECT_FALSE(p.cmdReStart().enabled);
+  EXPECT_FALSE(p.cmdNext().enabled);
   EXPECT_TRUE(p.judgment().orderTabVisible());
   EXPECT_EQ(p.judgment().orderGroup(2), (std::vector<int>{1, 2}));
 }
@@ -74,7 +74,7 @@ TEST_F(JudgmentFlowTest, EnterInTheUpperBoxValidatesTheLowerBound) {
   DirectAPresenter& p = toJudgments();
   p.imgcmbTargetAtt_Click(3);
   p.txtWR_SetText(Box::Lower, "2");
-  p.txtWR_KeyPress(Box::Upper, TextBoxState{"", 0, 0}, '1');
+  p.txtWR_KeyPress(Box::Upper, wizard::TextBoxState{"", 0, 0}, '1');
   EXPECT_EQ(upperText(), "1");
   p.txtWR_KeyPress(Box::Upper, p.judgment().box(Box::Upper), 13);
   ASSERT_EQ(ui.messages().size(), 1u);
@@ -112,7 +112,7 @@ TEST_F(JudgmentFlowTest, TypingPointThreeThreeThreeShowsPointThreeThree) {
 
 TEST_F(JudgmentFlowTest, CtrlVAndShiftInsertLeaveTheBoxUnchanged) {
   DirectAPresenter& p = toJudgments();
-  const TextBoxState before = p.judgment().box(Box::Lower);
+  const wizard::TextBoxState before = p.judgment().box(Box::Lower);
   p.txtWR_KeyPress(Box::Lower, before, 22);
   EXPECT_EQ(lowerText(), before.text);
   EXPECT_TRUE(p.txtWR_KeyDown(Box::Lower, 45, true));
@@ -125,7 +125,7 @@ TEST_F(JudgmentFlowTest, AnInconsistentJudgmentDisablesEnterAndBlinksFast) {
   p.txtWR_SetText(Box::Upper, "1.5");
   p.txtWR_LostFocus(Box::Upper);
   EXPECT_EQ(p.lamps().state(), JudgmentState::Inconsistent);
-  EXPECT_FALSE(p.control("cmdEnter").enabled);
+  EXPECT_FALSE(p.cmdEnter().enabled);
   EXPECT_EQ(p.timerInterval(), 100);
   p.Timer1_Timer();
   EXPECT_EQ(p.lamps().lampColor(2), StatusLamps::kOrange);
@@ -140,7 +140,7 @@ TEST_F(JudgmentFlowTest, DraggingAHandleToTheCornerIsInvalidAndKeepsTheBoxes) {
   EXPECT_EQ(p.lamps().state(), JudgmentState::Invalid);
   EXPECT_EQ(lowerText(), "1.20");
   EXPECT_EQ(p.timerInterval(), 300);
-  EXPECT_FALSE(p.control("cmdEnter").enabled);
+  EXPECT_FALSE(p.cmdEnter().enabled);
   p.picHandle_Drag(0, 700, 300);
   EXPECT_EQ(p.lamps().state(), JudgmentState::Consistent);
   EXPECT_EQ(lowerText(), "1.00");
@@ -153,12 +153,12 @@ TEST_F(JudgmentFlowTest, RecordingTiesAndCompletionEnableNextAndFinish) {
   DirectAPresenter& p = toJudgments();
   judge(0, "1.5", "2");
   EXPECT_TRUE(p.judgment().judgments().judged(0));
-  EXPECT_FALSE(p.control("cmdEnter").enabled);
-  EXPECT_TRUE(p.control("cmdReStart").enabled);
-  EXPECT_FALSE(p.control("cmdNext").enabled);
+  EXPECT_FALSE(p.cmdEnter().enabled);
+  EXPECT_TRUE(p.cmdReStart().enabled);
+  EXPECT_FALSE(p.cmdNext().enabled);
   judge(3, "0.5", "0.5");
-  EXPECT_TRUE(p.control("cmdNext").enabled);
-  EXPECT_TRUE(p.control("cmdFinish").enabled);
+  EXPECT_TRUE(p.cmdNext().enabled);
+  EXPECT_TRUE(p.cmdFinish().enabled);
   EXPECT_EQ(context.LowerWeights, (std::vector<double>{1.5, 1, 1, 0.5}));
   EXPECT_EQ(context.CloseWeights, (std::vector<double>{1.75, 1, 1, 0.5}));
 }
@@ -167,13 +167,13 @@ TEST_F(JudgmentFlowTest, RestartClearsTheJudgmentsAndDisablesNextAndFinish) {
   DirectAPresenter& p = toJudgments();
   judge(0, "1.5", "2");
   judge(3, "0.5", "0.5");
-  ASSERT_TRUE(p.control("cmdFinish").enabled);
+  ASSERT_TRUE(p.cmdFinish().enabled);
   p.cmdReStart_Click();
   EXPECT_FALSE(p.judgment().judgments().judged(0));
-  EXPECT_TRUE(p.control("cmdEnter").enabled);
-  EXPECT_FALSE(p.control("cmdReStart").enabled);
-  EXPECT_FALSE(p.control("cmdNext").enabled);
-  EXPECT_FALSE(p.control("cmdFinish").enabled);
+  EXPECT_TRUE(p.cmdEnter().enabled);
+  EXPECT_FALSE(p.cmdReStart().enabled);
+  EXPECT_FALSE(p.cmdNext().enabled);
+  EXPECT_FALSE(p.cmdFinish().enabled);
   EXPECT_EQ(context.LowerWeights[0], 1.2);
   EXPECT_EQ(p.judgment().targets().items()[0].text, "Att1");
 }
@@ -182,13 +182,13 @@ TEST_F(JudgmentFlowTest, BackAndNextAgainStartFreshIntervalsWithFinishDisabled) 
   DirectAPresenter& p = toJudgments();
   judge(0, "1.5", "2");
   judge(3, "0.5", "0.5");
-  ASSERT_TRUE(p.control("cmdFinish").enabled);
+  ASSERT_TRUE(p.cmdFinish().enabled);
   p.cmdBack_Click();
   p.cmdNext_Click();
   EXPECT_EQ(p.WizardStep(), 2);
   EXPECT_FALSE(p.judgment().judgments().judged(0));
-  EXPECT_FALSE(p.control("cmdNext").enabled);
-  EXPECT_FALSE(p.control("cmdFinish").enabled);
+  EXPECT_FALSE(p.cmdNext().enabled);
+  EXPECT_FALSE(p.cmdFinish().enabled);
 }
 
 TEST_F(JudgmentFlowTest, ResultsShowTheGridAndFinishExportsWithTheCrossedSums) {
@@ -198,13 +198,13 @@ TEST_F(JudgmentFlowTest, ResultsShowTheGridAndFinishExportsWithTheCrossedSums) {
   p.cmdNext_Click();
   EXPECT_EQ(p.WizardStep(), 3);
   EXPECT_EQ(p.caption(), "Tarnel Wizard: Results of the value judgments");
-  EXPECT_FALSE(p.control("cmdNext").enabled);
-  EXPECT_TRUE(p.control("cmdFinish").enabled);
+  EXPECT_FALSE(p.cmdNext().enabled);
+  EXPECT_TRUE(p.cmdFinish().enabled);
   EXPECT_EQ(p.grid().cell(1, 3), "0.4222");
   EXPECT_EQ(p.grid().cell(1, 4), "0.4444,     0.4000");
   p.cmdBack_Click();
   EXPECT_EQ(p.WizardStep(), 2);
-  EXPECT_TRUE(p.control("cmdNext").enabled);
+  EXPECT_TRUE(p.cmdNext().enabled);
   p.cmdNext_Click();
   events.log.clear();
   p.cmdFinish_Click();
@@ -265,7 +265,7 @@ TEST_F(JudgmentFlowTest, BackToTheReferenceShowsItsCaptionAndHidesTheOrderTab) {
   EXPECT_EQ(p.caption(), DirectAPresenter::kCaptions[1]);
   EXPECT_FALSE(p.judgment().orderTabVisible());
   EXPECT_TRUE(p.judgment().targets().items().empty());
-  EXPECT_FALSE(p.control("cmdEnter").visible);
+  EXPECT_FALSE(p.cmdEnter().visible);
 }
 
 TEST_F(JudgmentFlowTest, EveryAttributeTiedWithTheReferenceCompletesThePageAtOnce) {
@@ -275,8 +275,8 @@ TEST_F(JudgmentFlowTest, EveryAttributeTiedWithTheReferenceCompletesThePageAtOnc
   p.cmdAttButtons_Click(0);
   p.cmdNext_Click();
   EXPECT_EQ(p.judgment().targets().currentTarget(), -1);
-  EXPECT_FALSE(p.control("cmdEnter").enabled);
-  EXPECT_TRUE(p.control("cmdNext").enabled);
+  EXPECT_FALSE(p.cmdEnter().enabled);
+  EXPECT_TRUE(p.cmdNext().enabled);
   p.cmdNext_Click();
   p.cmdFinish_Click();
   ASSERT_EQ(events.exports.size(), 1u);
@@ -284,4 +284,4 @@ TEST_F(JudgmentFlowTest, EveryAttributeTiedWithTheReferenceCompletesThePageAtOnc
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::direct

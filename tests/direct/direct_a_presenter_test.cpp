@@ -5,25 +5,25 @@
 // GoogleTest
 #include <gtest/gtest.h>
 
-namespace tnw {
+namespace tnw::direct {
 namespace {
 
 TEST_F(DirectAPresenterTest, LoadShowsStepZeroAndSendsTheOrderMessage) {
   DirectAPresenter& p = load();
   EXPECT_EQ(p.WizardStep(), 0);
   EXPECT_EQ(p.caption(), "Tarnel Wizard: Give an importantce order of the attirbutes");
-  EXPECT_FALSE(p.control("cmdNext").enabled);
-  EXPECT_FALSE(p.control("cmdFinish").enabled);
-  EXPECT_TRUE(p.control("cmdBack").enabled);
-  EXPECT_FALSE(p.control("cmdEnter").visible);
+  EXPECT_FALSE(p.cmdNext().enabled);
+  EXPECT_FALSE(p.cmdFinish().enabled);
+  EXPECT_TRUE(p.cmdBack().enabled);
+  EXPECT_FALSE(p.cmdEnter().visible);
   EXPECT_EQ(events.messages, std::vector<std::string>{
                                  "Order the attributes according to their relative importance."});
   EXPECT_EQ(p.ordering().order().GroupCount(), 2);
   EXPECT_EQ(p.ordering().attributeButtons().size(), 3u);
-  EXPECT_EQ(p.control("labAttName").caption, "Att1");
-  EXPECT_EQ(p.control("labAttProperty").caption, "Benefit-oriented");
-  EXPECT_EQ(p.control("txtAttDefinition").caption, "Definition 1");
-  EXPECT_EQ(p.control("lblNotice3").caption.substr(0, 17), "    Notice that: ");
+  EXPECT_EQ(p.ordering().labAttName().caption, "Att1");
+  EXPECT_EQ(p.ordering().labAttProperty().caption, "Benefit-oriented");
+  EXPECT_EQ(p.ordering().txtAttDefinition().caption, "Definition 1");
+  EXPECT_EQ(p.ordering().lblNotice3().caption.substr(0, 17), "    Notice that: ");
   EXPECT_GT(changes, 0);
 }
 
@@ -31,11 +31,11 @@ TEST_F(DirectAPresenterTest, NextIsEnabledOnceEveryAttributeIsPlaced) {
   DirectAPresenter& p = load();
   place(0, 1);
   place(1, 2);
-  EXPECT_FALSE(p.control("cmdNext").enabled);
+  EXPECT_FALSE(p.cmdNext().enabled);
   p.picOrder_DragDrop(1, "B1");
-  EXPECT_FALSE(p.control("cmdNext").enabled);
+  EXPECT_FALSE(p.cmdNext().enabled);
   place(2, 2);
-  EXPECT_TRUE(p.control("cmdNext").enabled);
+  EXPECT_TRUE(p.cmdNext().enabled);
   EXPECT_FALSE(p.ordering().attributeButtons()[2].visible);
   p.picOrder_DragDrop(1, "C2");
   EXPECT_EQ(p.ordering().order().PlacedCount(), 3);
@@ -49,15 +49,15 @@ TEST_F(DirectAPresenterTest, StepOneWaitsForAReferenceAndStartsTheTimer) {
   p.cmdNext_Click();
   EXPECT_EQ(p.WizardStep(), 1);
   EXPECT_EQ(p.caption(), "Tarnel Wizard: Select reference attributes for pairwise comparisons");
-  EXPECT_FALSE(p.control("cmdNext").enabled);
-  EXPECT_EQ(p.control("lblRefAtt").caption, "");
+  EXPECT_FALSE(p.cmdNext().enabled);
+  EXPECT_EQ(p.lblRefAtt().caption, "");
   EXPECT_EQ(p.timerInterval(), 300);
   EXPECT_EQ(p.finalGroup(2), (std::vector<int>{1, 2}));
   p.cmdAttButtons_Click(1);
-  EXPECT_EQ(p.control("lblRefAtt").caption, "Att2");
+  EXPECT_EQ(p.lblRefAtt().caption, "Att2");
   EXPECT_EQ(context.RefAtt, 1);
   EXPECT_EQ(p.indicatorAttribute(), 1);
-  EXPECT_TRUE(p.control("cmdNext").enabled);
+  EXPECT_TRUE(p.cmdNext().enabled);
   p.Timer1_Timer();
   EXPECT_EQ(p.lamps().indicatorColor(), StatusLamps::kBlue);
 }
@@ -73,7 +73,7 @@ TEST_F(DirectAPresenterTest, BackFromStepOneKeepsTheOrderAndNextRecomputesTheFin
   EXPECT_EQ(p.WizardStep(), 0);
   EXPECT_EQ(p.caption(), DirectAPresenter::kCaptions[0]);
   EXPECT_EQ(p.timerInterval(), 0);
-  EXPECT_TRUE(p.control("cmdNext").enabled);
+  EXPECT_TRUE(p.cmdNext().enabled);
   EXPECT_EQ(p.ordering().order().AttGroup(2), 2);
   p.picOrder_DragDrop(1, "B2");
   p.cmdNext_Click();
@@ -140,11 +140,11 @@ TEST_F(DirectAPresenterTest, AModelWithMoreThanThirtyOneAttributesIsReported) {
   EXPECT_EQ(ui.messages()[0].text,
             "The current model has 32 attributes. The wizard can only weigh from 1 to 31 "
             "attributes.");
-  EXPECT_FALSE(p.control("cmdNext").enabled);
-  EXPECT_FALSE(p.control("cmdAdd").enabled);
+  EXPECT_FALSE(p.cmdNext().enabled);
+  EXPECT_FALSE(p.cmdAdd().enabled);
   p.cmdCancel_Click();
   EXPECT_EQ(events.unloads.size(), 1u);
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -1,6 +1,6 @@
 #include "direct_a_fixture.h"
 
-namespace tnw {
+namespace tnw::direct {
 namespace {
 
 class ResumeFlowTest : public DirectAPresenterTest {
@@ -23,7 +23,7 @@ TEST_F(ResumeFlowTest, AnEarlierResultRestoresTheOrderAndEnablesNext) {
   storeEarlier({1.5, 1, 1.5, 0.5}, 1.0);
   DirectAPresenter& p = load();
   EXPECT_TRUE(p.resuming());
-  EXPECT_TRUE(p.control("cmdNext").enabled);
+  EXPECT_TRUE(p.cmdNext().enabled);
   EXPECT_EQ(p.ordering().order().GroupCount(), 3);
   EXPECT_EQ(p.ordering().order().AttGroup(0), 1);
   EXPECT_EQ(p.ordering().order().AttGroup(1), 2);
@@ -38,15 +38,15 @@ TEST_F(ResumeFlowTest, NextReselectsTheEarlierReferenceAndTheJudgmentsAreComplet
   DirectAPresenter& p = load();
   p.cmdNext_Click();
   EXPECT_EQ(p.WizardStep(), 1);
-  EXPECT_EQ(p.control("lblRefAtt").caption, "Att2");
+  EXPECT_EQ(p.lblRefAtt().caption, "Att2");
   EXPECT_EQ(p.indicatorAttribute(), 1);
-  EXPECT_TRUE(p.control("cmdNext").enabled);
+  EXPECT_TRUE(p.cmdNext().enabled);
   p.cmdNext_Click();
   EXPECT_EQ(p.WizardStep(), 2);
   EXPECT_TRUE(p.judgment().judgments().isComplete());
-  EXPECT_TRUE(p.control("cmdNext").enabled);
-  EXPECT_TRUE(p.control("cmdFinish").enabled);
-  EXPECT_TRUE(p.control("cmdReStart").enabled);
+  EXPECT_TRUE(p.cmdNext().enabled);
+  EXPECT_TRUE(p.cmdFinish().enabled);
+  EXPECT_TRUE(p.cmdReStart().enabled);
   EXPECT_EQ(p.judgment().targets().items()[0].text, " \xC2\xA4 Att1");
   EXPECT_EQ(p.judgment().targets().items()[1].text, "Att2");
   EXPECT_NE(p.judgment().judgments().handles(3), nullptr);
@@ -74,7 +74,7 @@ TEST_F(ResumeFlowTest, AResumedTargetShowsItsRecordedInterval) {
   p.imgcmbTargetAtt_Click(3);
   EXPECT_EQ(p.judgment().box(Box::Lower).text, "0.50");
   EXPECT_EQ(p.lamps().state(), JudgmentState::Consistent);
-  EXPECT_TRUE(p.control("cmdEnter").enabled);
+  EXPECT_TRUE(p.cmdEnter().enabled);
 }
 
 TEST_F(ResumeFlowTest, WithoutAStoredReferenceTheIntendedRuleChoosesIt) {
@@ -82,7 +82,7 @@ TEST_F(ResumeFlowTest, WithoutAStoredReferenceTheIntendedRuleChoosesIt) {
   DirectAPresenter& p = load();
   EXPECT_EQ(context.RefAtt, 4);
   p.cmdNext_Click();
-  EXPECT_EQ(p.control("lblRefAtt").caption, "Att5");
+  EXPECT_EQ(p.lblRefAtt().caption, "Att5");
   p.cmdNext_Click();
   EXPECT_NEAR(context.CloseWeights[0], 2.2857, 5e-5);
   EXPECT_NEAR(context.CloseWeights[3], 0.7143, 5e-5);
@@ -97,7 +97,7 @@ TEST_F(ResumeFlowTest, AZeroEarlierWeightOfTheReferenceIsReportedAndTheOrderStar
             "The earlier weights cannot be resumed: the earlier weight of the reference "
             "attribute is zero. The judgments start afresh.");
   EXPECT_FALSE(p.resuming());
-  EXPECT_FALSE(p.control("cmdNext").enabled);
+  EXPECT_FALSE(p.cmdNext().enabled);
   EXPECT_EQ(p.ordering().order().PlacedCount(), 0);
   place(0, 1);
   place(1, 2);
@@ -106,16 +106,16 @@ TEST_F(ResumeFlowTest, AZeroEarlierWeightOfTheReferenceIsReportedAndTheOrderStar
   p.cmdAttButtons_Click(1);
   p.cmdNext_Click();
   EXPECT_EQ(context.LowerWeights, (std::vector<double>{1.2, 1, 1}));
-  EXPECT_FALSE(p.control("cmdFinish").enabled);
+  EXPECT_FALSE(p.cmdFinish().enabled);
 }
 
 TEST_F(ResumeFlowTest, AnotherResultKindStartsAfresh) {
   storeEarlier({1.5, 1, 1.5, 0.5}, 1.0, "MAVT_OTHER");
   DirectAPresenter& p = load();
   EXPECT_FALSE(p.resuming());
-  EXPECT_FALSE(p.control("cmdNext").enabled);
+  EXPECT_FALSE(p.cmdNext().enabled);
   EXPECT_EQ(p.ordering().order().PlacedCount(), 0);
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -5,7 +5,7 @@
 // Std
 #include <cmath>
 
-namespace tnw {
+namespace tnw::direct {
 namespace {
 
 // Attributes of the sample: 0 Purchase price, 1 Fuel consumption, 2 Safety rating,
@@ -32,7 +32,7 @@ TEST_F(SampleScenarioTest, TheBuiltInSampleRunsFromAnEmptyOrderToFinish) {
   for (int j = 0; j < 6; ++j) place(j, groups[j]);
   p.cmdNext_Click();
   p.cmdAttButtons_Click(2);
-  EXPECT_EQ(p.control("lblRefAtt").caption, "Safety rating");
+  EXPECT_EQ(p.lblRefAtt().caption, "Safety rating");
   p.cmdNext_Click();
   EXPECT_EQ(p.judgment().targets().currentTarget(), 1);
   p.imgcmbTargetAtt_Click(0);
@@ -45,7 +45,7 @@ TEST_F(SampleScenarioTest, TheBuiltInSampleRunsFromAnEmptyOrderToFinish) {
   EXPECT_DOUBLE_EQ(context.UpperWeights[3], 0.6);
   judge(3, "0.3", "0.5");
   EXPECT_TRUE(ui.messages().empty());
-  ASSERT_TRUE(p.control("cmdNext").enabled);
+  ASSERT_TRUE(p.cmdNext().enabled);
   p.cmdNext_Click();
   EXPECT_EQ(p.grid().cell(3, 1), "Safety rating");
   EXPECT_EQ(p.grid().cell(3, 4), "0.2632,     0.2174");
@@ -70,9 +70,9 @@ TEST_F(SampleScenarioTest, TheSampleWithAnEarlierResultResumesAndFinishesWithACh
   EXPECT_EQ(p.ordering().order().AttGroup(0), 1);
   EXPECT_EQ(p.ordering().order().AttGroup(1), 6);
   p.cmdNext_Click();
-  EXPECT_EQ(p.control("lblRefAtt").caption, "Safety rating");
+  EXPECT_EQ(p.lblRefAtt().caption, "Safety rating");
   p.cmdNext_Click();
-  EXPECT_TRUE(p.control("cmdFinish").enabled);
+  EXPECT_TRUE(p.cmdFinish().enabled);
   EXPECT_NEAR(context.CloseWeights[0], 0.26 / 0.23, 1e-12);
   p.imgcmbTargetAtt_Click(1);
   EXPECT_EQ(p.judgment().box(Box::Lower).text, "0.40");
@@ -88,4 +88,4 @@ TEST_F(SampleScenarioTest, TheSampleWithAnEarlierResultResumesAndFinishesWithACh
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::direct

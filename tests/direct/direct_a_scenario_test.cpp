@@ -4,7 +4,7 @@
 #include <cmath>
 #include <numeric>
 
-namespace tnw {
+namespace tnw::direct {
 namespace {
 
 // 31 attributes: attribute 0 alone in group 1, the others over groups 2 to 10.
@@ -19,8 +19,8 @@ TEST_F(ScenarioTest, TheWholeMethodRunsFromAnEmptyOrderToFinishAtThirtyOneAttrib
   DirectAPresenter& p = load();
   for (int j = 0; j < 31; ++j) place(j, groupOf(j));
   EXPECT_EQ(p.ordering().order().GroupCount(), 10);
-  EXPECT_TRUE(p.control("cmdAdd").enabled);
-  ASSERT_TRUE(p.control("cmdNext").enabled);
+  EXPECT_TRUE(p.cmdAdd().enabled);
+  ASSERT_TRUE(p.cmdNext().enabled);
   p.cmdNext_Click();
   EXPECT_EQ(context.FinalGroupCount, 10);
   p.cmdAttButtons_Click(0);
@@ -31,7 +31,7 @@ TEST_F(ScenarioTest, TheWholeMethodRunsFromAnEmptyOrderToFinishAtThirtyOneAttrib
     ASSERT_TRUE(ui.messages().empty()) << j << ": " << ui.messages()[0].text;
     ASSERT_TRUE(p.judgment().judgments().judged(j)) << j;
   }
-  ASSERT_TRUE(p.control("cmdNext").enabled);
+  ASSERT_TRUE(p.cmdNext().enabled);
   p.cmdNext_Click();
   EXPECT_EQ(p.grid().rows(), 32);
   EXPECT_EQ(p.grid().cell(31, 2), "W31");
@@ -55,4 +55,4 @@ TEST_F(ScenarioTest, TheWholeMethodRunsFromAnEmptyOrderToFinishAtThirtyOneAttrib
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -6,7 +6,7 @@
 // Std
 #include <limits>
 
-namespace tnw {
+namespace tnw::direct {
 namespace {
 
 TEST(DirectExportTest, EqualBoundsExportTheBoundsDividedByTheirSum) {
@@ -52,4 +52,4 @@ TEST(DirectExportTest, WeightsThatAreNotFiniteAreNeverHandedOn) {
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -3,7 +3,7 @@
 // GoogleTest
 #include <gtest/gtest.h>
 
-namespace tnw {
+namespace tnw::direct {
 namespace {
 
 TEST(DragPayloadTest, EncodesTheLetterAndTheAttributeIndex) {
@@ -38,4 +38,4 @@ TEST(DragPayloadTest, TheIndexIsTheLeadingNumberAfterTheLetter) {
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -3,7 +3,7 @@
 
 #include "direct_a_fixture.h"
 
-namespace tnw {
+namespace tnw::direct {
 namespace {
 
 constexpr const char* kLowerMessageTo12 =
@@ -66,7 +66,7 @@ TEST_F(EnterChecksTest, AnInconsistentIntervalIsNotRecorded) {
   EXPECT_DOUBLE_EQ(judgments().lower(0), 1.2);
   EXPECT_TRUE(ui.messages().empty());
   EXPECT_EQ(p.lamps().state(), JudgmentState::Inconsistent);
-  EXPECT_FALSE(p.control("cmdEnter").enabled);
+  EXPECT_FALSE(p.cmdEnter().enabled);
 }
 
 TEST_F(EnterChecksTest, AValidIntervalTypedWithoutLeavingTheBoxesIsRecorded) {
@@ -76,8 +76,8 @@ TEST_F(EnterChecksTest, AValidIntervalTypedWithoutLeavingTheBoxesIsRecorded) {
   EXPECT_DOUBLE_EQ(judgments().lower(0), 1.3);
   EXPECT_DOUBLE_EQ(judgments().upper(0), 1.5);
   EXPECT_TRUE(ui.messages().empty());
-  EXPECT_FALSE(p.control("cmdEnter").enabled);
-  EXPECT_TRUE(p.control("cmdReStart").enabled);
+  EXPECT_FALSE(p.cmdEnter().enabled);
+  EXPECT_TRUE(p.cmdReStart().enabled);
 }
 
 TEST_F(EnterChecksTest, AJudgmentMadeByDraggingKeepsItsHandles) {
@@ -115,4 +115,4 @@ TEST_F(EnterChecksTest, TheExportNeverHasALowWeightAboveItsHighWeight) {
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::direct

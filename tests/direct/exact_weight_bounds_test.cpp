@@ -14,7 +14,7 @@
 // GoogleTest
 #include <gtest/gtest.h>
 
-namespace tnw {
+namespace tnw::direct {
 namespace {
 
 using Bound = ExactWeightBounds::Bound;
@@ -225,4 +225,4 @@ TEST(ExactWeightBoundsTest, FaultyIntervalsNameTheAttributeInsteadOfGivingBounds
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -3,7 +3,7 @@
 // GoogleTest
 #include <gtest/gtest.h>
 
-namespace tnw {
+namespace tnw::direct {
 namespace {
 
 DragPayload fromList(int j) { return {DragSource::AttributeList, j}; }
@@ -218,4 +218,4 @@ TEST(ImportanceOrderTest, ASingleAttributeStillGetsTwoBoxesWithoutAddOrInsert) {
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -7,7 +7,7 @@
 // GoogleTest
 #include <gtest/gtest.h>
 
-namespace tnw {
+namespace tnw::direct {
 namespace {
 
 using Bound = JudgmentDiagnosis::Bound;
@@ -154,9 +154,9 @@ TEST_F(DiagnosisFlowTest, TypingTheNearestIntervalMakesTheJudgmentConsistent) {
   p.txtWR_SetText(Box::Upper, "1.00");
   p.txtWR_LostFocus(Box::Upper);
   EXPECT_EQ(p.lamps().state(), JudgmentState::Consistent);
-  EXPECT_TRUE(p.control("cmdEnter").enabled);
+  EXPECT_TRUE(p.cmdEnter().enabled);
   EXPECT_TRUE(p.judgment().diagnosis().text.empty());
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -3,7 +3,7 @@
 
 #include "direct_a_fixture.h"
 
-namespace tnw {
+namespace tnw::direct {
 namespace {
 
 // Three attributes in three groups, the reference 1 in the middle; target 0 starts at 1.2.
@@ -46,8 +46,8 @@ TEST_F(JudgmentDisplayTest, RefusingTheReferenceLeavesListAndLabelsOnTheTarget) 
   ASSERT_EQ(ui.messages().size(), 1u);
   EXPECT_EQ(p.judgment().targets().currentTarget(), 2);
   EXPECT_EQ(p.judgment().targets().selectedIndex(), 2);
-  EXPECT_EQ(p.control("lblTargetAtt").caption, "Att3");
+  EXPECT_EQ(p.judgment().lblTargetAtt().caption, "Att3");
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -10,7 +10,7 @@
 #include <cmath>
 #include <cstdint>
 
-namespace tnw {
+namespace tnw::direct {
 namespace {
 
 class JudgmentStatusTest : public ::testing::Test {
@@ -174,4 +174,4 @@ TEST(StatusLampsTest, ContrastRatioRunsFromOneToTwentyOne) {
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::direct

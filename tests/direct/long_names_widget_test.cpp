@@ -8,7 +8,7 @@
 #include <QScrollBar>
 #include <QtTest>
 
-namespace tnw {
+namespace tnw::direct {
 
 // Attribute names far longer than the attribute list is wide: each is shortened with an
 // ellipsis, says its whole self in a tooltip, and never widens the list past its view.
@@ -68,14 +68,11 @@ class LongNamesWidgetTest : public QObject {
  private:
   template <class W>
   static W* findIndexed(const QWidget& parent, const char* name, int index) {
-    for (W* w : parent.findChildren<W*>(QLatin1String(name))) {
-      if (w->property("index").toInt() == index) return w;
-    }
-    return nullptr;
+    return parent.findChild<W*>(QLatin1String(name) + QLatin1Char('_') + QString::number(index));
   }
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct
 
-QTEST_MAIN(tnw::LongNamesWidgetTest)
+QTEST_MAIN(tnw::direct::LongNamesWidgetTest)
 #include "long_names_widget_test.moc"

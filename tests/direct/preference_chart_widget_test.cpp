@@ -9,7 +9,7 @@
 #include <QFrame>
 #include <QtTest>
 
-namespace tnw {
+namespace tnw::direct {
 
 // The judgment chart at its smallest: the handles stay whole inside the square and the axis
 // names keep their start.
@@ -70,7 +70,7 @@ class PreferenceChartWidgetTest : public QObject {
   }
 };
 
-}  // namespace tnw
+}  // namespace tnw::direct
 
-QTEST_MAIN(tnw::PreferenceChartWidgetTest)
+QTEST_MAIN(tnw::direct::PreferenceChartWidgetTest)
 #include "preference_chart_widget_test.moc"

@@ -8,7 +8,7 @@
 // GoogleTest
 #include <gtest/gtest.h>
 
-namespace tnw {
+namespace tnw::direct {
 namespace {
 
 constexpr float kSide = 1000.0F;
@@ -113,4 +113,4 @@ TEST(PreferenceConeTest, DraggingIsKeptInsideTheArea) {
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::direct

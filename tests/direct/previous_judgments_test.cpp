@@ -9,7 +9,7 @@
 #include <cmath>
 #include <limits>
 
-namespace tnw {
+namespace tnw::direct {
 namespace {
 
 WizardContext earlierResult(const std::vector<double>& weights, std::optional<double> ref) {
@@ -146,4 +146,4 @@ TEST(PreviousJudgmentsTest, NonFiniteEarlierWeightsAreRefused) {
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::direct

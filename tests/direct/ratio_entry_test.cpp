@@ -4,15 +4,15 @@
 // GoogleTest
 #include <gtest/gtest.h>
 
-namespace tnw {
+namespace tnw::direct {
 namespace {
 
-TextBoxState box(const std::string& text, int caret, int selection = 0) {
-  return TextBoxState{text, caret, selection};
+wizard::TextBoxState box(const std::string& text, int caret, int selection = 0) {
+  return wizard::TextBoxState{text, caret, selection};
 }
 
 TEST(RatioKeyFilterTest, ASecondPeriodTypedIntoOnePointFiveIsRemovedAtKeyUp) {
-  TextBoxState b = box("1.5", 3);
+  wizard::TextBoxState b = box("1.5", 3);
   int key = '.';
   EXPECT_EQ(RatioKeyFilter::DoKeyPress(b, key), RatioKeyFilter::KeyAction::Pass);
   b.typeCharacter('.');
@@ -23,14 +23,14 @@ TEST(RatioKeyFilterTest, ASecondPeriodTypedIntoOnePointFiveIsRemovedAtKeyUp) {
 }
 
 TEST(RatioKeyFilterTest, ASecondPeriodInTheMiddleIsRemovedBeforeTheCaret) {
-  TextBoxState b = box("15.", 1);
+  wizard::TextBoxState b = box("15.", 1);
   RatioKeyFilter::typeKey(b, '.');
   EXPECT_EQ(b.text, "15.");
   EXPECT_EQ(b.selStart, 1);
 }
 
 TEST(RatioKeyFilterTest, OnlyDigitsPeriodAndControlKeysPass) {
-  TextBoxState b = box("", 0);
+  wizard::TextBoxState b = box("", 0);
   for (char c : std::string("1a.-5 e")) RatioKeyFilter::typeKey(b, c);
   EXPECT_EQ(b.text, "1.5");
   RatioKeyFilter::typeKey(b, RatioKeyFilter::kBackspace);
@@ -38,13 +38,13 @@ TEST(RatioKeyFilterTest, OnlyDigitsPeriodAndControlKeysPass) {
 }
 
 TEST(RatioKeyFilterTest, TypingReplacesTheSelection) {
-  TextBoxState b = box("0.80", 0, 4);
+  wizard::TextBoxState b = box("0.80", 0, 4);
   RatioKeyFilter::typeKey(b, '2');
   EXPECT_EQ(b.text, "2");
 }
 
 TEST(RatioKeyFilterTest, CtrlVAndShiftInsertLeaveTheBoxUnchanged) {
-  TextBoxState b = box("1.2", 3);
+  wizard::TextBoxState b = box("1.2", 3);
   int key = RatioKeyFilter::kCtrlV;
   EXPECT_EQ(RatioKeyFilter::DoKeyPress(b, key), RatioKeyFilter::KeyAction::Discard);
   EXPECT_EQ(key, 0);
@@ -55,7 +55,7 @@ TEST(RatioKeyFilterTest, CtrlVAndShiftInsertLeaveTheBoxUnchanged) {
 }
 
 TEST(RatioKeyFilterTest, EnterKeepsTheTrimmedTextAndBecomesBackspace) {
-  TextBoxState b = box(" 0.5 ", 5);
+  wizard::TextBoxState b = box(" 0.5 ", 5);
   int key = RatioKeyFilter::kEnter;
   EXPECT_EQ(RatioKeyFilter::DoKeyPress(b, key), RatioKeyFilter::KeyAction::Enter);
   EXPECT_EQ(key, RatioKeyFilter::kBackspace);
@@ -127,4 +127,4 @@ TEST(RatioBoundCheckTest, ARatioTooLargeForANumberIsToldAsSuchInEitherBox) {
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::direct

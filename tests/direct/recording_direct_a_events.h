@@ -9,7 +9,7 @@
 namespace tnw::test {
 
 // Records every event the direct-method dialog raises.
-class RecordingDirectAEvents : public DirectAEvents {
+class RecordingDirectAEvents : public direct::DirectAEvents {
  public:
   struct Export {
     std::string type;

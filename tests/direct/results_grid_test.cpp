@@ -5,7 +5,7 @@
 // GoogleTest
 #include <gtest/gtest.h>
 
-namespace tnw {
+namespace tnw::direct {
 namespace {
 
 TEST(ResultsGridTest, TheHeaderRowNamesTheFiveColumns) {
@@ -79,4 +79,4 @@ TEST(ResultsGridTest, ColumnWidthsGiveTheRangesAThirdOfTheGrid) {
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -5,7 +5,7 @@
 // GoogleTest
 #include <gtest/gtest.h>
 
-namespace tnw {
+namespace tnw::direct {
 namespace {
 
 TEST(TargetListTest, ItemsCarryKeysAndImagesByOrientationAndRole) {
@@ -90,4 +90,4 @@ TEST(TargetListTest, NoTargetWhenEveryAttributeIsTiedWithTheReference) {
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::direct

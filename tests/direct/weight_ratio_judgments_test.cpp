@@ -5,7 +5,7 @@
 // GoogleTest
 #include <gtest/gtest.h>
 
-namespace tnw {
+namespace tnw::direct {
 namespace {
 
 TEST(WeightRatioJudgmentsTest, InitialIntervalsFollowTheOrder) {
@@ -170,4 +170,4 @@ TEST(WeightRatioJudgmentsTest, RecordingOutsideTheAttributesDoesNothing) {
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::direct

@@ -33,7 +33,7 @@ std::unique_ptr<WizardDialog> ScriptedDialogFactory::createSelMethod(WizardConte
 }
 
 std::unique_ptr<WizardDialog> ScriptedDialogFactory::createDirectA(WizardContext& context,
-                                                                   DirectAEvents& events) {
+                                                                   direct::DirectAEvents& events) {
   reserveRelease();
   return makeScriptedDirectDialog(nextName("frmDirectA"), context, events, m_ui, m_scenario,
                                   m_window, m_trace);

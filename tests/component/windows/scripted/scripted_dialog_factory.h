@@ -30,7 +30,7 @@ class ScriptedDialogFactory : public WizardDialogFactory {
                                                 SelMethodEvents& events) override;
   // A new frmDirectA.
   std::unique_ptr<WizardDialog> createDirectA(WizardContext& context,
-                                              DirectAEvents& events) override;
+                                              direct::DirectAEvents& events) override;
   // A new frmTradeOffsA.
   std::unique_ptr<WizardDialog> createTradeOffsA(WizardContext& context,
                                                  TradeOffsAEvents& events) override;

@@ -9,7 +9,9 @@
 
 namespace tnw {
 
+namespace direct {
 class DirectAEvents;
+}  // namespace direct
 class MessageWindow;
 class ScriptedScenario;
 class ScriptedTrace;
@@ -28,8 +30,8 @@ std::unique_ptr<WizardDialog> makeScriptedSelMethodDialog(std::string name, Wiza
                                                           const ScriptedTrace& trace);
 // A loaded scripted frmDirectA called name.
 std::unique_ptr<WizardDialog> makeScriptedDirectDialog(std::string name, WizardContext& context,
-                                                       DirectAEvents& events, UiServices& ui,
-                                                       ScriptedScenario& scenario,
+                                                       direct::DirectAEvents& events,
+                                                       UiServices& ui, ScriptedScenario& scenario,
                                                        MessageWindow& window,
                                                        const ScriptedTrace& trace);
 // A loaded scripted frmTradeOffsA called name.

@@ -11,7 +11,7 @@ namespace tnw {
 
 namespace {
 
-using Box = JudgmentPage::Box;
+using Box = direct::JudgmentPage::Box;
 
 std::string boxText(const nlohmann::json& step, const char* key) {
   if (!step.contains(key)) return {};
@@ -32,7 +32,7 @@ std::string numbers(const std::vector<double>& values) {
 }  // namespace
 
 ScriptedDirectDialog::ScriptedDirectDialog(std::string name, WizardContext& context,
-                                           DirectAEvents& events, UiServices& ui,
+                                           direct::DirectAEvents& events, UiServices& ui,
                                            ScriptedScenario& scenario, MessageWindow& window,
                                            const ScriptedTrace& trace)
     : ScriptedDialog(std::move(name), {760, 560}, window, trace),
@@ -68,7 +68,7 @@ void ScriptedDirectDialog::placeOrder(const nlohmann::json& order) {
     m_presenter.picOrder_DragDrop(group, (placed ? "B" : "A") + std::to_string(j));
   }
   trace("order placed, Next " +
-        std::string(m_presenter.control("cmdNext").enabled ? "enabled" : "disabled"));
+        std::string(m_presenter.cmdNext().enabled ? "enabled" : "disabled"));
 }
 
 void ScriptedDirectDialog::chooseReference(const nlohmann::json& run) {
@@ -90,7 +90,7 @@ void ScriptedDirectDialog::judge(const nlohmann::json& step) {
   m_presenter.txtWR_SetText(Box::Upper, boxText(step, "upper"));
   m_presenter.txtWR_LostFocus(Box::Lower);
   m_presenter.txtWR_LostFocus(Box::Upper);
-  const bool recorded = m_presenter.control("cmdEnter").enabled && m_presenter.cmdEnter_Click();
+  const bool recorded = m_presenter.cmdEnter().enabled && m_presenter.cmdEnter_Click();
   trace("judged target " + std::to_string(target) + (recorded ? " recorded" : " not recorded"));
 }
 
@@ -103,21 +103,21 @@ void ScriptedDirectDialog::end(const std::string& how) {
   } else {
     m_presenter.cmdNext_Click();
     trace("step " + std::to_string(m_presenter.WizardStep()) + ", Finish " +
-          (m_presenter.control("cmdFinish").enabled ? "enabled" : "disabled"));
+          (m_presenter.cmdFinish().enabled ? "enabled" : "disabled"));
     m_presenter.cmdFinish_Click();
     trace("exported arrays after the host's handler:" + arraysText());
   }
 }
 
 std::string ScriptedDirectDialog::arraysText() const {
-  const DirectExport::Weights& exported = m_presenter.exported();
+  const direct::DirectExport::Weights& exported = m_presenter.exported();
   return " Weights" + numbers(exported.Weights) + " WeightsH" + numbers(exported.WeightsH) +
          " WeightsL" + numbers(exported.WeightsL);
 }
 
 std::unique_ptr<WizardDialog> makeScriptedDirectDialog(std::string name, WizardContext& context,
-                                                       DirectAEvents& events, UiServices& ui,
-                                                       ScriptedScenario& scenario,
+                                                       direct::DirectAEvents& events,
+                                                       UiServices& ui, ScriptedScenario& scenario,
                                                        MessageWindow& window,
                                                        const ScriptedTrace& trace) {
   return std::make_unique<ScriptedDirectDialog>(std::move(name), context, events, ui, scenario,

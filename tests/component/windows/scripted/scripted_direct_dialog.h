@@ -22,7 +22,7 @@ struct WizardContext;
 class ScriptedDirectDialog : public ScriptedDialog {
  public:
   // A loaded direct-method dialog (loading sends its status text through events).
-  ScriptedDirectDialog(std::string name, WizardContext& context, DirectAEvents& events,
+  ScriptedDirectDialog(std::string name, WizardContext& context, direct::DirectAEvents& events,
                        UiServices& ui, ScriptedScenario& scenario, MessageWindow& window,
                        const ScriptedTrace& trace);
 
@@ -37,7 +37,7 @@ class ScriptedDirectDialog : public ScriptedDialog {
   void end(const std::string& how);
   std::string arraysText() const;
 
-  DirectAPresenter m_presenter;
+  direct::DirectAPresenter m_presenter;
   nlohmann::json m_run;
   bool m_played = false;
 };

@@ -1,0 +1,33 @@
+#include "direct/results_page.h"
+
+// Std
+#include <algorithm>
+#include <cstddef>
+#include <vector>
+
+namespace tnw::direct {
+
+ResultsPage::ResultsPage(DirectAShared& shared, const OrderingPage& ordering)
+    : m_shared(shared), m_ordering(ordering) {}
+
+void ResultsPage::initializePage() {
+  wizard::WizardButtons& b = m_shared.buttons;
+  b.cmdBack.enabled = true;
+  b.cmdFinish.enabled = true;
+  b.cmdNext.enabled = false;
+  const WizardContext& context = m_shared.context;
+  const int n = m_ordering.order().numAtt();
+  m_grid.SetNTTable(n);
+  m_grid.Fill_gridTN(context.model, context.LowerWeights, context.UpperWeights);
+  // The bounds cover the model's attributes only, as the grid does.
+  const auto count = static_cast<std::size_t>(n);
+  const auto firstN = [count](const std::vector<double>& v) {
+    return std::vector<double>(v.begin(),
+                               v.begin() + static_cast<std::ptrdiff_t>(std::min(count, v.size())));
+  };
+  m_exactBounds =
+      ExactWeightBounds::compute(firstN(context.LowerWeights), firstN(context.UpperWeights),
+                                 context.FinalAttGroup, context.RefAtt);
+}
+
+}  // namespace tnw::direct
