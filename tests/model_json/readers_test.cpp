@@ -8,6 +8,8 @@
 namespace tnw {
 namespace {
 
+using direct::DirectScenario;
+
 std::string scenarioError(const std::string& text) {
   DirectScenario s;
   const auto e = readDirectScenario(text, s);
