@@ -17,7 +17,7 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using tnw::fuzz::check;
   const std::string_view text(reinterpret_cast<const char*>(data), size);
-  tnw::DirectScenario scenario;
+  tnw::direct::DirectScenario scenario;
   if (const auto error = tnw::readDirectScenario(text, scenario)) {
     check(!error->where.empty() && !error->what.empty());
     check(error->text().find("json.exception") == std::string::npos);

@@ -26,7 +26,7 @@ int runDirect(const std::vector<std::string>& args) {
   if (const int status = readJsonInputFile(args[1], tnw::kScenarioJsonLimits.maxBytes, text)) {
     return status;
   }
-  tnw::DirectScenario scenario;
+  tnw::direct::DirectScenario scenario;
   if (const auto error = tnw::readDirectScenario(text, scenario)) {
     std::fprintf(stderr, "%s\n", tnw::inputErrorLine(args[1], *error).c_str());
     return 1;

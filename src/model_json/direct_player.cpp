@@ -2,26 +2,18 @@
 
 #include "common/recording_ui_services.h"
 #include "component/wizard_context.h"
-#include "direct/direct_a_presenter.h"
+#include "direct/scenario_player.h"
 
 // Std
-#include <stdexcept>
+#include <utility>
 
 namespace tnw {
 namespace {
 
-using nlohmann::json;
 using nlohmann::ordered_json;
-using namespace tnw::direct;
-using Box = direct::JudgmentPage::Box;
-
-// A scenario that cannot be run as written; what() says why.
-struct ScenarioError : std::runtime_error {
-  using std::runtime_error::runtime_error;
-};
 
 // The host side of the run: keeps the export and ignores the rest.
-struct ExportCatcher : direct::DirectAEvents {
+struct ExportCatcher : DirectAEvents {
   void ExportDirectAW(const std::string&, std::int16_t, std::vector<double>& weights,
                       std::vector<double>& weightsH, std::vector<double>& weightsL) override {
     exported = ordered_json{{"weights", weights}, {"weightsH", weightsH}, {"weightsL", weightsL}};
@@ -33,77 +25,6 @@ struct ExportCatcher : direct::DirectAEvents {
 
   ordered_json exported = nullptr;
 };
-
-// Message texts shown since `from`, as a JSON array.
-ordered_json messagesSince(const RecordingUiServices& ui, std::size_t from) {
-  ordered_json texts = ordered_json::array();
-  for (std::size_t i = from; i < ui.messages().size(); ++i) texts.push_back(ui.messages()[i].text);
-  return texts;
-}
-
-void noteMessagesSince(const RecordingUiServices& ui, std::size_t from,
-                       std::vector<std::string>& notes) {
-  for (std::size_t i = from; i < ui.messages().size(); ++i) notes.push_back(ui.messages()[i].text);
-}
-
-void applyOrder(direct::DirectAPresenter& p, const std::vector<int>& order, int n) {
-  if (static_cast<int>(order.size()) != n) {
-    throw ScenarioError("\"order\" needs one group number per attribute");
-  }
-  for (int j = 0; j < n; ++j) {
-    const int g = order[static_cast<std::size_t>(j)];
-    if (g < 1 || g > n) throw ScenarioError("group numbers run from 1 to the attribute count");
-    while (p.ordering().order().GroupCount() < g) p.cmdAdd_Click();
-    const bool placed = p.ordering().order().AttGroup(j) != 0;
-    p.picOrder_DragDrop(g, (placed ? "B" : "A") + std::to_string(j));
-  }
-}
-
-void chooseOrderAndReference(direct::DirectAPresenter& p, const DirectScenario& scenario, int n) {
-  if (scenario.order) {
-    applyOrder(p, *scenario.order, n);
-  } else if (!p.resuming()) {
-    throw ScenarioError("\"order\" is needed when the model holds no earlier result");
-  }
-  p.cmdNext_Click();
-  if (p.WizardStep() != 1) throw ScenarioError("the order does not place every attribute");
-  if (scenario.reference) {
-    const int r = *scenario.reference;
-    if (r < 0 || r >= n) throw ScenarioError("\"reference\" is not an attribute index");
-    p.cmdAttButtons_Click(r);
-  } else if (!p.resuming()) {
-    throw ScenarioError("\"reference\" is needed when the model holds no earlier result");
-  }
-  p.cmdNext_Click();
-}
-
-// Types `text` into a ratio box as a user does: the old text selected and deleted, then every
-// character through the box's key filter.
-void typeText(direct::DirectAPresenter& p, Box box, const std::string& text) {
-  p.txtWR_SetText(box, "");
-  for (const unsigned char c : text) {
-    const wizard::TextBoxState& shown = p.judgment().box(box);
-    p.txtWR_KeyPress(box, shown.selStart, shown.selLength, c);
-  }
-}
-
-// One judgment step as DESIGN.md describes it; returns whether Enter recorded it.
-bool judge(direct::DirectAPresenter& p, const RecordingUiServices& ui, const ScenarioStep& step) {
-  const std::size_t before = ui.messages().size();
-  const int target = step.target;
-  p.imgcmbTargetAtt_Click(target);
-  if (p.judgment().targets().currentTarget() != target || ui.messages().size() != before) {
-    return false;
-  }
-  typeText(p, Box::Lower, step.lower);
-  typeText(p, Box::Upper, step.upper);
-  p.txtWR_LostFocus(Box::Lower);
-  if (ui.messages().size() != before) return false;
-  p.txtWR_LostFocus(Box::Upper);
-  if (ui.messages().size() != before) return false;
-  if (!p.cmdEnter().enabled) return false;
-  return p.cmdEnter_Click();
-}
 
 // The lit status lamp; null while none is lit (after a failed check, a refused target or a
 // restart).
@@ -135,21 +56,10 @@ ordered_json diagnosisJson(const JudgmentDiagnosis::Result& d) {
                       {"text", d.text}};
 }
 
-ordered_json runStep(direct::DirectAPresenter& p, const RecordingUiServices& ui,
-                     const ScenarioStep& step) {
-  const std::size_t before = ui.messages().size();
-  bool recorded = false;
-  if (step.restart) {
-    p.cmdReStart_Click();
-  } else {
-    recorded = judge(p, ui, step);
-  }
-  return ordered_json{{"messages", messagesSince(ui, before)},
-                      {"lowerText", p.judgment().box(Box::Lower).text},
-                      {"upperText", p.judgment().box(Box::Upper).text},
-                      {"status", statusName(p.lamps().state())},
-                      {"recorded", recorded},
-                      {"diagnosis", diagnosisJson(p.judgment().diagnosis())}};
+ordered_json stepJson(const direct::PlayedStep& step) {
+  return ordered_json{{"messages", step.messages},   {"lowerText", step.lowerText},
+                      {"upperText", step.upperText}, {"status", statusName(step.status)},
+                      {"recorded", step.recorded},   {"diagnosis", diagnosisJson(step.diagnosis)}};
 }
 
 ordered_json gridRows(const ResultsGrid& grid) {
@@ -165,78 +75,77 @@ ordered_json gridRows(const ResultsGrid& grid) {
 }
 
 // The exact weight ranges of the results step: [] before it, null when they cannot be computed.
-ordered_json exactBounds(const direct::DirectAPresenter& p) {
-  if (p.WizardStep() != 3) return ordered_json::array();
-  const auto& r = p.exactBounds();
-  if (r.outcome != direct::ExactWeightBounds::Outcome::Computed) return nullptr;
+ordered_json exactBounds(const direct::ScenarioOutcome& o) {
+  if (o.step != 3) return ordered_json::array();
+  if (o.exactBounds.outcome != ExactWeightBounds::Outcome::Computed) return nullptr;
   ordered_json bounds = ordered_json::array();
-  for (const auto& b : r.bounds) bounds.push_back(ordered_json{{"low", b.low}, {"high", b.high}});
+  for (const auto& b : o.exactBounds.bounds) {
+    bounds.push_back(ordered_json{{"low", b.low}, {"high", b.high}});
+  }
   return bounds;
 }
 
 // Why the results step shows no exact weight ranges; null when it shows them (or is not reached).
-ordered_json exactBoundsError(const WizardContext& c, const direct::DirectAPresenter& p) {
-  if (p.WizardStep() != 3) return nullptr;
-  const std::string text = direct::ExactWeightBounds::message(c.model, p.exactBounds());
+ordered_json exactBoundsError(const WizardContext& c, const direct::ScenarioOutcome& o) {
+  if (o.step != 3) return nullptr;
+  const std::string text = ExactWeightBounds::message(c.model, o.exactBounds);
   return text.empty() ? ordered_json(nullptr) : ordered_json(text);
 }
 
-ordered_json result(const WizardContext& c, const direct::DirectAPresenter& p, ordered_json steps,
-                    const ordered_json& exported) {
-  const auto& judged = p.judgment().judgments().judgedFlags();
-  return ordered_json{{"finalGroupCount", c.FinalGroupCount},
-                      {"finalAttGroup", c.FinalAttGroup},
-                      {"refAtt", c.RefAtt},
+ordered_json result(const WizardContext& c, const direct::ScenarioOutcome& o,
+                    const direct::PlayedScenario& played, const ordered_json& exported) {
+  ordered_json steps = ordered_json::array();
+  for (const direct::PlayedStep& step : played.steps) steps.push_back(stepJson(step));
+  return ordered_json{{"finalGroupCount", o.finalGroupCount},
+                      {"finalAttGroup", o.finalAttGroup},
+                      {"refAtt", o.refAtt},
                       {"steps", std::move(steps)},
-                      {"lower", c.LowerWeights},
-                      {"middle", c.CloseWeights},
-                      {"upper", c.UpperWeights},
-                      {"judged", std::vector<bool>(judged.begin(), judged.end())},
-                      {"complete", p.judgment().judgments().isComplete()},
-                      {"grid", p.WizardStep() == 3 ? gridRows(p.grid()) : ordered_json::array()},
+                      {"lower", o.lower},
+                      {"middle", o.middle},
+                      {"upper", o.upper},
+                      {"judged", o.judged},
+                      {"complete", o.complete},
+                      {"grid", o.step == 3 ? gridRows(o.grid) : ordered_json::array()},
                       {"export", exported},
-                      {"exactBounds", exactBounds(p)},
-                      {"exactBoundsError", exactBoundsError(c, p)}};
+                      {"exactBounds", exactBounds(o)},
+                      {"exactBoundsError", exactBoundsError(c, o)}};
 }
 
-ordered_json runScenario(WizardContext& context, RecordingUiServices& ui,
-                         const DirectScenario& scenario, std::vector<std::string>& notes) {
-  ExportCatcher events;
-  direct::DirectAPresenter p(context, ui, events);
-  p.Form_Load();
-  if (!p.usable()) throw ScenarioError(ui.messages().back().text);
-  const int n = p.ordering().order().numAtt();
-  try {
-    chooseOrderAndReference(p, scenario, n);
-  } catch (const ScenarioError&) {
-    noteMessagesSince(ui, 0, notes);  // for instance why an earlier result could not be resumed
-    throw;
+// The run's notes: the messages shown before the run and on the way, and how it was taken.
+void takeNotes(const std::vector<std::string>& before, const direct::PlayedScenario& played,
+               std::vector<std::string>& notes) {
+  notes = before;
+  notes.insert(notes.end(), played.entryMessages.begin(), played.entryMessages.end());
+  if (played.error) return;
+  if (played.keptReference) {
+    notes.push_back("The earlier result's reference attribute " +
+                    std::to_string(*played.keptReference) + " is used, as in the dialog.");
   }
-  noteMessagesSince(ui, 0, notes);
-  if (p.resuming() && scenario.reference && *scenario.reference != context.RefAtt) {
-    notes.push_back("The earlier result's reference attribute " + std::to_string(context.RefAtt) +
-                    " is used, as in the dialog.");
-  }
-  ordered_json steps = ordered_json::array();
-  for (const ScenarioStep& step : scenario.steps) steps.push_back(runStep(p, ui, step));
-  const std::size_t before = ui.messages().size();
-  p.cmdNext_Click();
-  p.cmdFinish_Click();
-  noteMessagesSince(ui, before, notes);
-  return result(context, p, std::move(steps), events.exported);
+  notes.insert(notes.end(), played.endMessages.begin(), played.endMessages.end());
 }
 
 }  // namespace
 
 DirectPlayResult playDirectScenario(WizardContext& context, RecordingUiServices& ui,
-                                    const DirectScenario& scenario) {
+                                    const direct::DirectScenario& scenario) {
+  std::vector<std::string> before;
+  for (const auto& m : ui.messages()) before.push_back(m.text);
+  ExportCatcher events;
+  direct::ScenarioPlayer player(context, ui, events);
+  player.load();
+  const direct::PlayedScenario played = player.play(scenario);
   DirectPlayResult out;
-  try {
-    out.output = runScenario(context, ui, scenario, out.notes);
-  } catch (const ScenarioError& e) {
-    out.output = nullptr;
-    out.error = e.what();
+  // A dialog that cannot weigh the model says why in its last message, and nothing is noted.
+  if (!played.usable) {
+    out.error = played.error;
+    return out;
   }
+  takeNotes(before, played, out.notes);
+  if (played.error) {
+    out.error = played.error;
+    return out;
+  }
+  out.output = result(context, player.outcome(), played, events.exported);
   return out;
 }
 

@@ -27,10 +27,9 @@ struct DirectPlayResult {
   std::optional<std::string> error;
 };
 
-// Runs the scenario through the direct dialog's presenter as a user would: the order and the
-// reference chosen, each step's texts typed key by key and checked, Enter pressed, then Next and
-// Finish. ui records every message box.
+// Plays the scenario with the direct method's scenario player and gives the run in the shape
+// `tnwizard direct` prints. ui records every message box; those it holds already are noted first.
 DirectPlayResult playDirectScenario(WizardContext& context, RecordingUiServices& ui,
-                                    const DirectScenario& scenario);
+                                    const direct::DirectScenario& scenario);
 
 }  // namespace tnw

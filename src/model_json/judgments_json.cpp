@@ -8,8 +8,9 @@ namespace {
 using nlohmann::json;
 
 // The attribute index of field `key` of judgment `at`, which must be an index of the model.
-int attributeIndex(const json& item, const char* key, std::size_t at, int numAtt) {
-  const std::string pointer = jsonPointer(jsonPointer("", at), key);
+int attributeIndex(const json& item, const char* key, const std::string& base, std::size_t at,
+                   int numAtt) {
+  const std::string pointer = jsonPointer(jsonPointer(base, at), key);
   const std::string where = "judgment [" + std::to_string(at) + "]: \"" + key + "\" ";
   const auto it = item.find(key);
   if (it == item.end()) throw JsonFieldError(pointer, where + "is missing");
@@ -24,13 +25,14 @@ int attributeIndex(const json& item, const char* key, std::size_t at, int numAtt
   }
 }
 
-TradeOffJudgment readJudgment(const json& item, std::size_t at, int numAtt) {
-  const std::string pointer = jsonPointer("", at);
+TradeOffJudgment readJudgment(const json& item, const std::string& base, std::size_t at,
+                              int numAtt) {
+  const std::string pointer = jsonPointer(base, at);
   const std::string where = "judgment [" + std::to_string(at) + "]: ";
   if (!item.is_object()) throw JsonFieldError(pointer, where + "is not a JSON object");
   TradeOffJudgment jd;
-  jd.first = attributeIndex(item, "first", at, numAtt);
-  jd.second = attributeIndex(item, "second", at, numAtt);
+  jd.first = attributeIndex(item, "first", base, at, numAtt);
+  jd.second = attributeIndex(item, "second", base, at, numAtt);
   const std::string scores = jsonPointer(pointer, "scores");
   const std::string four = where + "\"scores\" must be an array of four numbers [a1,b1,a2,b2]";
   const auto it = item.find("scores");
@@ -50,6 +52,21 @@ TradeOffJudgment readJudgment(const json& item, std::size_t at, int numAtt) {
   return jd;
 }
 
+std::vector<TradeOffJudgment> readJudgments(const json& list, const std::string& base, int numAtt) {
+  std::vector<TradeOffJudgment> judgments;
+  for (std::size_t at = 0; at < list.size(); ++at) {
+    judgments.push_back(readJudgment(list[at], base, at, numAtt));
+  }
+  return judgments;
+}
+
+ScenarioEnd readEnd(const json& value, const std::string& pointer) {
+  if (value == "Finish") return ScenarioEnd::Finish;
+  if (value == "Cancel") return ScenarioEnd::Cancel;
+  if (value == "Back") return ScenarioEnd::Back;
+  throw JsonFieldError(pointer, "expected \"Finish\", \"Cancel\" or \"Back\"");
+}
+
 }  // namespace
 
 std::optional<JsonInputError> readTradeOffJudgments(std::string_view text, int numAtt,
@@ -59,10 +76,29 @@ std::optional<JsonInputError> readTradeOffJudgments(std::string_view text, int n
   if (auto error = parseJsonText(text, kJudgmentsJsonLimits, j)) return error;
   try {
     if (!j.is_array()) throw JsonFieldError("the file", "the judgments are not a JSON array");
-    for (std::size_t at = 0; at < j.size(); ++at)
-      judgments.push_back(readJudgment(j[at], at, numAtt));
+    judgments = readJudgments(j, "", numAtt);
   } catch (const JsonFieldError& e) {
     judgments.clear();
+    return e.error();
+  }
+  return std::nullopt;
+}
+
+std::optional<JsonInputError> readTradeOffScenario(const json& value, const std::string& pointer,
+                                                   int numAtt, TradeOffScenario& scenario) {
+  scenario = {};
+  try {
+    if (!value.is_object()) throw JsonFieldError(pointer, "expected the run as a JSON object");
+    if (const auto it = value.find("judgments"); it != value.end()) {
+      const std::string list = jsonPointer(pointer, "judgments");
+      if (!it->is_array()) throw JsonFieldError(list, "the judgments are not a JSON array");
+      scenario.judgments = readJudgments(*it, list, numAtt);
+    }
+    if (const auto it = value.find("end"); it != value.end()) {
+      scenario.end = readEnd(*it, jsonPointer(pointer, "end"));
+    }
+  } catch (const JsonFieldError& e) {
+    scenario = {};
     return e.error();
   }
   return std::nullopt;

@@ -1,25 +1,18 @@
 #pragma once
 
 #include "model_json/json_input.h"
+#include "tradeoffs/scenario.h"
+
+// JSON
+#include <nlohmann/json.hpp>
 
 // Std
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
 namespace tnw {
-
-// One judgment of `tnwizard tradeoffs`: the pair, the four scores [a1, b1, a2, b2] and the
-// response (0 numerical, -3..3 verbal).
-struct TradeOffJudgment {
-  // The attribute indexes of the pair.
-  int first = 0;
-  int second = 0;
-  // a1, b1, a2, b2 as given.
-  double scores[4] = {0, 0, 0, 0};
-  // The verbal response, 0 for a numerical judgment.
-  int response = 0;
-};
 
 // What a judgment list may hold. The method needs a few judgments per attribute of at most 31;
 // judgments past that number are not recorded, so a thousand is far more than a session makes.
@@ -29,5 +22,12 @@ inline constexpr JsonLimits kJudgmentsJsonLimits{1u << 20, 8, 1000, 256, 64};
 // where and why they cannot be entered. A judgment is named by its 0-based place, "[2]".
 std::optional<JsonInputError> readTradeOffJudgments(std::string_view text, int numAtt,
                                                     std::vector<TradeOffJudgment>& judgments);
+
+// Reads one trade-off run found at `pointer` of a larger document for a model of numAtt
+// attributes: {"judgments": [judgment, ...], "end": "Finish" | "Cancel" | "Back"}, both members
+// optional ("end" is "Finish" when left out). Errors name the members below pointer.
+std::optional<JsonInputError> readTradeOffScenario(const nlohmann::json& value,
+                                                   const std::string& pointer, int numAtt,
+                                                   TradeOffScenario& scenario);
 
 }  // namespace tnw

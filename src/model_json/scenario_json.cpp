@@ -10,6 +10,9 @@
 namespace tnw {
 namespace {
 
+using direct::DirectScenario;
+using direct::ScenarioEnd;
+using direct::ScenarioStep;
 using nlohmann::json;
 
 // The text typed into a box: a string, or a number written as JSON writes it.
@@ -41,43 +44,68 @@ ScenarioStep readStep(const json& step, const std::string& pointer) {
   return s;
 }
 
-void readScenario(const json& j, DirectScenario& out) {
-  if (!j.is_object()) throw JsonFieldError("the file", "expected the scenario as a JSON object");
+ScenarioEnd readEnd(const json& value, const std::string& pointer) {
+  if (value == "Finish") return ScenarioEnd::Finish;
+  if (value == "Cancel") return ScenarioEnd::Cancel;
+  if (value == "Back") return ScenarioEnd::Back;
+  throw JsonFieldError(pointer, "expected \"Finish\", \"Cancel\" or \"Back\"");
+}
+
+std::vector<int> readOrder(const json& value, const std::string& pointer) {
+  if (!value.is_array() || value.size() > static_cast<std::size_t>(kMaxAttributes)) {
+    throw JsonFieldError(pointer, "expected a list of up to 31 group numbers");
+  }
+  std::vector<int> order;
+  for (std::size_t i = 0; i < value.size(); ++i) {
+    order.push_back(
+        static_cast<int>(integerFrom(value[i], jsonPointer(pointer, i), 1, kMaxAttributes)));
+  }
+  return order;
+}
+
+void readScenario(const json& j, const std::string& base, DirectScenario& out) {
+  if (!j.is_object()) {
+    throw JsonFieldError(base.empty() ? "the file" : base,
+                         "expected the scenario as a JSON object");
+  }
   if (const auto it = j.find("order"); it != j.end()) {
-    if (!it->is_array() || it->size() > static_cast<std::size_t>(kMaxAttributes)) {
-      throw JsonFieldError("/order", "expected a list of up to 31 group numbers");
-    }
-    std::vector<int> order;
-    for (std::size_t i = 0; i < it->size(); ++i) {
-      order.push_back(
-          static_cast<int>(integerFrom((*it)[i], jsonPointer("/order", i), 1, kMaxAttributes)));
-    }
-    out.order = std::move(order);
+    out.order = readOrder(*it, jsonPointer(base, "order"));
   }
   if (const auto it = j.find("reference"); it != j.end()) {
-    out.reference = static_cast<int>(integerFrom(*it, "/reference", 0, kMaxAttributes - 1));
+    out.reference =
+        static_cast<int>(integerFrom(*it, jsonPointer(base, "reference"), 0, kMaxAttributes - 1));
   }
   if (const auto it = j.find("steps"); it != j.end()) {
-    if (!it->is_array()) throw JsonFieldError("/steps", "expected a list of steps");
+    const std::string pointer = jsonPointer(base, "steps");
+    if (!it->is_array()) throw JsonFieldError(pointer, "expected a list of steps");
     for (std::size_t i = 0; i < it->size(); ++i) {
-      out.steps.push_back(readStep((*it)[i], jsonPointer("/steps", i)));
+      out.steps.push_back(readStep((*it)[i], jsonPointer(pointer, i)));
     }
+  }
+  if (const auto it = j.find("end"); it != j.end()) {
+    out.end = readEnd(*it, jsonPointer(base, "end"));
   }
 }
 
 }  // namespace
 
-std::optional<JsonInputError> readDirectScenario(std::string_view text, DirectScenario& scenario) {
+std::optional<JsonInputError> readDirectScenario(const json& value, const std::string& pointer,
+                                                 DirectScenario& scenario) {
   scenario = {};
-  json j;
-  if (auto error = parseJsonText(text, kScenarioJsonLimits, j)) return error;
   try {
-    readScenario(j, scenario);
+    readScenario(value, pointer, scenario);
   } catch (const JsonFieldError& e) {
     scenario = {};
     return e.error();
   }
   return std::nullopt;
+}
+
+std::optional<JsonInputError> readDirectScenario(std::string_view text, DirectScenario& scenario) {
+  scenario = {};
+  json j;
+  if (auto error = parseJsonText(text, kScenarioJsonLimits, j)) return error;
+  return readDirectScenario(j, "", scenario);
 }
 
 }  // namespace tnw

@@ -1,35 +1,17 @@
 #pragma once
 
+#include "direct/scenario.h"
 #include "model_json/json_input.h"
+
+// JSON
+#include <nlohmann/json.hpp>
 
 // Std
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace tnw {
-
-// One step of a direct-method scenario: a restart, or a target with the two typed texts.
-struct ScenarioStep {
-  // {"restart": true}: Re-start All is pressed instead of a judgment.
-  bool restart = false;
-  // The target chosen in the list (-1 when none is given).
-  int target = -1;
-  // The texts typed into the lower and the upper ratio box.
-  std::string lower;
-  std::string upper;
-};
-
-// A scenario of `tnwizard direct`, read and checked but not yet run.
-struct DirectScenario {
-  // The group (1..31) of each attribute, when given.
-  std::optional<std::vector<int>> order;
-  // The reference attribute (0..30), when given.
-  std::optional<int> reference;
-  // The judgment steps in order.
-  std::vector<ScenarioStep> steps;
-};
 
 // What a scenario may hold. A model has at most 31 attributes, a ratio is typed in a few
 // characters, and a session of judgments with every re-entry and restart a user makes stays
@@ -37,7 +19,18 @@ struct DirectScenario {
 inline constexpr JsonLimits kScenarioJsonLimits{1u << 20, 8, 1000, 256, 64};
 
 // Reads the scenario text within kScenarioJsonLimits into scenario: nothing, or where and why
-// it cannot be run.
-std::optional<JsonInputError> readDirectScenario(std::string_view text, DirectScenario& scenario);
+// it cannot be run. A scenario is an object:
+//   {"order": [group per attribute], "reference": r,
+//    "steps": [{"target": t, "lower": "text", "upper": "text"} | {"restart": true}, ...],
+//    "end": "Finish" | "Cancel" | "Back"}
+// every member optional ("end" is "Finish" when left out); its texts are typed key by key.
+std::optional<JsonInputError> readDirectScenario(std::string_view text,
+                                                 direct::DirectScenario& scenario);
+
+// Reads one scenario object found at `pointer` of a larger document (errors name the members
+// below it) into scenario, as readDirectScenario does.
+std::optional<JsonInputError> readDirectScenario(const nlohmann::json& value,
+                                                 const std::string& pointer,
+                                                 direct::DirectScenario& scenario);
 
 }  // namespace tnw

@@ -13,10 +13,9 @@ namespace tnw {
 struct WizardContext;
 class RandomSource;
 
-// Enters the judgments through the trade-off dialog's presenter as its Enter does (the pair
-// chosen in manual mode, the four scores, the response), then presses Next and, when the fit was
-// completed, Finish. The result in the shape `tnwizard tradeoffs` prints: the fit, every message
-// shown in "warnings", and the export (null when there was none).
+// Plays the judgments with the trade-off method's scenario player, ending with Finish (Next, and
+// Finish when the fit was completed). The result in the shape `tnwizard tradeoffs` prints: the fit,
+// every message shown in "warnings", and the export (null when there was none).
 nlohmann::ordered_json playTradeOffJudgments(WizardContext& context,
                                              const std::vector<TradeOffJudgment>& judgments,
                                              RandomSource& random);

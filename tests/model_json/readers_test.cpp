@@ -8,6 +8,8 @@
 namespace tnw {
 namespace {
 
+using direct::DirectScenario;
+
 std::string scenarioError(const std::string& text) {
   DirectScenario s;
   const auto e = readDirectScenario(text, s);
@@ -114,6 +116,41 @@ TEST(ModelJsonTextTest, BooleansAreNotNumbers) {
   const auto n = modelFromJsonText(R"({"numAtt": 2.5})", m);
   ASSERT_TRUE(n.has_value());
   EXPECT_EQ(n->text(), "model.numAtt: expected an integer");
+}
+
+TEST(ScenarioJsonTest, ARunsEndIsReadAndErrorsInsideALargerDocumentNameTheirPlace) {
+  DirectScenario s;
+  ASSERT_EQ(readDirectScenario(R"({"end": "Back"})", s), std::nullopt);
+  EXPECT_EQ(s.end, direct::ScenarioEnd::Back);
+  EXPECT_EQ(s.entry, direct::TextEntry::Typed);
+  ASSERT_EQ(readDirectScenario("{}", s), std::nullopt);
+  EXPECT_EQ(s.end, direct::ScenarioEnd::Finish);
+  EXPECT_EQ(scenarioError(R"({"end": "Close"})"),
+            "/end: expected \"Finish\", \"Cancel\" or \"Back\"");
+  const auto run = nlohmann::json::parse(R"({"order": [1, 0], "end": "Cancel"})");
+  const auto e = readDirectScenario(run, "/direct/1", s);
+  ASSERT_TRUE(e.has_value());
+  EXPECT_EQ(e->text(), "/direct/1/order/1: expected an integer from 1 to 31, not 0");
+  EXPECT_FALSE(s.order.has_value());
+}
+
+TEST(JudgmentsJsonTest, ATradeOffRunIsReadWithItsJudgmentsAndItsEnd) {
+  TradeOffScenario run;
+  const auto value = nlohmann::json::parse(
+      R"({"judgments": [{"first": 1, "second": 0, "scores": [1, 2, 3, 4]}], "end": "Cancel"})");
+  ASSERT_EQ(readTradeOffScenario(value, "/tradeOffs/0", 2, run), std::nullopt);
+  ASSERT_EQ(run.judgments.size(), 1u);
+  EXPECT_EQ(run.judgments[0].first, 1);
+  EXPECT_EQ(run.judgments[0].scores[3], 4.0);
+  EXPECT_EQ(run.end, ScenarioEnd::Cancel);
+  const auto bad = nlohmann::json::parse(R"({"judgments": [{"first": 2, "second": 0,
+      "scores": [1, 2, 3, 4]}]})");
+  const auto e = readTradeOffScenario(bad, "/tradeOffs/0", 2, run);
+  ASSERT_TRUE(e.has_value());
+  EXPECT_EQ(e->where, "/tradeOffs/0/judgments/0/first");
+  EXPECT_TRUE(run.judgments.empty());
+  ASSERT_EQ(readTradeOffScenario(nlohmann::json::object(), "/tradeOffs/1", 2, run), std::nullopt);
+  EXPECT_EQ(run.end, ScenarioEnd::Finish);
 }
 
 }  // namespace

@@ -1,28 +1,27 @@
 #pragma once
 
-#include "direct/direct_a_presenter.h"
+#include "direct/scenario_player.h"
 #include "scripted/scripted_dialog.h"
-
-// nlohmann
-#include <nlohmann/json.hpp>
+#include "scripted/scripted_scenario.h"
 
 namespace tnw {
 
-class ScriptedScenario;
 struct WizardContext;
 
-// frmDirectA in the scripted test build: the direct-method presenter, loaded on creation, plays
-// one run of the scenario's "direct" list when first shown:
+// frmDirectA in the scripted test build: the direct method's scenario player, its dialog loaded
+// on creation, plays one run of the scenario's "direct" list when first shown:
 //   {"order": [group per attribute], "reference": r,
 //    "steps": [{"target": t, "lower": "text", "upper": "text"} | {"restart": true}, ...],
 //    "end": "Finish" | "Cancel" | "Back"}
-// as the command line's direct runner does ("order" and "reference" may be left out when the
-// model holds an earlier result). After Finish it traces the exported arrays as they are once
-// the host's handler returned, which shows that the host's changes reached the dialog's arrays.
-class ScriptedDirectDialog : public ScriptedDialog {
+// read and played as the command line's direct runner does, with each text set whole ("order"
+// and "reference" may be left out when the model holds an earlier result; a run with only an
+// "end" other than Finish stays on the first step). After Finish it traces the exported arrays
+// as they are once the host's handler returned, which shows that the host's changes reached the
+// dialog's arrays.
+class ScriptedDirectDialog : public ScriptedDialog, private direct::ScenarioObserver {
  public:
   // A loaded direct-method dialog (loading sends its status text through events).
-  ScriptedDirectDialog(std::string name, WizardContext& context, direct::DirectAEvents& events,
+  ScriptedDirectDialog(std::string name, WizardContext& context, DirectAEvents& events,
                        UiServices& ui, ScriptedScenario& scenario, MessageWindow& window,
                        const ScriptedTrace& trace);
 
@@ -31,14 +30,14 @@ class ScriptedDirectDialog : public ScriptedDialog {
   void act() override;
 
  private:
-  void placeOrder(const nlohmann::json& order);
-  void chooseReference(const nlohmann::json& run);
-  void judge(const nlohmann::json& step);
-  void end(const std::string& how);
+  void orderPlaced(bool nextEnabled) override;
+  void referenceChosen(int step, const std::string& caption) override;
+  void stepPlayed(const direct::ScenarioStep& step, const direct::PlayedStep& played) override;
+  void finishing(int step, bool finishEnabled) override;
   std::string arraysText() const;
 
-  direct::DirectAPresenter m_presenter;
-  nlohmann::json m_run;
+  direct::ScenarioPlayer m_player;
+  ScriptedScenario::Run m_run;
   bool m_played = false;
 };
 

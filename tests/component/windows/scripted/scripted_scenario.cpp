@@ -1,5 +1,8 @@
 #include "scripted/scripted_scenario.h"
 
+#include "model_json/json_fields.h"
+#include "model_json/json_input.h"
+#include "model_json/scenario_json.h"
 #include "scripted/scripted_trace.h"
 
 // Windows
@@ -34,21 +37,49 @@ std::string readScenarioFile(const ScriptedTrace& trace) {
   return text;
 }
 
+void addRuns(const nlohmann::json& scenario, const char* key,
+             std::deque<ScriptedScenario::Run>& runs) {
+  const auto it = scenario.find(key);
+  if (it == scenario.end()) return;
+  const std::string list = jsonPointer("", key);
+  if (!it->is_array()) throw JsonFieldError(list, "expected a list of runs");
+  for (std::size_t i = 0; i < it->size(); ++i) runs.push_back({(*it)[i], jsonPointer(list, i)});
+}
+
+void readScenario(const nlohmann::json& scenario, std::deque<std::string>& selMethod,
+                  std::deque<ScriptedScenario::Run>& direct,
+                  std::deque<ScriptedScenario::Run>& tradeOffs) {
+  if (!scenario.is_object()) throw JsonFieldError("the file", "expected a JSON object");
+  if (const auto it = scenario.find("selMethod"); it != scenario.end()) {
+    if (!it->is_array()) throw JsonFieldError("/selMethod", "expected a list of actions");
+    for (std::size_t i = 0; i < it->size(); ++i) {
+      const nlohmann::json& action = (*it)[i];
+      if (!action.is_string()) {
+        throw JsonFieldError(jsonPointer("/selMethod", i), "expected an action's name");
+      }
+      selMethod.push_back(action.get<std::string>());
+    }
+  }
+  addRuns(scenario, "direct", direct);
+  addRuns(scenario, "tradeOffs", tradeOffs);
+}
+
 }  // namespace
 
 ScriptedScenario::ScriptedScenario(const ScriptedTrace& trace) : m_given(scenarioGiven()) {
   const std::string text = readScenarioFile(trace);
   if (text.empty()) return;
-  try {
-    const nlohmann::json scenario = nlohmann::json::parse(text);
-    for (const auto& action : scenario.value("selMethod", nlohmann::json::array()))
-      m_selMethod.push_back(action.get<std::string>());
-    for (const auto& run : scenario.value("direct", nlohmann::json::array()))
-      m_direct.push_back(run);
-    for (const auto& run : scenario.value("tradeOffs", nlohmann::json::array()))
-      m_tradeOffs.push_back(run);
-  } catch (const nlohmann::json::exception& error) {
-    trace.write(std::string("scenario error: ") + error.what());
+  nlohmann::json scenario;
+  std::optional<JsonInputError> error = parseJsonText(text, kScenarioJsonLimits, scenario);
+  if (!error) {
+    try {
+      readScenario(scenario, m_selMethod, m_direct, m_tradeOffs);
+    } catch (const JsonFieldError& e) {
+      error = e.error();
+    }
+  }
+  if (error) {
+    trace.write("scenario error: " + error->text());
     m_selMethod.clear();
     m_direct.clear();
     m_tradeOffs.clear();
@@ -62,16 +93,16 @@ std::string ScriptedScenario::nextSelMethodAction() {
   return action;
 }
 
-nlohmann::json ScriptedScenario::nextDirectRun() {
-  if (m_direct.empty()) return nullptr;
-  nlohmann::json run = std::move(m_direct.front());
+ScriptedScenario::Run ScriptedScenario::nextDirectRun() {
+  if (m_direct.empty()) return {};
+  Run run = std::move(m_direct.front());
   m_direct.pop_front();
   return run;
 }
 
-nlohmann::json ScriptedScenario::nextTradeOffsRun() {
-  if (m_tradeOffs.empty()) return nullptr;
-  nlohmann::json run = std::move(m_tradeOffs.front());
+ScriptedScenario::Run ScriptedScenario::nextTradeOffsRun() {
+  if (m_tradeOffs.empty()) return {};
+  Run run = std::move(m_tradeOffs.front());
   m_tradeOffs.pop_front();
   return run;
 }

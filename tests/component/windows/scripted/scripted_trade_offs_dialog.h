@@ -1,27 +1,27 @@
 #pragma once
 
 #include "scripted/scripted_dialog.h"
+#include "scripted/scripted_scenario.h"
 #include "tradeoffs/clock_random_source.h"
+#include "tradeoffs/scenario_player.h"
 #include "tradeoffs/trade_offs_a_events.h"
-#include "tradeoffs/trade_offs_a_presenter.h"
-
-// nlohmann
-#include <nlohmann/json.hpp>
 
 namespace tnw {
 
-class ScriptedScenario;
 struct WizardContext;
 
-// frmTradeOffsA in the scripted test build: the trade-off presenter, loaded on creation, plays
-// one run of the scenario's "tradeOffs" list when first shown:
+// frmTradeOffsA in the scripted test build: the trade-off method's scenario player, its dialog
+// loaded on creation, plays one run of the scenario's "tradeOffs" list when first shown:
 //   {"judgments": [{"first": i, "second": j, "scores": [a1, b1, a2, b2], "response": r}, ...],
 //    "end": "Finish" | "Cancel" | "Back"}
-// as the command line's trade-off runner does: each judgment chooses the pair in manual mode,
-// types the four scores and the response and presses Enter; Finish first presses Next, which
-// runs the regression. The presenter's events pass through the dialog on their way to the
-// component, so that after Finish it traces the exported arrays as the host left them.
-class ScriptedTradeOffsDialog : public ScriptedDialog, private TradeOffsAEvents {
+// read and played as the command line's trade-off runner does: each judgment chooses the pair
+// in manual mode, enters the four scores and the response and presses Enter; Finish first
+// presses Next, which runs the regression, and is pressed when the fit was completed. The
+// presenter's events pass through the dialog on their way to the component, so that after Finish it
+// traces the exported arrays as the host left them.
+class ScriptedTradeOffsDialog : public ScriptedDialog,
+                                private TradeOffsAEvents,
+                                private TradeOffObserver {
  public:
   // A loaded trade-off dialog (loading sends its instruction through events).
   ScriptedTradeOffsDialog(std::string name, WizardContext& context, TradeOffsAEvents& events,
@@ -38,15 +38,14 @@ class ScriptedTradeOffsDialog : public ScriptedDialog, private TradeOffsAEvents 
   void SendMasseges(const std::string& Msg) override;
   void ShowTNWSelMethod() override;
   void UnloadTNWizard(std::int16_t fIndex, bool WeightsDone) override;
-  void judge(const nlohmann::json& judgment);
-  bool choosePair(int first, int second);
-  void finish();
+  void judgmentEntered(const TradeOffJudgment& judgment, bool entered) override;
+  void finishing(int step, const std::string& comment, bool finishEnabled) override;
 
   WizardContext& m_context;
   TradeOffsAEvents& m_events;
   ClockRandomSource m_random;
-  TradeOffsAPresenter m_presenter;
-  nlohmann::json m_run;
+  TradeOffScenarioPlayer m_player;
+  ScriptedScenario::Run m_run;
   bool m_played = false;
 };
 
