@@ -1,6 +1,7 @@
 #include "direct/direct_a_dialog.h"
 
 #include "direct/cone_area_widget.h"
+#include "direct/direct_accessibility_qt.h"
 #include "direct/direct_judgment_page_widget.h"
 #include "direct/direct_order_page_widget.h"
 #include "direct/direct_reference_page_widget.h"
@@ -94,6 +95,7 @@ DirectADialog::DirectADialog(WizardContext& context, UiServices& ui, DirectAEven
 
   m_presenter.setChangeListener([this] { render(); });
   m_presenter.Form_Load();
+  m_accessibility = new DirectAccessibilityQt(this);
   render();
   focusStep(0);
   resize(initialSize());
@@ -277,6 +279,7 @@ void DirectADialog::render() {
       m_timer.start(interval);
     }
   } while (m_renderAgain);
+  if (m_accessibility != nullptr) m_accessibility->refresh();
   m_rendering = false;
 }
 

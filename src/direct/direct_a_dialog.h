@@ -18,6 +18,7 @@ class QStackedWidget;
 
 namespace tnw {
 
+class DirectAccessibilityQt;
 class DirectJudgmentPageWidget;
 class DirectOrderPageWidget;
 class DirectReferencePageWidget;
@@ -76,6 +77,7 @@ class DirectADialog : public WizardDialogQt {
   DirectJudgmentPageWidget* m_judgmentPage = nullptr;
   DirectResultsPageWidget* m_resultsPage = nullptr;
   RatioBoxFilter* m_ratioFilter = nullptr;
+  DirectAccessibilityQt* m_accessibility = nullptr;
   QPushButton* m_cmdBack = nullptr;
   QPushButton* m_cmdNext = nullptr;
   QPushButton* m_cmdFinish = nullptr;

@@ -1,5 +1,7 @@
 #include "selmethod/sel_method_dialog.h"
 
+#include "common/accessibility_qt.h"
+
 // Qt
 #include <QFrame>
 #include <QGridLayout>
@@ -41,6 +43,9 @@ SelMethodDialog::SelMethodDialog(const WizardContext& context, UiServices& ui,
       {QStringLiteral("MS Sans Serif"), QStringLiteral("Microsoft Sans Serif"), f.family()});
   setFont(f);
   buildLayout();
+  nameControlsByBuddies(this);
+  describeWizardButtons(this);
+  applyAccessibleTexts(this, {{"lstMethods", nullptr, "Next starts the method selected here"}});
   connectControls();
   render();
   m_presenter.Form_Load();

@@ -10,6 +10,7 @@
 #include "tradeoffs/trade_offs_judgment_widget.h"
 #include "tradeoffs/trade_offs_printout_qt.h"
 #include "tradeoffs/trade_offs_results_widget.h"
+#include "tradeoffs/tradeoffs_accessibility_qt.h"
 
 // Qt
 #include <QDate>
@@ -72,6 +73,7 @@ TradeOffsADialog::TradeOffsADialog(WizardContext& context, UiServices& ui, Trade
       PcPointWidget::loadDragCursor(dir, QStringLiteral("bdrag.ico"), QStringLiteral("B")));
   m_presenter->setChangedCallback([this] { render(); });
   m_presenter->Form_Load();
+  m_accessibility = new TradeOffsAccessibilityQt(this, *m_presenter);
   render();
   m_judgment->controls().scoreBox[0]->setFocus();
 }
@@ -166,6 +168,7 @@ void TradeOffsADialog::render() {
   } else {
     m_resultsBinding->render();
   }
+  if (m_accessibility != nullptr) m_accessibility->refresh();
 }
 
 TradeOffsPrintoutQt TradeOffsADialog::printout() const {
