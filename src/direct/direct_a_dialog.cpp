@@ -1,5 +1,6 @@
 #include "direct/direct_a_dialog.h"
 
+#include "common/wizard_buttons_qt.h"
 #include "direct/cone_area_widget.h"
 #include "direct/direct_accessibility_qt.h"
 #include "direct/direct_judgment_page_widget.h"
@@ -13,6 +14,7 @@
 
 // Qt
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QFrame>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -154,13 +156,12 @@ QLayout* DirectADialog::buildButtons() {
   m_cmdHelp = makeButton("cmdHelp", this);
   m_cmdNext->setDefault(true);
   auto* buttons = new QHBoxLayout;
-  buttons->addWidget(m_cmdHelp);
-  buttons->addStretch(1);
-  buttons->addWidget(m_cmdBack);
-  buttons->addWidget(m_cmdNext);
-  buttons->addSpacing(8);
-  buttons->addWidget(m_cmdFinish);
-  buttons->addWidget(m_cmdCancel);
+  buttons->setContentsMargins(0, 0, 0, 0);
+  buttons->addWidget(makeWizardButtonBox(this, {.back = m_cmdBack,
+                                                .next = m_cmdNext,
+                                                .finish = m_cmdFinish,
+                                                .cancel = m_cmdCancel,
+                                                .help = m_cmdHelp}));
   return buttons;
 }
 
@@ -349,7 +350,8 @@ void DirectADialog::applyTabOrder(int step) {
       chain << m_resultsPage->grid() << m_resultsPage->exactGrid();
       break;
   }
-  chain << m_cmdHelp << m_cmdBack << m_cmdNext << m_cmdFinish << m_cmdCancel;
+  // The button box keeps its buttons in the order it shows them; it follows as one block.
+  chain << m_cmdHelp->parentWidget();
   if (chain == m_tabChain) return;
   m_tabChain = chain;
   for (int i = 1; i < chain.size(); ++i) setTabOrder(chain[i - 1], chain[i]);
