@@ -20,6 +20,7 @@
 #include <QHBoxLayout>
 #include <QKeySequence>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
@@ -350,8 +351,13 @@ void DirectADialog::applyTabOrder(int step) {
       chain << m_resultsPage->grid() << m_resultsPage->exactGrid();
       break;
   }
-  // The button box keeps its buttons in the order it shows them; it follows as one block.
-  chain << m_cmdHelp->parentWidget();
+  // The buttons follow in the order their box shows them. The box makes its first button its
+  // focus proxy, which would take the others out of this chain; the chain links them itself.
+  QWidget* box = m_cmdHelp->parentWidget();
+  box->setFocusProxy(nullptr);
+  for (int i = 0; box->layout() != nullptr && i < box->layout()->count(); ++i) {
+    if (QWidget* w = box->layout()->itemAt(i)->widget()) chain << w;
+  }
   if (chain == m_tabChain) return;
   m_tabChain = chain;
   for (int i = 1; i < chain.size(); ++i) setTabOrder(chain[i - 1], chain[i]);

@@ -26,7 +26,11 @@ const char* const kScoreBoxes[4] = {"txtTradeOffAFirstScore", "txtTradeOffASecon
 
 // The toolbar's button of an action, made a stop of the Tab chain.
 void makeFocusable(QToolBar* bar, QAction* action) {
-  if (QWidget* button = bar->widgetForAction(action)) button->setFocusPolicy(Qt::TabFocus);
+  QWidget* button = bar->widgetForAction(action);
+  if (button == nullptr) return;
+  button->setFocusPolicy(Qt::TabFocus);
+  // The button goes by its action's name (Up, Down, or the chart's key).
+  if (button->objectName().isEmpty()) button->setObjectName(action->objectName());
 }
 
 }  // namespace
