@@ -1,7 +1,10 @@
 #include "direct/direct_a_dialog.h"
 
+#include "common/wizard_buttons_qt.h"
 #include "direct/cone_area_widget.h"
 #include "direct/control_rendering.h"
+
+#include "direct/direct_accessibility_qt.h"
 #include "direct/direct_judgment_page_widget.h"
 #include "direct/direct_order_page_widget.h"
 #include "direct/direct_reference_page_widget.h"
@@ -11,10 +14,12 @@
 
 // Qt
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QKeySequence>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
@@ -91,6 +96,7 @@ DirectADialog::DirectADialog(WizardContext& context, UiServices& ui, DirectAEven
 
   m_presenter.setChangeListener([this] { render(); });
   m_presenter.Form_Load();
+  m_accessibility = new DirectAccessibilityQt(this);
   render();
   focusStep(0);
   resize(initialSize());
@@ -152,13 +158,12 @@ QLayout* DirectADialog::buildButtons() {
   m_cmdHelp = makeButton("cmdHelp", this);
   m_cmdNext->setDefault(true);
   auto* buttons = new QHBoxLayout;
-  buttons->addWidget(m_cmdHelp);
-  buttons->addStretch(1);
-  buttons->addWidget(m_cmdBack);
-  buttons->addWidget(m_cmdNext);
-  buttons->addSpacing(8);
-  buttons->addWidget(m_cmdFinish);
-  buttons->addWidget(m_cmdCancel);
+  buttons->setContentsMargins(0, 0, 0, 0);
+  buttons->addWidget(makeWizardButtonBox(this, {.back = m_cmdBack,
+                                                .next = m_cmdNext,
+                                                .finish = m_cmdFinish,
+                                                .cancel = m_cmdCancel,
+                                                .help = m_cmdHelp}));
   return buttons;
 }
 
@@ -278,6 +283,7 @@ void DirectADialog::render() {
       m_timer.start(interval);
     }
   } while (m_renderAgain);
+  if (m_accessibility != nullptr) m_accessibility->refresh();
   m_rendering = false;
 }
 
@@ -323,7 +329,13 @@ void DirectADialog::applyTabOrder(int step) {
       chain << m_resultsPage->grid() << m_resultsPage->exactGrid();
       break;
   }
-  chain << m_cmdHelp << m_cmdBack << m_cmdNext << m_cmdFinish << m_cmdCancel;
+  // The buttons follow in the order their box shows them. The box makes its first button its
+  // focus proxy, which would take the others out of this chain; the chain links them itself.
+  QWidget* box = m_cmdHelp->parentWidget();
+  box->setFocusProxy(nullptr);
+  for (int i = 0; box->layout() != nullptr && i < box->layout()->count(); ++i) {
+    if (QWidget* w = box->layout()->itemAt(i)->widget()) chain << w;
+  }
   if (chain == m_tabChain) return;
   m_tabChain = chain;
   for (int i = 1; i < chain.size(); ++i) setTabOrder(chain[i - 1], chain[i]);

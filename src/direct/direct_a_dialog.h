@@ -13,6 +13,7 @@ class QStackedWidget;
 
 namespace tnw::direct {
 
+class DirectAccessibilityQt;
 class DirectJudgmentPageWidget;
 class DirectOrderPageWidget;
 class DirectReferencePageWidget;
@@ -74,6 +75,7 @@ class DirectADialog : public WizardDialogQt {
   DirectJudgmentPageWidget* m_judgmentPage = nullptr;
   DirectResultsPageWidget* m_resultsPage = nullptr;
   RatioBoxFilter* m_ratioFilter = nullptr;
+  DirectAccessibilityQt* m_accessibility = nullptr;
   QPushButton* m_cmdBack = nullptr;
   QPushButton* m_cmdNext = nullptr;
   QPushButton* m_cmdFinish = nullptr;

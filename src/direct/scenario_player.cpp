@@ -85,7 +85,7 @@ void ScenarioPlayer::chooseOrderAndReference(const DirectScenario& scenario,
                                              ScenarioObserver& observer) {
   if (scenario.order) {
     placeOrder(*scenario.order);
-    observer.orderPlaced(m_presenter.control("cmdNext").enabled);
+    observer.orderPlaced(m_presenter.cmdNext().enabled);
   } else if (!m_presenter.resuming()) {
     throw ScenarioError("\"order\" is needed when the model holds no earlier result");
   }
@@ -127,7 +127,7 @@ void ScenarioPlayer::enterText(Box box, const std::string& text, TextEntry entry
   }
   m_presenter.txtWR_SetText(box, "");
   for (const unsigned char c : text) {
-    const TextBoxState& shown = m_presenter.judgment().box(box);
+    const wizard::TextBoxState& shown = m_presenter.judgment().box(box);
     m_presenter.txtWR_KeyPress(box, shown.selStart, shown.selLength, c);
   }
 }
@@ -146,7 +146,7 @@ bool ScenarioPlayer::judge(const ScenarioStep& step, TextEntry entry) {
   if (m_log.texts().size() != before) return false;
   m_presenter.txtWR_LostFocus(Box::Upper);
   if (m_log.texts().size() != before) return false;
-  if (!m_presenter.control("cmdEnter").enabled) return false;
+  if (!m_presenter.cmdEnter().enabled) return false;
   return m_presenter.cmdEnter_Click();
 }
 
@@ -178,7 +178,7 @@ void ScenarioPlayer::end(ScenarioEnd how, ScenarioObserver& observer) {
       return;
     case ScenarioEnd::Finish:
       m_presenter.cmdNext_Click();
-      observer.finishing(m_presenter.WizardStep(), m_presenter.control("cmdFinish").enabled);
+      observer.finishing(m_presenter.WizardStep(), m_presenter.cmdFinish().enabled);
       m_presenter.cmdFinish_Click();
       return;
   }

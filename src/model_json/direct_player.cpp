@@ -10,6 +10,7 @@
 namespace tnw {
 namespace {
 
+using namespace tnw::direct;
 using nlohmann::ordered_json;
 
 // The host side of the run: keeps the export and ignores the rest.

@@ -1,6 +1,10 @@
 #include "selmethod/sel_method_dialog.h"
 
+#include "common/accessibility_qt.h"
+#include "common/wizard_buttons_qt.h"
+
 // Qt
+#include <QDialogButtonBox>
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -41,6 +45,9 @@ SelMethodDialog::SelMethodDialog(const WizardContext& context, UiServices& ui,
       {QStringLiteral("MS Sans Serif"), QStringLiteral("Microsoft Sans Serif"), f.family()});
   setFont(f);
   buildLayout();
+  nameControlsByBuddies(this);
+  describeWizardButtons(this);
+  applyAccessibleTexts(this, {{"lstMethods", nullptr, "Next starts the method selected here"}});
   connectControls();
   render();
   m_presenter.Form_Load();
@@ -102,22 +109,17 @@ void SelMethodDialog::buildLayout() {
   m_cmdCancel = makeButton("cmdCancel", "&Cancel", this);
   m_cmdHelp = makeButton("cmdHelp", "&Help", this);
   m_cmdNext->setDefault(true);
-  auto* buttons = new QHBoxLayout;
-  // Left to right in the order the keyboard visits them.
-  buttons->addStretch(1);
-  buttons->addWidget(m_cmdBack);
-  buttons->addWidget(m_cmdNext);
-  buttons->addSpacing(8);
-  buttons->addWidget(m_cmdFinish);
-  buttons->addWidget(m_cmdCancel);
-  buttons->addSpacing(8);
-  buttons->addWidget(m_cmdHelp);
+  auto* buttons = makeWizardButtonBox(this, {.back = m_cmdBack,
+                                             .next = m_cmdNext,
+                                             .finish = m_cmdFinish,
+                                             .cancel = m_cmdCancel,
+                                             .help = m_cmdHelp});
 
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(top, 1);
   layout->addSpacing(4);
   layout->addWidget(frame1);
-  layout->addLayout(buttons);
+  layout->addWidget(buttons);
 
   setTabOrder(m_lstMethods, m_cmdBack);
   setTabOrder(m_cmdBack, m_cmdNext);

@@ -1,5 +1,6 @@
 #include "tradeoffs/trade_offs_a_dialog.h"
 
+#include "common/wizard_buttons_qt.h"
 #include "component/wizard_context.h"
 #include "tradeoffs/clock_random_source.h"
 #include "tradeoffs/judgment_page_binding_qt.h"
@@ -10,9 +11,11 @@
 #include "tradeoffs/trade_offs_judgment_widget.h"
 #include "tradeoffs/trade_offs_printout_qt.h"
 #include "tradeoffs/trade_offs_results_widget.h"
+#include "tradeoffs/tradeoffs_accessibility_qt.h"
 
 // Qt
 #include <QDate>
+#include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QFrame>
 #include <QHBoxLayout>
@@ -72,6 +75,7 @@ TradeOffsADialog::TradeOffsADialog(WizardContext& context, UiServices& ui, Trade
       PcPointWidget::loadDragCursor(dir, QStringLiteral("bdrag.ico"), QStringLiteral("B")));
   m_presenter->setChangedCallback([this] { render(); });
   m_presenter->Form_Load();
+  m_accessibility = new TradeOffsAccessibilityQt(this, *m_presenter);
   render();
   m_judgment->controls().scoreBox[0]->setFocus();
 }
@@ -114,21 +118,18 @@ void TradeOffsADialog::buildFrame() {
   m_cmdFinish = namedButton("cmdFinish", tr("&Finish"), this);
   m_cmdCancel = namedButton("cmdCancel", tr("&Cancel"), this);
   m_cmdHelp = namedButton("cmdTNWizardHelp", tr("&Help"), this);
-  auto* buttons = new QHBoxLayout;
-  buttons->addWidget(m_cmdPrint);
-  buttons->addStretch(1);
-  buttons->addWidget(m_cmdBack);
-  buttons->addWidget(m_cmdNext);
-  buttons->addWidget(m_cmdFinish);
-  buttons->addSpacing(12);
-  buttons->addWidget(m_cmdCancel);
-  buttons->addWidget(m_cmdHelp);
+  QDialogButtonBox* buttons = makeWizardButtonBox(this, {.back = m_cmdBack,
+                                                         .next = m_cmdNext,
+                                                         .finish = m_cmdFinish,
+                                                         .cancel = m_cmdCancel,
+                                                         .help = m_cmdHelp,
+                                                         .print = m_cmdPrint});
 
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(m_instruction);
   layout->addWidget(m_pages, 1);
   layout->addWidget(line);
-  layout->addLayout(buttons);
+  layout->addWidget(buttons);
 }
 
 void TradeOffsADialog::connectFrame() {
@@ -166,6 +167,7 @@ void TradeOffsADialog::render() {
   } else {
     m_resultsBinding->render();
   }
+  if (m_accessibility != nullptr) m_accessibility->refresh();
 }
 
 TradeOffsPrintoutQt TradeOffsADialog::printout() const {

@@ -17,6 +17,7 @@ class JudgmentPageBindingQt;
 class RandomSource;
 class ResultsPageBindingQt;
 class TradeOffsAEvents;
+class TradeOffsAccessibilityQt;
 class TradeOffsAPresenter;
 class TradeOffsJudgmentWidget;
 class TradeOffsPrintoutQt;
@@ -70,6 +71,7 @@ class TradeOffsADialog : public WizardDialogQt {
   TradeOffsResultsWidget* m_results = nullptr;
   JudgmentPageBindingQt* m_judgmentBinding = nullptr;
   ResultsPageBindingQt* m_resultsBinding = nullptr;
+  TradeOffsAccessibilityQt* m_accessibility = nullptr;
   QPushButton* m_cmdBack = nullptr;
   QPushButton* m_cmdNext = nullptr;
   QPushButton* m_cmdFinish = nullptr;

@@ -290,11 +290,14 @@ void DirectADialogInputTest::tabVisitsTheControlsInTheOrderShown() {
   QCOMPARE(QApplication::focusWidget(), control<QWidget>(m_dialog.get(), "cmdAttB", 0));
   tab();
   QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(button("cmdAdd")));
+  // The frame's buttons in the order shown (Next and Finish are disabled here).
   control<QWidget>(m_dialog.get(), "txtAttDefinition")->setFocus(Qt::TabFocusReason);
   tab();
-  QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(button("cmdHelp")));
-  tab();
   QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(button("cmdBack")));
+  tab();
+  QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(button("cmdCancel")));
+  tab();
+  QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(button("cmdHelp")));
 }
 
 void DirectADialogInputTest::helpOpensTheHostsHelpFileAtItsContext() {

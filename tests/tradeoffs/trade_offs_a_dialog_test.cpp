@@ -522,17 +522,28 @@ void TradeOffsADialogTest::tabOrderFollowsTheLayout() {
   QApplication::setActiveWindow(d.get());
   child<QRadioButton>(d.get(), "optPCAutomatic")->setFocus();
   QStringList chain;
-  for (int i = 0; i < 13; ++i) {
+  for (int i = 0; i < 23; ++i) {
     chain << QApplication::focusWidget()->objectName();
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
   }
-  // The lists are disabled in automatic mode, and Print and Finish on this page.
+  // The lists are disabled in automatic mode, and Print and Finish on this page. The points A
+  // and B and each score box's Up and Down buttons are stops of their own.
   const QStringList expected = {"optPCAutomatic",
                                 "tsComparisonApproaches",
+                                "shpPCA",
+                                "shpPCB",
                                 "txtTradeOffAFirstScore",
+                                "Up",
+                                "Down",
                                 "txtTradeOffASecondScore",
+                                "Up",
+                                "Down",
                                 "txtTradeOffBFirstScore",
+                                "Up",
+                                "Down",
                                 "txtTradeOffBSecondScore",
+                                "Up",
+                                "Down",
                                 "cmdTradeOffClearAll",
                                 "cmdTradeOffEnter",
                                 "cmdBack",

@@ -24,7 +24,7 @@ std::string numbers(const std::vector<double>& values) {
 }  // namespace
 
 ScriptedDirectDialog::ScriptedDirectDialog(std::string name, WizardContext& context,
-                                           DirectAEvents& events, UiServices& ui,
+                                           direct::DirectAEvents& events, UiServices& ui,
                                            ScriptedScenario& scenario, MessageWindow& window,
                                            const ScriptedTrace& trace)
     : ScriptedDialog(std::move(name), {760, 560}, window, trace),
@@ -80,7 +80,7 @@ std::string ScriptedDirectDialog::arraysText() const {
 }
 
 std::unique_ptr<WizardDialog> makeScriptedDirectDialog(std::string name, WizardContext& context,
-                                                       DirectAEvents& events, UiServices& ui,
+                                                       direct::DirectAEvents& events, UiServices& ui,
                                                        ScriptedScenario& scenario,
                                                        MessageWindow& window,
                                                        const ScriptedTrace& trace) {

@@ -21,7 +21,7 @@ struct WizardContext;
 class ScriptedDirectDialog : public ScriptedDialog, private direct::ScenarioObserver {
  public:
   // A loaded direct-method dialog (loading sends its status text through events).
-  ScriptedDirectDialog(std::string name, WizardContext& context, DirectAEvents& events,
+  ScriptedDirectDialog(std::string name, WizardContext& context, direct::DirectAEvents& events,
                        UiServices& ui, ScriptedScenario& scenario, MessageWindow& window,
                        const ScriptedTrace& trace);
 

@@ -1,0 +1,37 @@
+#pragma once
+
+// Qt
+#include <QObject>
+
+class QWidget;
+
+namespace tnw {
+
+class TradeOffsAPresenter;
+
+// What the trade-off dialog offers assistive tools and the keyboard beyond its widgets: names
+// and descriptions of its controls (a score box says which alternative and attribute it holds),
+// the points A and B as value objects moved by the arrow keys, the chart as a table of its
+// values, Up and Down in a score box stepping the score as its toolbar does, focusable step and
+// chart buttons with shortcuts, focus rings on the custom-painted controls, and tables that Tab
+// leaves.
+class TradeOffsAccessibilityQt : public QObject {
+  Q_OBJECT
+
+ public:
+  // Sets up the dialog's controls; the object lives as the dialog's child.
+  TradeOffsAccessibilityQt(QWidget* dialog, const TradeOffsAPresenter& presenter);
+
+  // Brings the texts up to date with what the dialog shows now (the selected attributes).
+  // Called after each render.
+  void refresh();
+
+ private:
+  void setUpStepButtons();
+  void setUpChartButtons();
+  void nameScoreBoxes();
+
+  QWidget* m_dialog;
+};
+
+}  // namespace tnw
