@@ -3,6 +3,7 @@
 #include "common/number_format.h"
 #include "common/ui_services.h"
 #include "component/wizard_context.h"
+#include "model/attribute_names.h"
 #include "model/value_function.h"
 #include "tradeoffs/score_entry.h"
 
@@ -15,24 +16,12 @@ namespace {
 
 constexpr const char* kTitle = "NORIX";
 
-std::string trimmed(const std::string& s) {
-  const auto b = s.find_first_not_of(' ');
-  if (b == std::string::npos) return {};
-  const auto e = s.find_last_not_of(' ');
-  return s.substr(b, e - b + 1);
-}
-
 // The attribute's stored low or high end, as stored: a range may run from a larger low end to
 // a smaller high end (a price, for instance), and the range message keeps that order.
 double scoreEnd(const AttributeModel& m, int att, bool high) {
   if (att < 0 || att >= kMaxAttributes) return 0.0;
   const auto a = static_cast<std::size_t>(att);
   return high ? m.AttScoreHigh[a] : m.AttScoreLow[a];
-}
-
-std::string attName(const AttributeModel& m, int att) {
-  if (att < 0 || att >= kMaxAttributes) return {};
-  return trimmed(m.AttName[static_cast<std::size_t>(att)]);
 }
 
 }  // namespace
@@ -47,7 +36,7 @@ void JudgmentPage::reset() {
   m_tradeOffsNeeded = static_cast<std::int16_t>((numAtt - 1) * numAtt / 2 * 2);
   m_store.dimension(m_tradeOffsNeeded, numAtt);
   std::vector<std::string> names;
-  for (int i = 0; i < numAtt; ++i) names.push_back(attName(m_context.model, i));
+  for (int i = 0; i < numAtt; ++i) names.push_back(model::attributeName(m_context.model, i));
   m_controls.lstTradeOffFirstC.items = names;
   m_controls.lstTradeOffSecondC.items = names;
   m_controls.labPCThisNum.caption = "1";
@@ -70,8 +59,8 @@ void JudgmentPage::setPair(int first, int second) {
 
 void JudgmentPage::relabel() {
   const AttributeModel& m = m_context.model;
-  m_controls.labPCCriterion1.caption = attName(m, m_first);
-  m_controls.labPCCriterion2.caption = attName(m, m_second);
+  m_controls.labPCCriterion1.caption = model::attributeName(m, m_first);
+  m_controls.labPCCriterion2.caption = model::attributeName(m, m_second);
   m_lowFirst = static_cast<float>(scoreEnd(m, m_first, false));
   m_highFirst = static_cast<float>(scoreEnd(m, m_first, true));
   m_lowSecond = static_cast<float>(scoreEnd(m, m_second, false));
@@ -188,7 +177,7 @@ void JudgmentPage::tsComparisonApproaches_Click(int tab) {
 }
 
 double JudgmentPage::boxValue(int box) const {
-  return leadingNumber(trimmed(m_controls.scoreBoxes[static_cast<std::size_t>(box)].text));
+  return leadingNumber(model::trimmed(m_controls.scoreBoxes[static_cast<std::size_t>(box)].text));
 }
 
 void JudgmentPage::fail(const std::string& text) {

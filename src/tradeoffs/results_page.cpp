@@ -2,17 +2,11 @@
 
 #include "common/number_format.h"
 #include "component/wizard_context.h"
+#include "model/attribute_names.h"
 
 namespace tnw {
 
 namespace {
-
-std::string trimmed(const std::string& s) {
-  const auto b = s.find_first_not_of(' ');
-  if (b == std::string::npos) return {};
-  const auto e = s.find_last_not_of(' ');
-  return s.substr(b, e - b + 1);
-}
 
 double at(const std::vector<double>& v, int i) {
   return i >= 0 && i < static_cast<int>(v.size()) ? v[static_cast<std::size_t>(i)] : 0.0;
@@ -24,7 +18,7 @@ ChartData hlcData(const WizardContext& c) {
   d.title = ResultsPage::kChartTitle;
   d.n = c.model.attributeCount();
   for (int i = 0; i < d.n; ++i) {
-    d.names.push_back(trimmed(c.model.AttName[static_cast<std::size_t>(i)]));
+    d.names.push_back(model::attributeName(c.model, i));
     d.data.push_back({at(c.UpperWeights, i), at(c.LowerWeights, i), at(c.CloseWeights, i)});
   }
   return d;
@@ -46,15 +40,14 @@ void ResultsPage::FillRegressionData(const MultiRegressionData& record,
   m_overall.cells[3][1] = formatNumber(record.RSquared, "0.0000");
   m_overall.cells[4][1] = formatNumber(record.NumObs, "###");
   m_overall.cells[5][1] = formatNumber(record.DegFreedom, "###");
-  m_comments.text = trimmed(comment);
+  m_comments.text = model::trimmed(comment);
 }
 
 void ResultsPage::SetgirdWeights(const WizardContext& context) {
   m_weights.cells = {{"Attributes", "Weights", "Est.High", "Est.Low"}};
   const int n = context.model.attributeCount();
   for (int i = 0; i < n; ++i) {
-    m_weights.cells.push_back(
-        {trimmed(context.model.AttName[static_cast<std::size_t>(i)]), "", "", ""});
+    m_weights.cells.push_back({model::attributeName(context.model, i), "", "", ""});
   }
 }
 
@@ -75,7 +68,7 @@ ChartData ResultsPage::Display_VerticalWeightBars(const WizardContext& context) 
   d.seriesCount = 1;
   d.legend = {"Weights"};
   for (int i = 0; i < d.n; ++i) {
-    d.names.push_back(trimmed(context.model.AttName[static_cast<std::size_t>(i)]));
+    d.names.push_back(model::attributeName(context.model, i));
     d.data.push_back({at(context.UpperWeights, i), 0.0, 0.0});
   }
   return d;

@@ -1,6 +1,7 @@
 #include "tradeoffs/score_entry.h"
 
 #include "common/number_format.h"
+#include "model/attribute_names.h"
 
 // Std
 #include <algorithm>
@@ -10,13 +11,6 @@
 namespace tnw {
 
 namespace {
-
-std::string trimmed(const std::string& s) {
-  const auto b = s.find_first_not_of(' ');
-  if (b == std::string::npos) return {};
-  const auto e = s.find_last_not_of(' ');
-  return s.substr(b, e - b + 1);
-}
 
 // Keeps the caret and selection inside the text, as a text box does.
 void clampSelection(TextBoxState& box) {
@@ -67,7 +61,7 @@ void ScoreEntry::applyKey(TextBoxState& box, int key) {
 }
 
 std::optional<std::string> ScoreEntry::checkRange(const std::string& text, float low, float high) {
-  const double v = leadingNumber(trimmed(text));
+  const double v = leadingNumber(model::trimmed(text));
   // The ends may come in either order; the message names them as they were given.
   if (v >= std::min(low, high) && v <= std::max(low, high)) return std::nullopt;
   return "The data you entered should be in the relevant score range [" + generalTextSingle(low) +
