@@ -18,7 +18,7 @@
 namespace {
 
 // Fixed draws, so that every iteration does the same work.
-class FixedRandomSource : public tnw::RandomSource {
+class FixedRandomSource : public tnw::tradeoffs::RandomSource {
  public:
   float next() override {
     m_r = m_r + 0.37f;

@@ -17,7 +17,7 @@
 namespace {
 
 // The same draws every run, so that a finding can be replayed.
-class FixedRandomSource : public tnw::RandomSource {
+class FixedRandomSource : public tnw::tradeoffs::RandomSource {
  public:
   float next() override {
     m_x = m_x * 0.618034f + 0.3f;

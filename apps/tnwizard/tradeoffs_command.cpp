@@ -29,7 +29,7 @@ int runTradeOffs(const std::vector<std::string>& args) {
     std::fprintf(stderr, "%s\n", tnw::inputErrorLine(args[1], *error).c_str());
     return 1;
   }
-  tnw::ClockRandomSource random;
+  tnw::tradeoffs::ClockRandomSource random;
   const std::string out = tnw::playTradeOffJudgments(ctx, judgments, random)
                               .dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
   std::printf("%s\n", out.c_str());

@@ -18,7 +18,7 @@ using nlohmann::ordered_json;
 using Judgment = TradeOffJudgment;
 
 // Keeps the one export the Finish button raises.
-class ExportCatcher : public TradeOffsAEvents {
+class ExportCatcher : public tradeoffs::TradeOffsAEvents {
  public:
   void ExportTradeOffsW(const std::string&, std::vector<double>& Weights,
                         std::vector<double>& WeightsH, std::vector<double>& WeightsL) override {
@@ -38,7 +38,7 @@ class ExportCatcher : public TradeOffsAEvents {
 // Chooses the pair in the two lists in an order that the lists do not refuse on the way. An
 // exchange of the two attributes goes through a third one when the model has one; with two
 // attributes the lists refuse it, as they do in the dialog.
-bool choosePair(TradeOffsAPresenter& p, const Judgment& j, int numAtt) {
+bool choosePair(tradeoffs::TradeOffsAPresenter& p, const Judgment& j, int numAtt) {
   const int first = p.judgmentPage().FirstAttIndex();
   const int second = p.judgmentPage().SecondAttIndex();
   if (j.first == second && j.second == first) {
@@ -60,7 +60,7 @@ bool choosePair(TradeOffsAPresenter& p, const Judgment& j, int numAtt) {
          p.judgmentPage().SecondAttIndex() == j.second;
 }
 
-void enterJudgment(TradeOffsAPresenter& p, const Judgment& j, int numAtt) {
+void enterJudgment(tradeoffs::TradeOffsAPresenter& p, const Judgment& j, int numAtt) {
   if (!choosePair(p, j, numAtt)) return;
   // Boxes in the order (1) A first, (2) A second, (3) B first, (4) B second.
   const double boxes[4] = {j.scores[0], j.scores[2], j.scores[1], j.scores[3]};
@@ -79,14 +79,14 @@ ordered_json firstK(const std::array<double, kMaxAttributes>& a, int k) {
 }
 
 // The judgments that lower the consistency index most, as the regression status tab lists them.
-ordered_json worstJudgments(const TradeOffsAPresenter& p) {
+ordered_json worstJudgments(const tradeoffs::TradeOffsAPresenter& p) {
   ordered_json list = ordered_json::array();
   const auto optional = [](const std::optional<double>& v) {
     return v ? ordered_json(*v) : ordered_json(nullptr);
   };
   const auto& lines = p.worstJudgmentLines();
   std::size_t at = 0;
-  for (const JudgmentInfluence& j : p.worstJudgments()) {
+  for (const tradeoffs::JudgmentInfluence& j : p.worstJudgments()) {
     list.push_back(ordered_json{{"judgment", j.judgment},
                                 {"first", j.first},
                                 {"second", j.second},
@@ -102,9 +102,9 @@ ordered_json worstJudgments(const TradeOffsAPresenter& p) {
   return list;
 }
 
-ordered_json result(const TradeOffsAPresenter& p, const RecordingUiServices& ui,
+ordered_json result(const tradeoffs::TradeOffsAPresenter& p, const RecordingUiServices& ui,
                     const WizardContext& ctx, const ordered_json& exported) {
-  const MultiRegressionData& r = p.record();
+  const tradeoffs::MultiRegressionData& r = p.record();
   const int k = ctx.model.attributeCount();
   ordered_json warnings = ordered_json::array();
   for (const auto& m : ui.messages()) warnings.push_back(m.text);
@@ -127,7 +127,7 @@ ordered_json result(const TradeOffsAPresenter& p, const RecordingUiServices& ui,
                       {"lowEst", firstK(r.LowEst, k)},
                       {"highEst", firstK(r.HighEst, k)},
                       {"weights", weights},
-                      {"comment", ctx.RegressionComment},
+                      {"comment", p.weights().RegressionComment},
                       {"export", exported},
                       {"worstJudgments", worstJudgments(p)}};
 }
@@ -136,10 +136,10 @@ ordered_json result(const TradeOffsAPresenter& p, const RecordingUiServices& ui,
 
 nlohmann::ordered_json playTradeOffJudgments(WizardContext& ctx,
                                              const std::vector<TradeOffJudgment>& judgments,
-                                             RandomSource& random) {
+                                             tradeoffs::RandomSource& random) {
   RecordingUiServices ui;
   ExportCatcher events;
-  TradeOffsAPresenter p(ctx, ui, events, random);
+  tradeoffs::TradeOffsAPresenter p(ctx, ui, events, random);
   p.Form_Load();
   p.optPCManual_Click();
   for (const Judgment& j : judgments) enterJudgment(p, j, ctx.model.attributeCount());

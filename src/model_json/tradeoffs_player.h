@@ -8,10 +8,13 @@
 // Std
 #include <vector>
 
+namespace tnw::tradeoffs {
+class RandomSource;
+}  // namespace tnw::tradeoffs
+
 namespace tnw {
 
 struct WizardContext;
-class RandomSource;
 
 // Enters the judgments through the trade-off dialog's presenter as its Enter does (the pair
 // chosen in manual mode, the four scores, the response), then presses Next and, when the fit was
@@ -19,6 +22,6 @@ class RandomSource;
 // shown in "warnings", and the export (null when there was none).
 nlohmann::ordered_json playTradeOffJudgments(WizardContext& context,
                                              const std::vector<TradeOffJudgment>& judgments,
-                                             RandomSource& random);
+                                             tradeoffs::RandomSource& random);
 
 }  // namespace tnw

@@ -10,7 +10,7 @@
 // Std
 #include <cmath>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 namespace {
 
@@ -45,10 +45,15 @@ void JudgmentPage::reset() {
   setPair(0, 1);
 }
 
+void JudgmentPage::revisitPage() {
+  enableEnter();
+  reset();
+}
+
 void JudgmentPage::setPair(int first, int second) {
   m_first = static_cast<std::int16_t>(first);
   m_second = static_cast<std::int16_t>(second);
-  const auto listIndex = [](const ListState& l, int i) {
+  const auto listIndex = [](const wizard::ListState& l, int i) {
     return i >= 0 && i < static_cast<int>(l.items.size()) ? i : -1;
   };
   m_controls.lstTradeOffFirstC.listIndex = listIndex(m_controls.lstTradeOffFirstC, first);
@@ -74,9 +79,7 @@ void JudgmentPage::DisplayScoresInTxtBox(int first, int second) {
   const TradeOffScores s = m_pairs.drawScores(m_context.model, first, second);
   const Currency scores[4] = {s.A1, s.A2, s.B1, s.B2};
   for (std::size_t i = 0; i < 4; ++i) {
-    m_controls.scoreBoxes[i].text = formatNumber(scores[i].toDouble(), "###,##0.0#");
-    m_controls.scoreBoxes[i].selStart = 0;
-    m_controls.scoreBoxes[i].selLength = 0;
+    m_controls.scoreBoxes[i].setText(formatNumber(scores[i].toDouble(), "###,##0.0#"));
   }
   m_panel.PositioningAandB(s.A1.toDouble(), s.A2.toDouble(), s.B1.toDouble(), s.B2.toDouble());
   m_controls.shpPCA = m_panel.shpPCA();
@@ -123,7 +126,7 @@ void JudgmentPage::lstTradeOffSecondC_Click(int index) {
 
 void JudgmentPage::scoreBoxKeyPress(int box, int key, int selStart, int selLength) {
   if (box < 0 || box > 3) return;
-  TextBoxState& b = m_controls.scoreBoxes[static_cast<std::size_t>(box)];
+  wizard::TextBoxState& b = m_controls.scoreBoxes[static_cast<std::size_t>(box)];
   b.selStart = selStart;
   b.selLength = selLength;
   if (key == ScoreEntry::kEnter) {
@@ -140,7 +143,7 @@ void JudgmentPage::scoreBoxKeyPress(int box, int key, int selStart, int selLengt
 
 void JudgmentPage::setScoreText(int box, const std::string& text) {
   if (box < 0 || box > 3) return;
-  TextBoxState& b = m_controls.scoreBoxes[static_cast<std::size_t>(box)];
+  wizard::TextBoxState& b = m_controls.scoreBoxes[static_cast<std::size_t>(box)];
   b.text = text;
   b.selStart = static_cast<int>(text.size());
   b.selLength = 0;
@@ -149,7 +152,7 @@ void JudgmentPage::setScoreText(int box, const std::string& text) {
 void JudgmentPage::tbScoreChanger_ButtonClick(int index, bool up) {
   if (index < 0 || index > 3) return;
   const bool first = index % 2 == 0;
-  TextBoxState& b = m_controls.scoreBoxes[static_cast<std::size_t>(index)];
+  wizard::TextBoxState& b = m_controls.scoreBoxes[static_cast<std::size_t>(index)];
   b.text = ScoreEntry::step(b.text, first ? m_lowFirst : m_lowSecond,
                             first ? m_highFirst : m_highSecond, up);
   m_changedByToolbar = true;
@@ -195,7 +198,7 @@ bool JudgmentPage::CheckEnteredDataS(int box) {
 
 bool JudgmentPage::checkBoxRange(int box, float low, float high) {
   if (box < 0 || box > 3) return false;
-  TextBoxState& b = m_controls.scoreBoxes[static_cast<std::size_t>(box)];
+  wizard::TextBoxState& b = m_controls.scoreBoxes[static_cast<std::size_t>(box)];
   const std::optional<std::string> message = ScoreEntry::checkRange(b.text, low, high);
   if (!message) return true;
   m_entryError = true;
@@ -320,4 +323,4 @@ std::optional<Currency> JudgmentPage::AbsoluteWeight(int p, int q, int order) co
   return Currency::fromDouble(ratio);
 }
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

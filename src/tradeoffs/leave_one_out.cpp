@@ -1,7 +1,6 @@
 #include "tradeoffs/leave_one_out.h"
 
 #include "common/number_format.h"
-#include "component/wizard_context.h"
 #include "model/attribute_names.h"
 #include "model/value_function.h"
 #include "tradeoffs/regression.h"
@@ -12,7 +11,7 @@
 #include <functional>
 #include <vector>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 namespace {
 
@@ -184,7 +183,7 @@ std::vector<std::optional<double>> leaveOneOutIndexes(const JudgmentStore& store
   const int n = std::max(store.JudgmentCount, 0);
   std::vector<std::optional<double>> out(static_cast<std::size_t>(n));
   JudgmentStore copy = store;
-  WizardContext scratch;
+  TradeOffWeights scratch;
   MultiRegressionData record;
   Regression full;
   full.RegressMain(copy, numAtt, record, scratch);
@@ -243,7 +242,7 @@ std::optional<double> LeaveOneOut::indexWithout(const JudgmentStore& store, int 
                                                 int judgment) {
   if (judgment < 1 || judgment > store.JudgmentCount) return std::nullopt;
   JudgmentStore rest = without(store, numAtt, judgment - 1);
-  WizardContext scratch;
+  TradeOffWeights scratch;
   MultiRegressionData record;
   Regression reg;
   reg.RegressMain(rest, numAtt, record, scratch);
@@ -363,4 +362,4 @@ std::string LeaveOneOut::describe(const AttributeModel& model, const JudgmentInf
   return line;
 }
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

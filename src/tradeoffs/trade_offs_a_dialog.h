@@ -12,21 +12,25 @@ class QPushButton;
 class QStackedWidget;
 
 namespace tnw {
+struct WizardContext;
+class UiServices;
+}  // namespace tnw
 
-class JudgmentPageBindingQt;
+namespace tnw::tradeoffs {
+
 class RandomSource;
-class ResultsPageBindingQt;
+class ScoreBoxFilter;
 class TradeOffsAEvents;
 class TradeOffsAPresenter;
 class TradeOffsJudgmentWidget;
 class TradeOffsPrintoutQt;
 class TradeOffsResultsWidget;
-class UiServices;
-struct WizardContext;
 
 // frmTradeOffsA, the trade-off method's dialog, as a Qt view over TradeOffsAPresenter: the
 // judgment page and the results page in the wizard frame with Back, Next, Finish, Cancel, Help
-// and Print. Every control's objectName is its given name. This header names the presenter only
+// and Print. Every control's objectName is its given name. The page views render their page;
+// the dialog wires their controls to the presenter (connect<Page>()) and, on the presenter's
+// change signal, renders the frame and the page on show. This header names the presenter only
 // by declaration, so it can be included beside the direct method's headers.
 class TradeOffsADialog : public WizardDialogQt {
   Q_OBJECT
@@ -58,6 +62,12 @@ class TradeOffsADialog : public WizardDialogQt {
  private:
   void buildFrame();
   void connectFrame();
+  void connectJudgment();
+  void connectScores();
+  void connectResults();
+  // Runs a user action unless the signal came from rendering.
+  template <typename Action>
+  void act(Action action);
   void render();
   void print();
 
@@ -68,14 +78,14 @@ class TradeOffsADialog : public WizardDialogQt {
   QStackedWidget* m_pages = nullptr;
   TradeOffsJudgmentWidget* m_judgment = nullptr;
   TradeOffsResultsWidget* m_results = nullptr;
-  JudgmentPageBindingQt* m_judgmentBinding = nullptr;
-  ResultsPageBindingQt* m_resultsBinding = nullptr;
+  ScoreBoxFilter* m_scoreFilter = nullptr;
   QPushButton* m_cmdBack = nullptr;
   QPushButton* m_cmdNext = nullptr;
   QPushButton* m_cmdFinish = nullptr;
   QPushButton* m_cmdCancel = nullptr;
   QPushButton* m_cmdHelp = nullptr;
   QPushButton* m_cmdPrint = nullptr;
+  bool m_rendering = false;
 };
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

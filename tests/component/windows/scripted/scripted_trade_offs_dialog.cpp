@@ -27,9 +27,9 @@ std::string numbers(const std::vector<double>& values) {
 }  // namespace
 
 ScriptedTradeOffsDialog::ScriptedTradeOffsDialog(std::string name, WizardContext& context,
-                                                 TradeOffsAEvents& events, UiServices& ui,
-                                                 ScriptedScenario& scenario, MessageWindow& window,
-                                                 const ScriptedTrace& trace)
+                                                 tradeoffs::TradeOffsAEvents& events,
+                                                 UiServices& ui, ScriptedScenario& scenario,
+                                                 MessageWindow& window, const ScriptedTrace& trace)
     : ScriptedDialog(std::move(name), {780, 580}, window, trace),
       m_context(context),
       m_events(events),
@@ -100,7 +100,7 @@ void ScriptedTradeOffsDialog::judge(const nlohmann::json& judgment) {
 }
 
 bool ScriptedTradeOffsDialog::choosePair(int first, int second) {
-  JudgmentPage& page = m_presenter.judgmentPage();
+  tradeoffs::JudgmentPage& page = m_presenter.judgmentPage();
   // An exchange of the two attributes goes through a third one, as the lists refuse to hold
   // the same attribute twice.
   if (first == page.SecondAttIndex() && second == page.FirstAttIndex()) {
@@ -124,16 +124,14 @@ bool ScriptedTradeOffsDialog::choosePair(int first, int second) {
 void ScriptedTradeOffsDialog::finish() {
   m_presenter.cmdNext_Click();
   trace("step " + std::to_string(m_presenter.step()) + ", comment \"" +
-        m_context.RegressionComment + "\", Finish " +
+        m_presenter.weights().RegressionComment + "\", Finish " +
         (m_presenter.cmdFinish().enabled ? "enabled" : "disabled"));
   m_presenter.cmdFinish_Click();
 }
 
-std::unique_ptr<WizardDialog> makeScriptedTradeOffsDialog(std::string name, WizardContext& context,
-                                                          TradeOffsAEvents& events, UiServices& ui,
-                                                          ScriptedScenario& scenario,
-                                                          MessageWindow& window,
-                                                          const ScriptedTrace& trace) {
+std::unique_ptr<WizardDialog> makeScriptedTradeOffsDialog(
+    std::string name, WizardContext& context, tradeoffs::TradeOffsAEvents& events, UiServices& ui,
+    ScriptedScenario& scenario, MessageWindow& window, const ScriptedTrace& trace) {
   return std::make_unique<ScriptedTradeOffsDialog>(std::move(name), context, events, ui, scenario,
                                                    window, trace);
 }

@@ -21,11 +21,12 @@ struct WizardContext;
 // types the four scores and the response and presses Enter; Finish first presses Next, which
 // runs the regression. The presenter's events pass through the dialog on their way to the
 // component, so that after Finish it traces the exported arrays as the host left them.
-class ScriptedTradeOffsDialog : public ScriptedDialog, private TradeOffsAEvents {
+class ScriptedTradeOffsDialog : public ScriptedDialog, private tradeoffs::TradeOffsAEvents {
  public:
   // A loaded trade-off dialog (loading sends its instruction through events).
-  ScriptedTradeOffsDialog(std::string name, WizardContext& context, TradeOffsAEvents& events,
-                          UiServices& ui, ScriptedScenario& scenario, MessageWindow& window,
+  ScriptedTradeOffsDialog(std::string name, WizardContext& context,
+                          tradeoffs::TradeOffsAEvents& events, UiServices& ui,
+                          ScriptedScenario& scenario, MessageWindow& window,
                           const ScriptedTrace& trace);
 
  protected:
@@ -43,9 +44,9 @@ class ScriptedTradeOffsDialog : public ScriptedDialog, private TradeOffsAEvents 
   void finish();
 
   WizardContext& m_context;
-  TradeOffsAEvents& m_events;
-  ClockRandomSource m_random;
-  TradeOffsAPresenter m_presenter;
+  tradeoffs::TradeOffsAEvents& m_events;
+  tradeoffs::ClockRandomSource m_random;
+  tradeoffs::TradeOffsAPresenter m_presenter;
   nlohmann::json m_run;
   bool m_played = false;
 };
