@@ -5,13 +5,13 @@
 // --benchmark_enable_random_interleaving=true, as scripts/bench does, to interleave them).
 
 #include "common/recording_ui_services.h"
-#include "component/wizard_context.h"
 #include "model/model_file_reader.h"
 #include "model/model_file_writer.h"
 #include "model/value_function.h"
 #include "peers_ratio_reporter.h"
 #include "peers_setup.h"
 #include "tradeoffs/regression.h"
+#include "tradeoffs/trade_off_weights.h"
 
 // Google Benchmark
 #include <benchmark/benchmark.h>
@@ -27,12 +27,12 @@ constexpr int kSizes[] = {3, 8, 16, 31};
 
 void BM_RegressionOurs(benchmark::State& state) {
   const int k = static_cast<int>(state.range(0));
-  JudgmentStore store = judgmentData(k);
-  WizardContext ctx;
-  MultiRegressionData record;
-  Regression reg;
+  tradeoffs::JudgmentStore store = judgmentData(k);
+  tradeoffs::TradeOffWeights weights;
+  tradeoffs::MultiRegressionData record;
+  tradeoffs::Regression reg;
   for (auto _ : state) {
-    reg.RegressMain(store, k, record, ctx);
+    reg.RegressMain(store, k, record, weights);
     benchmark::DoNotOptimize(record.Coef.data());
   }
 }

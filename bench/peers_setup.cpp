@@ -1,11 +1,11 @@
 #include "peers_setup.h"
 
 #include "common/recording_ui_services.h"
-#include "component/wizard_context.h"
 #include "model/model_file_reader.h"
 #include "model/model_file_writer.h"
 #include "model/value_function.h"
 #include "tradeoffs/regression.h"
+#include "tradeoffs/trade_off_weights.h"
 
 // GSL
 #include <gsl/gsl_errno.h>
@@ -24,7 +24,7 @@
 
 namespace tnw::bench {
 
-JudgmentStore judgmentData(int k) {
+tradeoffs::JudgmentStore judgmentData(int k) {
   std::mt19937 rng(20240611u + static_cast<unsigned>(k));
   std::uniform_real_distribution<double> weight(0.2, 1.0);
   std::uniform_real_distribution<double> diff(0.05, 1.0);
@@ -32,7 +32,7 @@ JudgmentStore judgmentData(int k) {
   std::vector<double> w(static_cast<std::size_t>(k));
   double sum = 0.0;
   for (double& v : w) sum += (v = weight(rng));
-  JudgmentStore s;
+  tradeoffs::JudgmentStore s;
   const int n = k * (k - 1);
   s.dimension(n, k);
   int row = 0;
@@ -55,7 +55,7 @@ JudgmentStore judgmentData(int k) {
   return s;
 }
 
-GslFit::GslFit(const JudgmentStore& store, int k) : m_n(store.JudgmentCount), m_k(k) {
+GslFit::GslFit(const tradeoffs::JudgmentStore& store, int k) : m_n(store.JudgmentCount), m_k(k) {
   for (int r = 0; r < m_n; ++r) {
     const auto& row = store.ValueDiff[static_cast<std::size_t>(r)];
     m_x.insert(m_x.end(), row.begin(), row.begin() + k);
@@ -106,7 +106,7 @@ double GslFit::errorTerm(int i) const {
   return gsl_matrix_get(m_cov, ii, ii) * (m_n - m_k) / (m_n - m_k - 1);
 }
 
-EigenFit::EigenFit(const JudgmentStore& store, int k)
+EigenFit::EigenFit(const tradeoffs::JudgmentStore& store, int k)
     : m_x(store.JudgmentCount, k), m_y(store.JudgmentCount) {
   for (int r = 0; r < store.JudgmentCount; ++r) {
     const auto rr = static_cast<std::size_t>(r);
@@ -214,11 +214,11 @@ double relativeDifference(const std::vector<double>& a, const std::vector<double
 }
 
 bool checkRegression(int k) {
-  JudgmentStore store = judgmentData(k);
-  WizardContext ctx;
-  MultiRegressionData record;
-  Regression reg;
-  reg.RegressMain(store, k, record, ctx);
+  tradeoffs::JudgmentStore store = judgmentData(k);
+  tradeoffs::TradeOffWeights weights;
+  tradeoffs::MultiRegressionData record;
+  tradeoffs::Regression reg;
+  reg.RegressMain(store, k, record, weights);
   GslFit gsl(store, k);
   gsl.run();
   std::vector<double> ours;

@@ -21,13 +21,13 @@ namespace tnw::bench {
 // the first attribute's value difference positive and the second's negative (four decimals, as
 // SingleAttValue gives them), and a verbal response -3..3 that follows hidden weights with some
 // noise.
-JudgmentStore judgmentData(int k);
+tradeoffs::JudgmentStore judgmentData(int k);
 
 // gsl_multifit_linear on the centred observations: the coefficients and their covariance.
 class GslFit {
  public:
   // Copies the observations of store for k attributes.
-  GslFit(const JudgmentStore& store, int k);
+  GslFit(const tradeoffs::JudgmentStore& store, int k);
   ~GslFit();
   GslFit(const GslFit&) = delete;
   GslFit& operator=(const GslFit&) = delete;
@@ -56,7 +56,7 @@ class GslFit {
 class EigenFit {
  public:
   // Copies the observations of store for k attributes.
-  EigenFit(const JudgmentStore& store, int k);
+  EigenFit(const tradeoffs::JudgmentStore& store, int k);
   // Centres the observations and fits them.
   void run();
   // Coefficient i (0-based) of the last fit.

@@ -47,7 +47,7 @@
 namespace tnw {
 namespace {
 
-class NullEvents : public TradeOffsAEvents {
+class NullEvents : public tradeoffs::TradeOffsAEvents {
  public:
   void ExportTradeOffsW(const std::string&, std::vector<double>&, std::vector<double>&,
                         std::vector<double>&) override {}
@@ -77,7 +77,7 @@ AttributeModel model31() {
 struct Fixture {
   Fixture() {
     context.model = model31();
-    dialog = std::make_unique<TradeOffsADialog>(context, ui, events);
+    dialog = std::make_unique<tradeoffs::TradeOffsADialog>(context, ui, events);
     dialog->resize(900, 620);
     dialog->show();
     QApplication::processEvents();
@@ -105,7 +105,7 @@ struct Fixture {
   WizardContext context;
   RecordingUiServices ui;
   NullEvents events;
-  std::unique_ptr<TradeOffsADialog> dialog;
+  std::unique_ptr<tradeoffs::TradeOffsADialog> dialog;
 };
 
 void click(QWidget* w, QPoint at = {}) {

@@ -18,7 +18,7 @@
 namespace {
 
 // Fixed draws, so that every iteration does the same work.
-class FixedRandomSource : public tnw::RandomSource {
+class FixedRandomSource : public tnw::tradeoffs::RandomSource {
  public:
   float next() override {
     m_r = m_r + 0.37f;
@@ -49,11 +49,11 @@ tnw::AttributeModel makeModel(int numAtt) {
 }
 
 // NumAtt × (NumAtt - 1) verbal judgments of neighbouring pairs, as the automatic cycle gives.
-tnw::JudgmentStore makeJudgments(int k) {
+tnw::tradeoffs::JudgmentStore makeJudgments(int k) {
   std::mt19937 rng(42);
   std::uniform_real_distribution<double> diff(-1.0, 1.0);
   std::uniform_int_distribution<int> response(-3, 3);
-  tnw::JudgmentStore s;
+  tnw::tradeoffs::JudgmentStore s;
   const int n = k * (k - 1);
   s.dimension(n, k);
   for (int j = 0; j < n; ++j) {
@@ -70,12 +70,12 @@ tnw::JudgmentStore makeJudgments(int k) {
 
 void BM_RegressMain(benchmark::State& state) {
   const int k = static_cast<int>(state.range(0));
-  tnw::JudgmentStore store = makeJudgments(k);
-  tnw::WizardContext ctx;
-  tnw::MultiRegressionData record;
-  tnw::Regression reg;
+  tnw::tradeoffs::JudgmentStore store = makeJudgments(k);
+  tnw::tradeoffs::TradeOffWeights weights;
+  tnw::tradeoffs::MultiRegressionData record;
+  tnw::tradeoffs::Regression reg;
   for (auto _ : state) {
-    reg.RegressMain(store, k, record, ctx);
+    reg.RegressMain(store, k, record, weights);
     benchmark::DoNotOptimize(reg.CalWeights());
     benchmark::DoNotOptimize(record.RSquared);
   }
@@ -88,7 +88,7 @@ void BM_ScoreEntryStep(benchmark::State& state) {
   ctx.model = makeModel(31);
   tnw::RecordingUiServices ui;
   FixedRandomSource random;
-  tnw::JudgmentPage page(ctx, ui, random);
+  tnw::tradeoffs::JudgmentPage page(ctx, ui, random);
   page.reset();
   for (auto _ : state) {
     // One trade-off: type a score, step it, press Enter (record and move on to the next pair).
@@ -109,7 +109,7 @@ void BM_TypingAScoreKeyByKey(benchmark::State& state) {
   ctx.model = makeModel(3);
   tnw::RecordingUiServices ui;
   FixedRandomSource random;
-  tnw::JudgmentPage page(ctx, ui, random);
+  tnw::tradeoffs::JudgmentPage page(ctx, ui, random);
   page.reset();
   const std::string start = "30.";
   for (auto _ : state) {
@@ -131,17 +131,17 @@ BENCHMARK(BM_TypingAScoreKeyByKey)
     ->Complexity();
 
 void BM_DrawChart(benchmark::State& state) {
-  tnw::WizardContext ctx;
-  ctx.model = makeModel(31);
+  const tnw::AttributeModel model = makeModel(31);
+  tnw::tradeoffs::TradeOffWeights weights;
   for (int i = 0; i < 31; ++i) {
-    ctx.CloseWeights.push_back(0.02 + 0.001 * i);
-    ctx.UpperWeights.push_back(0.03 + 0.001 * i);
-    ctx.LowerWeights.push_back(0.01 + 0.001 * i);
+    weights.CloseWeights.push_back(0.02 + 0.001 * i);
+    weights.UpperWeights.push_back(0.03 + 0.001 * i);
+    weights.LowerWeights.push_back(0.01 + 0.001 * i);
   }
-  const char* keys[] = {tnw::ResultsPage::kHLCa, tnw::ResultsPage::kHLCb,
-                        tnw::ResultsPage::kWeightBars};
-  tnw::ResultsPage page;
-  page.tbWeightCharts_ButtonClick(keys[state.range(0)], ctx);
+  const char* keys[] = {tnw::tradeoffs::ResultsPage::kHLCa, tnw::tradeoffs::ResultsPage::kHLCb,
+                        tnw::tradeoffs::ResultsPage::kWeightBars};
+  tnw::tradeoffs::ResultsPage page;
+  page.tbWeightCharts_ButtonClick(keys[state.range(0)], model, weights);
   tnw::RecordingSurface surface;
   for (auto _ : state) {
     surface.reset();

@@ -17,7 +17,7 @@
 namespace {
 
 // The same draws every run, so that a finding can be replayed.
-class FixedRandomSource : public tnw::RandomSource {
+class FixedRandomSource : public tnw::tradeoffs::RandomSource {
  public:
   float next() override {
     m_x = m_x * 0.618034f + 0.3f;
@@ -36,7 +36,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string_view text(reinterpret_cast<const char*>(data), size);
   // Two attributes reach the defined outcome of a fit without degrees of freedom; four do not.
   const int numAtt = size % 3 == 0 ? 2 : 4;
-  std::vector<tnw::TradeOffJudgment> judgments;
+  std::vector<tnw::tradeoffs::TradeOffJudgment> judgments;
   if (const auto error = tnw::readTradeOffJudgments(text, numAtt, judgments)) {
     check(!error->where.empty() && !error->what.empty());
     check(error->text().find("json.exception") == std::string::npos);

@@ -24,12 +24,12 @@ int runTradeOffs(const std::vector<std::string>& args) {
   if (const int status = readJsonInputFile(args[1], tnw::kJudgmentsJsonLimits.maxBytes, text)) {
     return status;
   }
-  std::vector<tnw::TradeOffJudgment> judgments;
+  std::vector<tnw::tradeoffs::TradeOffJudgment> judgments;
   if (const auto error = tnw::readTradeOffJudgments(text, ctx.model.attributeCount(), judgments)) {
     std::fprintf(stderr, "%s\n", tnw::inputErrorLine(args[1], *error).c_str());
     return 1;
   }
-  tnw::ClockRandomSource random;
+  tnw::tradeoffs::ClockRandomSource random;
   const std::string out = tnw::playTradeOffJudgments(ctx, judgments, random)
                               .dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
   std::printf("%s\n", out.c_str());

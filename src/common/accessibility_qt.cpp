@@ -31,7 +31,10 @@ void applyAccessibleTexts(QWidget* root, std::initializer_list<AccessibleText> t
     const QString objectName = QString::fromUtf8(t.objectName);
     const QString name = t.name != nullptr ? QString::fromUtf8(t.name) : QString();
     const QString description = QString::fromUtf8(t.description);
-    for (QWidget* w : root->findChildren<QWidget*>(objectName)) {
+    // A control array's elements are named name_index.
+    const QRegularExpression element(QStringLiteral("^%1(_\\d+)?$")
+                                         .arg(QRegularExpression::escape(objectName)));
+    for (QWidget* w : root->findChildren<QWidget*>(element)) {
       setAccessibleText(w, name, description);
     }
     if (root->objectName() == objectName) setAccessibleText(root, name, description);

@@ -9,7 +9,7 @@ namespace tnw {
 
 // Each dialog raises its events on its own sink, since the same event (ShowTNWSelMethod,
 // SendMasseges) means a different relay depending on which dialog raised it.
-class WizardComponent::SelMethodSink : public SelMethodEvents {
+class WizardComponent::SelMethodSink : public selmethod::SelMethodEvents {
  public:
   explicit SelMethodSink(WizardComponent& c) : m_c(c) {}
   void ShowTNWDirect() override { m_c.mSelMethod_ShowTNWDirect(); }
@@ -42,7 +42,7 @@ class WizardComponent::DirectASink : public direct::DirectAEvents {
   WizardComponent& m_c;
 };
 
-class WizardComponent::TradeOffsASink : public TradeOffsAEvents {
+class WizardComponent::TradeOffsASink : public tradeoffs::TradeOffsAEvents {
  public:
   explicit TradeOffsASink(WizardComponent& c) : m_c(c) {}
   void ExportTradeOffsW(const std::string& TNType, std::vector<double>& Weights,

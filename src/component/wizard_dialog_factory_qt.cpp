@@ -34,10 +34,10 @@ bool WizardDialogFactoryQt::haveApplication() const {
   return false;
 }
 
-std::unique_ptr<WizardDialog> WizardDialogFactoryQt::createSelMethod(WizardContext& context,
-                                                                     SelMethodEvents& events) {
+std::unique_ptr<WizardDialog> WizardDialogFactoryQt::createSelMethod(
+    WizardContext& context, selmethod::SelMethodEvents& events) {
   if (!haveApplication()) return nullptr;
-  return settled(std::make_unique<SelMethodDialog>(context, m_ui, events));
+  return settled(std::make_unique<selmethod::SelMethodDialog>(context, m_ui, events));
 }
 
 std::unique_ptr<WizardDialog> WizardDialogFactoryQt::createDirectA(WizardContext& context,
@@ -46,10 +46,10 @@ std::unique_ptr<WizardDialog> WizardDialogFactoryQt::createDirectA(WizardContext
   return settled(std::make_unique<direct::DirectADialog>(context, m_ui, events));
 }
 
-std::unique_ptr<WizardDialog> WizardDialogFactoryQt::createTradeOffsA(WizardContext& context,
-                                                                      TradeOffsAEvents& events) {
+std::unique_ptr<WizardDialog> WizardDialogFactoryQt::createTradeOffsA(
+    WizardContext& context, tradeoffs::TradeOffsAEvents& events) {
   if (!haveApplication()) return nullptr;
-  return settled(std::make_unique<TradeOffsADialog>(context, m_ui, events));
+  return settled(std::make_unique<tradeoffs::TradeOffsADialog>(context, m_ui, events));
 }
 
 void WizardDialogFactoryQt::release(std::unique_ptr<WizardDialog> dialog) {

@@ -18,13 +18,13 @@ class WizardDialogFactoryQt : public WizardDialogFactory {
 
   // A new frmTNWSelMethod; null without a QApplication.
   std::unique_ptr<WizardDialog> createSelMethod(WizardContext& context,
-                                                SelMethodEvents& events) override;
+                                                selmethod::SelMethodEvents& events) override;
   // A new frmDirectA, loaded; null without a QApplication.
   std::unique_ptr<WizardDialog> createDirectA(WizardContext& context,
                                               direct::DirectAEvents& events) override;
   // A new frmTradeOffsA; null without a QApplication.
   std::unique_ptr<WizardDialog> createTradeOffsA(WizardContext& context,
-                                                 TradeOffsAEvents& events) override;
+                                                 tradeoffs::TradeOffsAEvents& events) override;
   // Hides nothing and destroys the dialog once control is back in the event loop.
   void release(std::unique_ptr<WizardDialog> dialog) override;
 

@@ -20,16 +20,18 @@ namespace {
 QString ratioText(double r) { return QString::number(r, 'f', 2); }
 
 QAccessibleInterface* directFactory(const QString& key, QObject* object) {
-  if (key == QLatin1String("tnw::ConeAreaWidget")) {
+  if (key == QLatin1String(ConeAreaWidget::staticMetaObject.className())) {
     return new AccessibleConeArea(static_cast<ConeAreaWidget*>(object));
   }
-  if (key == QLatin1String("tnw::StatusLightsWidget")) {
+  if (key == QLatin1String(StatusLightsWidget::staticMetaObject.className())) {
     return new AccessibleStatusLights(static_cast<StatusLightsWidget*>(object));
   }
-  if (key == QLatin1String("QFrame") && object->objectName() == QLatin1String("picHandle") &&
+  // The handles picHandle_0 (lower) and picHandle_1 (upper).
+  const QString name = object->objectName();
+  if (key == QLatin1String("QFrame") && name.startsWith(QLatin1String("picHandle_")) &&
       qobject_cast<ConeAreaWidget*>(object->parent()) != nullptr) {
     return new AccessibleConeHandle(static_cast<QFrame*>(object),
-                                    object->property("index").toInt());
+                                    name.endsWith(QLatin1Char('1')) ? 1 : 0);
   }
   return nullptr;
 }

@@ -4,15 +4,12 @@
 
 // Std
 #include <string>
-#include <string_view>
 
 namespace tnw::direct {
 
 // Text helpers over the attribute model shared by the direct method's pages.
 class AttributeTexts {
  public:
-  // The text without leading and trailing blanks.
-  static std::string trim(std::string_view text);
   // The trimmed name of attribute i ("" outside 0..30).
   static std::string name(const AttributeModel& model, int i);
   // The trimmed definition of attribute i.

@@ -1,7 +1,7 @@
 #include "direct/ratio_bound_check.h"
 
 #include "common/number_format.h"
-#include "direct/attribute_texts.h"
+#include "model/attribute_names.h"
 
 // Std
 #include <cmath>
@@ -9,13 +9,13 @@
 namespace tnw::direct {
 
 double RatioBoundCheck::boxValue(std::string_view text) {
-  const double value = leadingNumber(AttributeTexts::trim(text));
+  const double value = leadingNumber(model::trimmed(text));
   // A run of digits too long for a double reads as nothing rather than as infinity.
   return std::isfinite(value) ? value : 0.0;
 }
 
 bool RatioBoundCheck::beyondRange(std::string_view text) {
-  const std::string s = AttributeTexts::trim(text);
+  const std::string s = model::trimmed(text);
   if (leadingNumber(s) != 0.0) return false;
   // A mantissa with a digit other than 0 that reads as 0 overflowed, unless its exponent is
   // negative (then it is a number too small to tell from 0, which is what it reads as).

@@ -1,6 +1,6 @@
 #include "direct/ratio_key_filter.h"
 
-#include "direct/attribute_texts.h"
+#include "model/attribute_names.h"
 
 namespace tnw::direct {
 
@@ -10,7 +10,7 @@ RatioKeyFilter::KeyAction RatioKeyFilter::DoKeyPress(wizard::TextBoxState& box, 
     return KeyAction::Discard;
   }
   if (keyAscii == kEnter) {
-    const std::string kept = AttributeTexts::trim(box.text);
+    const std::string kept = model::trimmed(box.text);
     keyAscii = kBackspace;
     box.setText("");
     box.setText(kept);

@@ -16,7 +16,7 @@ QHash<const QObject*, AccessibleChart::Source>& sources() {
 }
 
 QAccessibleInterface* chartFactory(const QString& key, QObject* object) {
-  if (key == QLatin1String("tnw::ChartWidget")) {
+  if (key == QLatin1String(ChartWidget::staticMetaObject.className())) {
     return new AccessibleChart(static_cast<ChartWidget*>(object));
   }
   return nullptr;

@@ -34,4 +34,11 @@ const std::string& textFrom(const nlohmann::json& v, const std::string& pointer)
   return v.get_ref<const std::string&>();
 }
 
+wizard::ScenarioEnd readScenarioEnd(const nlohmann::json& v, const std::string& pointer) {
+  if (v == "Finish") return wizard::ScenarioEnd::Finish;
+  if (v == "Cancel") return wizard::ScenarioEnd::Cancel;
+  if (v == "Back") return wizard::ScenarioEnd::Back;
+  throw JsonFieldError(pointer, "expected \"Finish\", \"Cancel\" or \"Back\"");
+}
+
 }  // namespace tnw

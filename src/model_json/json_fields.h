@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model_json/json_input.h"
+#include "wizard/scenario_end.h"
 
 // JSON
 #include <nlohmann/json.hpp>
@@ -35,5 +36,8 @@ double finiteNumber(const nlohmann::json& v, const std::string& pointer);
 
 // The text v; JsonFieldError when it is not a string.
 const std::string& textFrom(const nlohmann::json& v, const std::string& pointer);
+
+// How a run ends, from "Finish", "Cancel" or "Back"; JsonFieldError otherwise.
+wizard::ScenarioEnd readScenarioEnd(const nlohmann::json& v, const std::string& pointer);
 
 }  // namespace tnw

@@ -25,12 +25,12 @@ int attributeIndex(const json& item, const char* key, const std::string& base, s
   }
 }
 
-TradeOffJudgment readJudgment(const json& item, const std::string& base, std::size_t at,
+tradeoffs::TradeOffJudgment readJudgment(const json& item, const std::string& base, std::size_t at,
                               int numAtt) {
   const std::string pointer = jsonPointer(base, at);
   const std::string where = "judgment [" + std::to_string(at) + "]: ";
   if (!item.is_object()) throw JsonFieldError(pointer, where + "is not a JSON object");
-  TradeOffJudgment jd;
+  tradeoffs::TradeOffJudgment jd;
   jd.first = attributeIndex(item, "first", base, at, numAtt);
   jd.second = attributeIndex(item, "second", base, at, numAtt);
   const std::string scores = jsonPointer(pointer, "scores");
@@ -52,25 +52,19 @@ TradeOffJudgment readJudgment(const json& item, const std::string& base, std::si
   return jd;
 }
 
-std::vector<TradeOffJudgment> readJudgments(const json& list, const std::string& base, int numAtt) {
-  std::vector<TradeOffJudgment> judgments;
+std::vector<tradeoffs::TradeOffJudgment> readJudgments(const json& list, const std::string& base, int numAtt) {
+  std::vector<tradeoffs::TradeOffJudgment> judgments;
   for (std::size_t at = 0; at < list.size(); ++at) {
     judgments.push_back(readJudgment(list[at], base, at, numAtt));
   }
   return judgments;
 }
 
-ScenarioEnd readEnd(const json& value, const std::string& pointer) {
-  if (value == "Finish") return ScenarioEnd::Finish;
-  if (value == "Cancel") return ScenarioEnd::Cancel;
-  if (value == "Back") return ScenarioEnd::Back;
-  throw JsonFieldError(pointer, "expected \"Finish\", \"Cancel\" or \"Back\"");
-}
 
 }  // namespace
 
 std::optional<JsonInputError> readTradeOffJudgments(std::string_view text, int numAtt,
-                                                    std::vector<TradeOffJudgment>& judgments) {
+                                                    std::vector<tradeoffs::TradeOffJudgment>& judgments) {
   judgments.clear();
   json j;
   if (auto error = parseJsonText(text, kJudgmentsJsonLimits, j)) return error;
@@ -85,7 +79,7 @@ std::optional<JsonInputError> readTradeOffJudgments(std::string_view text, int n
 }
 
 std::optional<JsonInputError> readTradeOffScenario(const json& value, const std::string& pointer,
-                                                   int numAtt, TradeOffScenario& scenario) {
+                                                   int numAtt, tradeoffs::TradeOffScenario& scenario) {
   scenario = {};
   try {
     if (!value.is_object()) throw JsonFieldError(pointer, "expected the run as a JSON object");
@@ -95,7 +89,7 @@ std::optional<JsonInputError> readTradeOffScenario(const json& value, const std:
       scenario.judgments = readJudgments(*it, list, numAtt);
     }
     if (const auto it = value.find("end"); it != value.end()) {
-      scenario.end = readEnd(*it, jsonPointer(pointer, "end"));
+      scenario.end = readScenarioEnd(*it, jsonPointer(pointer, "end"));
     }
   } catch (const JsonFieldError& e) {
     scenario = {};

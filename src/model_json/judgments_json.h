@@ -21,13 +21,13 @@ inline constexpr JsonLimits kJudgmentsJsonLimits{1u << 20, 8, 1000, 256, 64};
 // Reads the judgments for a model of numAtt attributes within kJudgmentsJsonLimits: nothing, or
 // where and why they cannot be entered. A judgment is named by its 0-based place, "[2]".
 std::optional<JsonInputError> readTradeOffJudgments(std::string_view text, int numAtt,
-                                                    std::vector<TradeOffJudgment>& judgments);
+                                                    std::vector<tradeoffs::TradeOffJudgment>& judgments);
 
 // Reads one trade-off run found at `pointer` of a larger document for a model of numAtt
 // attributes: {"judgments": [judgment, ...], "end": "Finish" | "Cancel" | "Back"}, both members
 // optional ("end" is "Finish" when left out). Errors name the members below pointer.
 std::optional<JsonInputError> readTradeOffScenario(const nlohmann::json& value,
                                                    const std::string& pointer, int numAtt,
-                                                   TradeOffScenario& scenario);
+                                                   tradeoffs::TradeOffScenario& scenario);
 
 }  // namespace tnw

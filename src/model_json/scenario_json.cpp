@@ -11,7 +11,6 @@ namespace tnw {
 namespace {
 
 using direct::DirectScenario;
-using direct::ScenarioEnd;
 using direct::ScenarioStep;
 using nlohmann::json;
 
@@ -44,12 +43,6 @@ ScenarioStep readStep(const json& step, const std::string& pointer) {
   return s;
 }
 
-ScenarioEnd readEnd(const json& value, const std::string& pointer) {
-  if (value == "Finish") return ScenarioEnd::Finish;
-  if (value == "Cancel") return ScenarioEnd::Cancel;
-  if (value == "Back") return ScenarioEnd::Back;
-  throw JsonFieldError(pointer, "expected \"Finish\", \"Cancel\" or \"Back\"");
-}
 
 std::vector<int> readOrder(const json& value, const std::string& pointer) {
   if (!value.is_array() || value.size() > static_cast<std::size_t>(kMaxAttributes)) {
@@ -83,7 +76,7 @@ void readScenario(const json& j, const std::string& base, DirectScenario& out) {
     }
   }
   if (const auto it = j.find("end"); it != j.end()) {
-    out.end = readEnd(*it, jsonPointer(base, "end"));
+    out.end = readScenarioEnd(*it, jsonPointer(base, "end"));
   }
 }
 

@@ -13,6 +13,7 @@
 namespace tnw {
 namespace {
 
+using namespace tnw::tradeoffs;
 using nlohmann::ordered_json;
 
 // Keeps the one export the Finish button raises.
@@ -38,7 +39,7 @@ ordered_json firstK(const std::array<double, kMaxAttributes>& a, int k) {
 }
 
 // The judgments that lower the consistency index most, as the regression status tab lists them.
-ordered_json worstJudgments(const TradeOffOutcome& o) {
+ordered_json worstJudgments(const tradeoffs::TradeOffOutcome& o) {
   ordered_json list = ordered_json::array();
   const auto optional = [](const std::optional<double>& v) {
     return v ? ordered_json(*v) : ordered_json(nullptr);
@@ -61,7 +62,7 @@ ordered_json worstJudgments(const TradeOffOutcome& o) {
   return list;
 }
 
-ordered_json result(const TradeOffOutcome& o, const RecordingUiServices& ui, int k,
+ordered_json result(const tradeoffs::TradeOffOutcome& o, const RecordingUiServices& ui, int k,
                     const ordered_json& exported) {
   const MultiRegressionData& r = o.record;
   ordered_json warnings = ordered_json::array();
@@ -88,13 +89,13 @@ ordered_json result(const TradeOffOutcome& o, const RecordingUiServices& ui, int
 }  // namespace
 
 nlohmann::ordered_json playTradeOffJudgments(WizardContext& ctx,
-                                             const std::vector<TradeOffJudgment>& judgments,
+                                             const std::vector<tradeoffs::TradeOffJudgment>& judgments,
                                              RandomSource& random) {
   RecordingUiServices ui;
   ExportCatcher events;
-  TradeOffScenarioPlayer player(ctx, ui, events, random);
+  tradeoffs::TradeOffScenarioPlayer player(ctx, ui, events, random);
   player.load();
-  player.play(TradeOffScenario{judgments, ScenarioEnd::Finish});
+  player.play(tradeoffs::TradeOffScenario{judgments, wizard::ScenarioEnd::Finish});
   return result(player.outcome(), ui, ctx.model.attributeCount(), events.exported());
 }
 

@@ -15,7 +15,7 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
-namespace tnw {
+namespace tnw::selmethod {
 
 namespace {
 
@@ -50,8 +50,8 @@ SelMethodDialog::SelMethodDialog(const WizardContext& context, UiServices& ui,
   applyAccessibleTexts(this, {{"lstMethods", nullptr, "Next starts the method selected here"}});
   connectControls();
   render();
+  m_presenter.setChangeListener([this] { render(); });
   m_presenter.Form_Load();
-  render();
   adjustSize();
   setFixedSize(size());
 }
@@ -158,8 +158,8 @@ void SelMethodDialog::render() {
   }
   m_lblSelectedMethodName->setText(QString::fromStdString(m_presenter.selectedMethodName()));
   m_lblDescription->setText(QString::fromStdString(m_presenter.description()));
-  m_cmdBack->setEnabled(m_presenter.backEnabled());
-  m_cmdFinish->setEnabled(m_presenter.finishEnabled());
+  m_cmdBack->setEnabled(m_presenter.cmdBack().enabled);
+  m_cmdFinish->setEnabled(m_presenter.cmdFinish().enabled);
   m_rendering = false;
 }
 
@@ -167,14 +167,10 @@ void SelMethodDialog::onSelectionChanged() {
   if (m_rendering) return;
   const QList<QListWidgetItem*> selected = m_lstMethods->selectedItems();
   m_presenter.lstMethods_Click(selected.isEmpty() ? -1 : m_lstMethods->row(selected.front()));
-  render();
 }
 
 void SelMethodDialog::closeRequested() { m_presenter.cmdCancel_Click(); }
 
-void SelMethodDialog::activated() {
-  m_presenter.Form_Activate();
-  render();
-}
+void SelMethodDialog::activated() { m_presenter.Form_Activate(); }
 
-}  // namespace tnw
+}  // namespace tnw::selmethod

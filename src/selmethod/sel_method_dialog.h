@@ -8,7 +8,7 @@ class QLabel;
 class QListWidget;
 class QPushButton;
 
-namespace tnw {
+namespace tnw::selmethod {
 
 // frmTNWSelMethod: the method-selection step as a Qt dialog over SelMethodPresenter. Every
 // control's objectName is its given name.
@@ -45,4 +45,4 @@ class SelMethodDialog : public WizardDialogQt {
   bool m_rendering = false;
 };
 
-}  // namespace tnw
+}  // namespace tnw::selmethod

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-namespace tnw {
+namespace tnw::selmethod {
 
 // The events the method-selection dialog raises; the component object receives them.
 class SelMethodEvents {
@@ -21,4 +21,4 @@ class SelMethodEvents {
   virtual void SendMasseges(const std::string& Msg) = 0;
 };
 
-}  // namespace tnw
+}  // namespace tnw::selmethod

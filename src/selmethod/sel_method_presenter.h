@@ -1,20 +1,27 @@
 #pragma once
 
 #include "common/ui_services.h"
+#include "selmethod/methods_page.h"
 #include "selmethod/sel_method_events.h"
+#include "wizard/wizard_presenter.h"
 
 // Std
 #include <string>
 #include <vector>
 
 namespace tnw {
-
 struct WizardContext;
+}  // namespace tnw
 
-// The method-selection step (frmTNWSelMethod) without widgets: it holds what the dialog shows,
-// reacts to its buttons and raises the dialog's events. The dialog renders this state.
-class SelMethodPresenter {
+namespace tnw::selmethod {
+
+// The method-selection step (frmTNWSelMethod) without widgets: a one-page wizard whose page is
+// the list of methods; it reacts to the frame's buttons and raises the dialog's events. The
+// dialog renders this state on every change.
+class SelMethodPresenter : public wizard::WizardPresenter {
  public:
+  // The only step.
+  static constexpr int kMethodsStep = 0;
   // The dialog's title.
   static constexpr const char* kCaption = "Tarnel Wizard";
   // The status text sent to the host on loading.
@@ -27,7 +34,7 @@ class SelMethodPresenter {
   SelMethodPresenter(const WizardContext& context, UiServices& ui, SelMethodEvents& events);
 
   // Loading: fills the list, preselects the earlier result's method, sets the description
-  // and sends the status text.
+  // and sends the status text; Back and Finish are disabled.
   void Form_Load();
   // Activation: Back and Finish are disabled again.
   void Form_Activate();
@@ -43,31 +50,26 @@ class SelMethodPresenter {
   // Shows the description of method index (0..4) in the two labels; other indexes do nothing.
   void ShowMethodDescription(int index);
 
+  // The page of the dialog.
+  const MethodsPage& methodsPage() const { return m_page; }
   // The items of lstMethods, in order.
-  const std::vector<std::string>& methods() const { return m_methods; }
+  const std::vector<std::string>& methods() const { return m_page.methods(); }
   // The selected item of lstMethods (-1 for none).
-  int selectedIndex() const { return m_selectedIndex; }
+  int selectedIndex() const { return m_page.selectedIndex(); }
   // The caption of lblSelectedMethodName.
-  const std::string& selectedMethodName() const { return m_selectedMethodName; }
+  const std::string& selectedMethodName() const { return m_page.selectedMethodName(); }
   // The caption of lblDescription.
-  const std::string& description() const { return m_description; }
-  // Whether cmdBack is enabled.
-  bool backEnabled() const { return m_backEnabled; }
-  // Whether cmdFinish is enabled.
-  bool finishEnabled() const { return m_finishEnabled; }
+  const std::string& description() const { return m_page.description(); }
   // The help file the Help button opens: NorixDir & "\" & "NORIX.HLP".
   std::string helpFile() const;
 
  private:
+  void disableBackAndFinish();
+
   const WizardContext& m_context;
   UiServices& m_ui;
   SelMethodEvents& m_events;
-  std::vector<std::string> m_methods;
-  int m_selectedIndex = -1;
-  std::string m_selectedMethodName = "Selected method:";
-  std::string m_description = "Description contents";
-  bool m_backEnabled = true;
-  bool m_finishEnabled = true;
+  MethodsPage m_page;
 };
 
-}  // namespace tnw
+}  // namespace tnw::selmethod

@@ -12,7 +12,7 @@
 // Std
 #include <algorithm>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 namespace {
 
@@ -31,10 +31,10 @@ QList<PcPointWidget*> pointsOf(const PcGraphWidget* panel) {
 }
 
 QAccessibleInterface* tradeOffFactory(const QString& key, QObject* object) {
-  if (key == QLatin1String("tnw::PcGraphWidget")) {
+  if (key == QLatin1String(PcGraphWidget::staticMetaObject.className())) {
     return new AccessiblePanel(static_cast<PcGraphWidget*>(object));
   }
-  if (key == QLatin1String("tnw::PcPointWidget")) {
+  if (key == QLatin1String(PcPointWidget::staticMetaObject.className())) {
     auto* point = static_cast<PcPointWidget*>(object);
     return new AccessiblePoint(point, whichOf(point));
   }
@@ -200,4 +200,4 @@ QVariant AccessiblePoint::minimumValue() const { return 0.0; }
 
 QVariant AccessiblePoint::minimumStepSize() const { return PanelKeyboardQt::kStep * 100.0; }
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

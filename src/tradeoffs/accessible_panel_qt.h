@@ -5,7 +5,7 @@
 #include <QAccessibleWidget>
 #include <QObject>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 class PcGraphWidget;
 class PcPointWidget;
@@ -82,4 +82,4 @@ class AccessiblePoint : public QAccessibleWidget, public QAccessibleValueInterfa
 // Registers the interfaces above with Qt's accessibility (once per process).
 void installTradeOffAccessibleInterfaces();
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

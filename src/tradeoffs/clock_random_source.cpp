@@ -3,7 +3,7 @@
 // Std
 #include <chrono>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 namespace {
 
@@ -28,4 +28,4 @@ float ClockRandomSource::next() {
   return static_cast<float>(z >> 40) * (1.0f / 16777216.0f);
 }
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -5,7 +5,7 @@
 // Std
 #include <cstdint>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 // The default random source: the clock is mixed into the state on every draw, as the page
 // reseeds its generator from the clock on every call.
@@ -20,4 +20,4 @@ class ClockRandomSource : public RandomSource {
   std::uint64_t m_state = 0;
 };
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -6,7 +6,7 @@
 #include <QPainter>
 #include <QStyle>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 namespace {
 
@@ -85,4 +85,4 @@ void ItemTextDelegateQt::paint(QPainter* painter, const QStyleOptionViewItem& op
   painter->restore();
 }
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

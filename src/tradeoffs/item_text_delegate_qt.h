@@ -5,7 +5,7 @@
 #include <QStaticText>
 #include <QStyledItemDelegate>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 // Paints the items of the trade-off dialog's lists and grids as the style does, but keeps each
 // text laid out once (a QStaticText) instead of laying it out again at every paint: with 31
@@ -36,4 +36,4 @@ class ItemTextDelegateQt : public QStyledItemDelegate {
   bool m_gridLines = false;
 };
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

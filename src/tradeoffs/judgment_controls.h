@@ -1,12 +1,13 @@
 #pragma once
 
-#include "tradeoffs/control_states.h"
+#include "tradeoffs/score_panel.h"
+#include "wizard/control_states.h"
 
 // Std
 #include <array>
 #include <string>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 // Everything a view shows of the judgment page, by control name.
 struct JudgmentControls {
@@ -21,32 +22,32 @@ struct JudgmentControls {
   static constexpr std::array<const char*, 3> kScaleMarks = {"-1", "-2", "-3"};
   static constexpr std::array<const char*, 2> kToolbarButtons = {"Up", "Down"};
 
-  OptionState optPCAutomatic{"Automatic", true, true};
-  OptionState optPCManual{"Manual", false, true};
-  ListState lstTradeOffFirstC{"The fi&rst:", {}, -1, false};
-  ListState lstTradeOffSecondC{"The &second:", {}, -1, false};
+  wizard::OptionState optPCAutomatic{"Automatic", true, true};
+  wizard::OptionState optPCManual{"Manual", false, true};
+  wizard::ListState lstTradeOffFirstC{"The fi&rst:", {}, -1, false};
+  wizard::ListState lstTradeOffSecondC{"The &second:", {}, -1, false};
   // The number of the trade-off in hand and the number needed.
-  LabelState labPCThisNum;
-  LabelState labPCNeccesaryNum;
+  wizard::LabelState labPCThisNum;
+  wizard::LabelState labPCNeccesaryNum;
   // The axis captions of the panel: the names of the two selected attributes once loaded.
-  LabelState labPCCriterion1{"Attribute 1", true};
-  LabelState labPCCriterion2{"Attribute 2", true};
+  wizard::LabelState labPCCriterion1{"Attribute 1", true};
+  wizard::LabelState labPCCriterion2{"Attribute 2", true};
   // Score boxes, in the order of the step toolbars tbScoreChanger(0..3): (1) A on the first
   // attribute, (2) A on the second, (3) B on the first, (4) B on the second.
-  std::array<TextBoxState, 4> scoreBoxes;
+  std::array<wizard::TextBoxState, 4> scoreBoxes;
   // A's score minus B's on the first and on the second attribute.
-  LabelState labTradeOffDiff1;
-  LabelState labTradeOffDiff2;
-  ButtonState cmdTradeOffClearAll{"Clear &All", true, true};
-  ButtonState cmdTradeOffEnter{"&Enter", true, true};
+  wizard::LabelState labTradeOffDiff1;
+  wizard::LabelState labTradeOffDiff2;
+  wizard::ButtonState cmdTradeOffClearAll{"Clear &All", true, true};
+  wizard::ButtonState cmdTradeOffEnter{"&Enter", true, true};
   // The seven degrees of the verbal scale, index 0 "Strongly" to 6 "Strongly the opposite".
-  std::array<OptionState, 7> optPCVerbal{{{"Strongly", false, true},
-                                          {"Moderately", false, true},
-                                          {"Slightly", false, true},
-                                          {"Indifference", true, true},
-                                          {"Slightly the opposite", false, true},
-                                          {"Moderately the opposite", false, true},
-                                          {"Strongly the opposite", false, true}}};
+  std::array<wizard::OptionState, 7> optPCVerbal{{{"Strongly", false, true},
+                                                  {"Moderately", false, true},
+                                                  {"Slightly", false, true},
+                                                  {"Indifference", true, true},
+                                                  {"Slightly the opposite", false, true},
+                                                  {"Moderately the opposite", false, true},
+                                                  {"Strongly the opposite", false, true}}};
   // The tab of tsComparisonApproaches in front: 1 numerical (framePCNumericalC), 2 verbal
   // (framePCVerbalC).
   int tsComparisonApproaches = 1;
@@ -55,14 +56,14 @@ struct JudgmentControls {
   PanelPoint shpPCB;
 
   // The score box of a toolbar index (0..3).
-  TextBoxState& txtTradeOffAFirstScore() { return scoreBoxes[0]; }
-  TextBoxState& txtTradeOffASecondScore() { return scoreBoxes[1]; }
-  TextBoxState& txtTradeOffBFirstScore() { return scoreBoxes[2]; }
-  TextBoxState& txtTradeOffBSecondScore() { return scoreBoxes[3]; }
+  wizard::TextBoxState& txtTradeOffAFirstScore() { return scoreBoxes[0]; }
+  wizard::TextBoxState& txtTradeOffASecondScore() { return scoreBoxes[1]; }
+  wizard::TextBoxState& txtTradeOffBFirstScore() { return scoreBoxes[2]; }
+  wizard::TextBoxState& txtTradeOffBSecondScore() { return scoreBoxes[3]; }
   // The control names of the score boxes, by index.
   static constexpr std::array<const char*, 4> kScoreBoxNames = {
       "txtTradeOffAFirstScore", "txtTradeOffASecondScore", "txtTradeOffBFirstScore",
       "txtTradeOffBSecondScore"};
 };
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -3,24 +3,18 @@
 #include "common/number_format.h"
 #include "common/ui_services.h"
 #include "component/wizard_context.h"
+#include "model/attribute_names.h"
 #include "model/value_function.h"
 #include "tradeoffs/score_entry.h"
 
 // Std
 #include <cmath>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 namespace {
 
 constexpr const char* kTitle = "NORIX";
-
-std::string trimmed(const std::string& s) {
-  const auto b = s.find_first_not_of(' ');
-  if (b == std::string::npos) return {};
-  const auto e = s.find_last_not_of(' ');
-  return s.substr(b, e - b + 1);
-}
 
 // The attribute's stored low or high end, as stored: a range may run from a larger low end to
 // a smaller high end (a price, for instance), and the range message keeps that order.
@@ -28,11 +22,6 @@ double scoreEnd(const AttributeModel& m, int att, bool high) {
   if (att < 0 || att >= kMaxAttributes) return 0.0;
   const auto a = static_cast<std::size_t>(att);
   return high ? m.AttScoreHigh[a] : m.AttScoreLow[a];
-}
-
-std::string attName(const AttributeModel& m, int att) {
-  if (att < 0 || att >= kMaxAttributes) return {};
-  return trimmed(m.AttName[static_cast<std::size_t>(att)]);
 }
 
 }  // namespace
@@ -47,7 +36,7 @@ void JudgmentPage::reset() {
   m_tradeOffsNeeded = static_cast<std::int16_t>((numAtt - 1) * numAtt / 2 * 2);
   m_store.dimension(m_tradeOffsNeeded, numAtt);
   std::vector<std::string> names;
-  for (int i = 0; i < numAtt; ++i) names.push_back(attName(m_context.model, i));
+  for (int i = 0; i < numAtt; ++i) names.push_back(model::attributeName(m_context.model, i));
   m_controls.lstTradeOffFirstC.items = names;
   m_controls.lstTradeOffSecondC.items = names;
   m_controls.labPCThisNum.caption = "1";
@@ -56,10 +45,15 @@ void JudgmentPage::reset() {
   setPair(0, 1);
 }
 
+void JudgmentPage::revisitPage() {
+  enableEnter();
+  reset();
+}
+
 void JudgmentPage::setPair(int first, int second) {
   m_first = static_cast<std::int16_t>(first);
   m_second = static_cast<std::int16_t>(second);
-  const auto listIndex = [](const ListState& l, int i) {
+  const auto listIndex = [](const wizard::ListState& l, int i) {
     return i >= 0 && i < static_cast<int>(l.items.size()) ? i : -1;
   };
   m_controls.lstTradeOffFirstC.listIndex = listIndex(m_controls.lstTradeOffFirstC, first);
@@ -70,8 +64,8 @@ void JudgmentPage::setPair(int first, int second) {
 
 void JudgmentPage::relabel() {
   const AttributeModel& m = m_context.model;
-  m_controls.labPCCriterion1.caption = attName(m, m_first);
-  m_controls.labPCCriterion2.caption = attName(m, m_second);
+  m_controls.labPCCriterion1.caption = model::attributeName(m, m_first);
+  m_controls.labPCCriterion2.caption = model::attributeName(m, m_second);
   m_lowFirst = static_cast<float>(scoreEnd(m, m_first, false));
   m_highFirst = static_cast<float>(scoreEnd(m, m_first, true));
   m_lowSecond = static_cast<float>(scoreEnd(m, m_second, false));
@@ -85,9 +79,7 @@ void JudgmentPage::DisplayScoresInTxtBox(int first, int second) {
   const TradeOffScores s = m_pairs.drawScores(m_context.model, first, second);
   const Currency scores[4] = {s.A1, s.A2, s.B1, s.B2};
   for (std::size_t i = 0; i < 4; ++i) {
-    m_controls.scoreBoxes[i].text = formatNumber(scores[i].toDouble(), "###,##0.0#");
-    m_controls.scoreBoxes[i].selStart = 0;
-    m_controls.scoreBoxes[i].selLength = 0;
+    m_controls.scoreBoxes[i].setText(formatNumber(scores[i].toDouble(), "###,##0.0#"));
   }
   m_panel.PositioningAandB(s.A1.toDouble(), s.A2.toDouble(), s.B1.toDouble(), s.B2.toDouble());
   m_controls.shpPCA = m_panel.shpPCA();
@@ -134,7 +126,7 @@ void JudgmentPage::lstTradeOffSecondC_Click(int index) {
 
 void JudgmentPage::scoreBoxKeyPress(int box, int key, int selStart, int selLength) {
   if (box < 0 || box > 3) return;
-  TextBoxState& b = m_controls.scoreBoxes[static_cast<std::size_t>(box)];
+  wizard::TextBoxState& b = m_controls.scoreBoxes[static_cast<std::size_t>(box)];
   b.selStart = selStart;
   b.selLength = selLength;
   if (key == ScoreEntry::kEnter) {
@@ -151,7 +143,7 @@ void JudgmentPage::scoreBoxKeyPress(int box, int key, int selStart, int selLengt
 
 void JudgmentPage::setScoreText(int box, const std::string& text) {
   if (box < 0 || box > 3) return;
-  TextBoxState& b = m_controls.scoreBoxes[static_cast<std::size_t>(box)];
+  wizard::TextBoxState& b = m_controls.scoreBoxes[static_cast<std::size_t>(box)];
   b.text = text;
   b.selStart = static_cast<int>(text.size());
   b.selLength = 0;
@@ -160,7 +152,7 @@ void JudgmentPage::setScoreText(int box, const std::string& text) {
 void JudgmentPage::tbScoreChanger_ButtonClick(int index, bool up) {
   if (index < 0 || index > 3) return;
   const bool first = index % 2 == 0;
-  TextBoxState& b = m_controls.scoreBoxes[static_cast<std::size_t>(index)];
+  wizard::TextBoxState& b = m_controls.scoreBoxes[static_cast<std::size_t>(index)];
   b.text = ScoreEntry::step(b.text, first ? m_lowFirst : m_lowSecond,
                             first ? m_highFirst : m_highSecond, up);
   m_changedByToolbar = true;
@@ -188,7 +180,7 @@ void JudgmentPage::tsComparisonApproaches_Click(int tab) {
 }
 
 double JudgmentPage::boxValue(int box) const {
-  return leadingNumber(trimmed(m_controls.scoreBoxes[static_cast<std::size_t>(box)].text));
+  return leadingNumber(model::trimmed(m_controls.scoreBoxes[static_cast<std::size_t>(box)].text));
 }
 
 void JudgmentPage::fail(const std::string& text) {
@@ -206,7 +198,7 @@ bool JudgmentPage::CheckEnteredDataS(int box) {
 
 bool JudgmentPage::checkBoxRange(int box, float low, float high) {
   if (box < 0 || box > 3) return false;
-  TextBoxState& b = m_controls.scoreBoxes[static_cast<std::size_t>(box)];
+  wizard::TextBoxState& b = m_controls.scoreBoxes[static_cast<std::size_t>(box)];
   const std::optional<std::string> message = ScoreEntry::checkRange(b.text, low, high);
   if (!message) return true;
   m_entryError = true;
@@ -331,4 +323,4 @@ std::optional<Currency> JudgmentPage::AbsoluteWeight(int p, int q, int order) co
   return Currency::fromDouble(ratio);
 }
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

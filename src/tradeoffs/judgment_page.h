@@ -5,6 +5,8 @@
 #include "tradeoffs/judgment_store.h"
 #include "tradeoffs/pair_generator.h"
 #include "tradeoffs/score_panel.h"
+#include "tradeoffs/trade_off_weights.h"
+#include "wizard/wizard_page.h"
 
 // Std
 #include <cstdint>
@@ -12,17 +14,16 @@
 #include <string>
 
 namespace tnw {
-
 struct WizardContext;
 class UiServices;
+}  // namespace tnw
 
-// Kept apart from the direct method's JudgmentPage (see control_states.h).
-inline namespace tradeoffs {
+namespace tnw::tradeoffs {
 
 // The judgment page of the trade-off dialog: the pair of attributes, the random alternatives A
 // and B, score entry and checks, the verbal scale, and Enter recording judgments into the store
 // the regression reads. Messages go through the UI services; the view renders controls().
-class JudgmentPage {
+class JudgmentPage : public wizard::WizardPage {
  public:
   // The instruction of the page.
   static constexpr const char* kInstruction =
@@ -42,6 +43,14 @@ class JudgmentPage {
 
   // Form_Load, and going back to the page: counters, pair (0, 1), store and a new pair A, B.
   void reset();
+  // Loading: the page in its first state (reset).
+  void initializePage() override { reset(); }
+  // Back from the results page: Enter is enabled again and the page starts afresh (reset).
+  void revisitPage() override;
+  // Next leads to the results page.
+  int nextId() const override { return kResultsStep; }
+  // The regression may run on whatever has been recorded, so Next is never held back here.
+  bool isComplete() const override { return true; }
 
   // The controls as the view shows them.
   const JudgmentControls& controls() const { return m_controls; }
@@ -139,5 +148,4 @@ class JudgmentPage {
   float m_highSecond = 0.0f;
 };
 
-}  // namespace tradeoffs
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 // The recorded trade-off judgments the regression reads. Judgment k (1-based, as the dialog
 // counts) is kept at index k - 1 of every array.
@@ -53,4 +53,4 @@ struct JudgmentStore {
   }
 };
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

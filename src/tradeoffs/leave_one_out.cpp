@@ -1,7 +1,7 @@
 #include "tradeoffs/leave_one_out.h"
 
 #include "common/number_format.h"
-#include "component/wizard_context.h"
+#include "model/attribute_names.h"
 #include "model/value_function.h"
 #include "tradeoffs/regression.h"
 
@@ -11,20 +11,9 @@
 #include <functional>
 #include <vector>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 namespace {
-
-std::string trimmed(const std::string& s) {
-  const auto first = s.find_first_not_of(' ');
-  if (first == std::string::npos) return {};
-  return s.substr(first, s.find_last_not_of(' ') - first + 1);
-}
-
-std::string attName(const AttributeModel& m, int att) {
-  if (att < 0 || att >= kMaxAttributes) return {};
-  return trimmed(m.AttName[static_cast<std::size_t>(att)]);
-}
 
 std::optional<double> valueOf(const AttributeModel& m, int att, double score) {
   const AttValueResult r = SingleAttValue(m, att, score);
@@ -194,7 +183,7 @@ std::vector<std::optional<double>> leaveOneOutIndexes(const JudgmentStore& store
   const int n = std::max(store.JudgmentCount, 0);
   std::vector<std::optional<double>> out(static_cast<std::size_t>(n));
   JudgmentStore copy = store;
-  WizardContext scratch;
+  TradeOffWeights scratch;
   MultiRegressionData record;
   Regression full;
   full.RegressMain(copy, numAtt, record, scratch);
@@ -253,7 +242,7 @@ std::optional<double> LeaveOneOut::indexWithout(const JudgmentStore& store, int 
                                                 int judgment) {
   if (judgment < 1 || judgment > store.JudgmentCount) return std::nullopt;
   JudgmentStore rest = without(store, numAtt, judgment - 1);
-  WizardContext scratch;
+  TradeOffWeights scratch;
   MultiRegressionData record;
   Regression reg;
   reg.RegressMain(rest, numAtt, record, scratch);
@@ -354,22 +343,23 @@ std::string LeaveOneOut::describe(const AttributeModel& model, const JudgmentInf
     if (!text.empty() && text.back() == '.') text.pop_back();
     return text;
   };
-  std::string line = "Judgment " + std::to_string(j.judgment) + " (" + attName(model, j.first) +
-                     ", " + attName(model, j.second) + "): A " + score(j.scores[0]) + " / " +
+  std::string line = "Judgment " + std::to_string(j.judgment) + " (" +
+                     model::attributeName(model, j.first) + ", " +
+                     model::attributeName(model, j.second) + "): A " + score(j.scores[0]) + " / " +
                      score(j.scores[2]) + ", B " + score(j.scores[1]) + " / " + score(j.scores[3]);
   if (j.response != 0) line += ", response " + std::to_string(j.response);
   line += "; index without it " + formatNumber(j.indexWithout, "0.0000") + " (+" +
           formatNumber(j.gain, "0.0000") + "); B fitting the weights: ";
   if (j.fittedBSecond) {
-    line += attName(model, j.second) + " " + score(*j.fittedBSecond);
+    line += model::attributeName(model, j.second) + " " + score(*j.fittedBSecond);
     if (j.fittedBFirst)
-      line += " (or " + attName(model, j.first) + " " + score(*j.fittedBFirst) + ")";
+      line += " (or " + model::attributeName(model, j.first) + " " + score(*j.fittedBFirst) + ")";
   } else if (j.fittedBFirst) {
-    line += attName(model, j.first) + " " + score(*j.fittedBFirst);
+    line += model::attributeName(model, j.first) + " " + score(*j.fittedBFirst);
   } else {
     line += "no score in the range";
   }
   return line;
 }
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

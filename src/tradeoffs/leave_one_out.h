@@ -10,8 +10,10 @@
 #include <vector>
 
 namespace tnw {
-
 struct AttributeModel;
+}  // namespace tnw
+
+namespace tnw::tradeoffs {
 
 // How much one recorded trade-off judgment lowers the consistency index: the index of the fit
 // without it, and the score of B that would have agreed with the estimated weights.
@@ -69,4 +71,4 @@ class LeaveOneOut {
   static std::string describe(const AttributeModel& model, const JudgmentInfluence& j);
 };
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <vector>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 // A dense matrix of doubles with 0-based row and column indexes, all elements 0 when made.
 class Matrix {
@@ -37,4 +37,4 @@ class Matrix {
   std::vector<double> m_data;
 };
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -6,7 +6,7 @@
 #include <array>
 #include <cstdint>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 // The result record of the regression that the results page reads. Attribute i (1-based) is
 // stored at index i - 1 of the four arrays.
@@ -30,4 +30,4 @@ struct MultiRegressionData {
   std::array<double, kMaxAttributes> HighEst{};
 };
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

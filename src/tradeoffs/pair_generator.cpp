@@ -4,7 +4,7 @@
 #include <optional>
 #include <utility>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 Currency PairGenerator::RandomScore(float P, float Q, float r) {
   // The divisor 1.6, the added 1 in score units and the fold-back by division are intended: the
@@ -55,4 +55,4 @@ TradeOffScores PairGenerator::drawScores(const AttributeModel& model, int first,
   return s;
 }
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

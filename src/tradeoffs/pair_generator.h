@@ -5,7 +5,7 @@
 #include "tradeoffs/random_source.h"
 #include "tradeoffs/trade_off_scores.h"
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 // Draws the random alternatives A and B of a trade-off: one random score per attribute and
 // alternative, and an exchange that keeps B from dominating A or A from dominating B.
@@ -28,4 +28,4 @@ class PairGenerator {
   RandomSource& m_random;
 };
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

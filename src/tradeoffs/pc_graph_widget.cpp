@@ -11,7 +11,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 namespace {
 
@@ -131,4 +131,4 @@ void PcGraphWidget::paintEvent(QPaintEvent* event) {
   }
 }
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

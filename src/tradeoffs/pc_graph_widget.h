@@ -8,7 +8,7 @@
 
 class QLabel;
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 class PcPointWidget;
 
@@ -65,4 +65,4 @@ class PcGraphWidget : public QFrame {
   QPixmap m_grid;
 };
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -9,7 +9,7 @@
 // Std
 #include <utility>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 PcPointWidget::PcPointWidget(const QString& letter, const QColor& fill, PcGraphWidget* panel)
     : QWidget(panel), m_panel(panel), m_letter(letter), m_fill(fill) {
@@ -106,4 +106,4 @@ void PcPointWidget::mouseReleaseEvent(QMouseEvent* event) {
   event->accept();
 }
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

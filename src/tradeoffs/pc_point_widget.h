@@ -5,7 +5,7 @@
 #include <QPixmap>
 #include <QWidget>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 class PcGraphWidget;
 
@@ -51,4 +51,4 @@ class PcPointWidget : public QWidget {
   bool m_dragging = false;
 };
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -8,7 +8,7 @@
 // Std
 #include <algorithm>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 namespace {
 
@@ -111,4 +111,4 @@ void PrintedTableQt::drawLine(QPainter& painter, std::size_t line, const QPointF
                    QPointF(topLeft.x() + m_width, topLeft.y() + height));
 }
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -14,7 +14,7 @@ class QPainter;
 class QPointF;
 class QTextLayout;
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 // One grid of the trade-off print-out laid out for a width: the first column (the names) takes
 // what the others leave, the others are as wide as their widest text, and every text wraps to
@@ -52,4 +52,4 @@ class PrintedTableQt {
   double m_padding = 0.0;
 };
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -1,6 +1,6 @@
 #pragma once
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 // A source of uniform random numbers in [0, 1) of single precision, as the trade-off page draws
 // them. Injected, so that tests and the headless runner can fix the draws.
@@ -11,4 +11,4 @@ class RandomSource {
   virtual float next() = 0;
 };
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -2,13 +2,12 @@
 
 #include "common/currency.h"
 #include "common/number_format.h"
-#include "component/wizard_context.h"
 
 // Std
 #include <algorithm>
 #include <cmath>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 namespace {
 
@@ -49,7 +48,7 @@ std::optional<std::string> Regression::consistencyComment(double index) {
 }
 
 void Regression::RegressMain(JudgmentStore& store, int numAtt, MultiRegressionData& record,
-                             WizardContext& shared) {
+                             TradeOffWeights& shared) {
   m_warnings.clear();
   m_error.reset();
   m_failed = true;
@@ -317,7 +316,7 @@ void Regression::CalModelValues() {
   }
 }
 
-void Regression::StoreMultiRegressionData(MultiRegressionData& record, WizardContext& shared) {
+void Regression::StoreMultiRegressionData(MultiRegressionData& record, TradeOffWeights& shared) {
   const RegressionWork& w = m_work;
   // Checked before anything is written, so that a failure leaves everything as it was.
   std::optional<std::string> comment = consistencyComment(w.ConsistencyIndex);
@@ -375,4 +374,4 @@ bool Regression::resultsFinite() const {
          allFinite(w.LowEst) && allFinite(w.HighEst);
 }
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

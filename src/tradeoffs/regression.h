@@ -3,15 +3,14 @@
 #include "tradeoffs/judgment_store.h"
 #include "tradeoffs/multi_regression_data.h"
 #include "tradeoffs/regression_work.h"
+#include "tradeoffs/trade_off_weights.h"
 
 // Std
 #include <optional>
 #include <string>
 #include <vector>
 
-namespace tnw {
-
-struct WizardContext;
+namespace tnw::tradeoffs {
 
 // The weight estimation of the trade-off method: a least-squares fit of the responses on the
 // value differences, its statistics, the shifted coefficients with their bands, the consistency
@@ -52,9 +51,9 @@ class Regression {
   static std::optional<std::string> consistencyComment(double index);
 
   // Runs the whole fit on the recorded judgments for numAtt attributes. A completed fit writes
-  // the record and the shared weight tables and comment; a failed one leaves them as they were.
+  // the record and the method's weight tables and comment; a failed one leaves them as they were.
   void RegressMain(JudgmentStore& store, int numAtt, MultiRegressionData& record,
-                   WizardContext& shared);
+                   TradeOffWeights& shared);
 
   // The column means XMean of X and the mean YMean of Y.
   void CalMeans();
@@ -70,8 +69,8 @@ class Regression {
   void LowHighEstimation();
   // The fitted values and residuals from the shifted coefficients.
   void CalModelValues();
-  // Writes the record, the shared weight tables and the consistency comment.
-  void StoreMultiRegressionData(MultiRegressionData& record, WizardContext& shared);
+  // Writes the record, the weight tables and the consistency comment.
+  void StoreMultiRegressionData(MultiRegressionData& record, TradeOffWeights& shared);
   // Weights(i) = Coef(i) / Σ Coef. When the sum is zero (as after a fit that stopped on a
   // warning) or the weights are not finite, the weights stay 0 and the message is returned.
   std::optional<std::string> CalWeights();
@@ -97,4 +96,4 @@ class Regression {
   bool m_failed = false;
 };
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 // The working arrays and scalars of one regression run, named as the dialog names them. Vectors
 // indexed by attribute or observation have a lower bound of 0 that is not used: attribute i and
@@ -71,4 +71,4 @@ struct RegressionWork {
   }
 };
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -1,36 +1,39 @@
 #include "tradeoffs/results_page.h"
 
 #include "common/number_format.h"
-#include "component/wizard_context.h"
+#include "model/attribute_model.h"
+#include "model/attribute_names.h"
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 namespace {
-
-std::string trimmed(const std::string& s) {
-  const auto b = s.find_first_not_of(' ');
-  if (b == std::string::npos) return {};
-  const auto e = s.find_last_not_of(' ');
-  return s.substr(b, e - b + 1);
-}
 
 double at(const std::vector<double>& v, int i) {
   return i >= 0 && i < static_cast<int>(v.size()) ? v[static_cast<std::size_t>(i)] : 0.0;
 }
 
 // The chart items: one per attribute with its name and its high, low and close estimates.
-ChartData hlcData(const WizardContext& c) {
+ChartData hlcData(const AttributeModel& m, const TradeOffWeights& w) {
   ChartData d;
   d.title = ResultsPage::kChartTitle;
-  d.n = c.model.attributeCount();
+  d.n = m.attributeCount();
   for (int i = 0; i < d.n; ++i) {
-    d.names.push_back(trimmed(c.model.AttName[static_cast<std::size_t>(i)]));
-    d.data.push_back({at(c.UpperWeights, i), at(c.LowerWeights, i), at(c.CloseWeights, i)});
+    d.names.push_back(model::attributeName(m, i));
+    d.data.push_back({at(w.UpperWeights, i), at(w.LowerWeights, i), at(w.CloseWeights, i)});
   }
   return d;
 }
 
 }  // namespace
+
+void ResultsPage::initializePage() {
+  if (m_model == nullptr || m_weightsIn == nullptr || m_record == nullptr) return;
+  SetgirdWeights(*m_model);
+  SetgridOverallRegression();
+  FillRegressionData(*m_record, m_weightsIn->RegressionComment);
+  FillWeightData(*m_weightsIn);
+  tbWeightCharts_ButtonClick(kHLCa);
+}
 
 void ResultsPage::SetgridOverallRegression() {
   m_overall.cells = {{"Items", "Values"},           {"Constant", ""},
@@ -46,60 +49,69 @@ void ResultsPage::FillRegressionData(const MultiRegressionData& record,
   m_overall.cells[3][1] = formatNumber(record.RSquared, "0.0000");
   m_overall.cells[4][1] = formatNumber(record.NumObs, "###");
   m_overall.cells[5][1] = formatNumber(record.DegFreedom, "###");
-  m_comments.text = trimmed(comment);
+  m_comments.text = model::trimmed(comment);
 }
 
-void ResultsPage::SetgirdWeights(const WizardContext& context) {
+void ResultsPage::SetgirdWeights(const AttributeModel& model) {
   m_weights.cells = {{"Attributes", "Weights", "Est.High", "Est.Low"}};
-  const int n = context.model.attributeCount();
+  const int n = model.attributeCount();
   for (int i = 0; i < n; ++i) {
-    m_weights.cells.push_back(
-        {trimmed(context.model.AttName[static_cast<std::size_t>(i)]), "", "", ""});
+    m_weights.cells.push_back({model::attributeName(model, i), "", "", ""});
   }
 }
 
-void ResultsPage::FillWeightData(const WizardContext& context) {
+void ResultsPage::FillWeightData(const TradeOffWeights& weights) {
   for (int i = 1; i < m_weights.rows(); ++i) {
     auto& row = m_weights.cells[static_cast<std::size_t>(i)];
-    row[1] = formatNumber(at(context.CloseWeights, i - 1), "0.0000");
-    row[2] = formatNumber(at(context.UpperWeights, i - 1), "0.0000");
-    row[3] = formatNumber(at(context.LowerWeights, i - 1), "0.0000");
+    row[1] = formatNumber(at(weights.CloseWeights, i - 1), "0.0000");
+    row[2] = formatNumber(at(weights.UpperWeights, i - 1), "0.0000");
+    row[3] = formatNumber(at(weights.LowerWeights, i - 1), "0.0000");
   }
 }
 
-ChartData ResultsPage::Display_VerticalWeightBars(const WizardContext& context) {
+ChartData ResultsPage::Display_VerticalWeightBars(const AttributeModel& model,
+                                                  const TradeOffWeights& weights) {
   // The bars read the high estimates, on purpose: the page has always shown them this way.
   ChartData d;
   d.title = kChartTitle;
-  d.n = context.model.attributeCount();
+  d.n = model.attributeCount();
   d.seriesCount = 1;
   d.legend = {"Weights"};
   for (int i = 0; i < d.n; ++i) {
-    d.names.push_back(trimmed(context.model.AttName[static_cast<std::size_t>(i)]));
-    d.data.push_back({at(context.UpperWeights, i), 0.0, 0.0});
+    d.names.push_back(model::attributeName(model, i));
+    d.data.push_back({at(weights.UpperWeights, i), 0.0, 0.0});
   }
   return d;
 }
 
-ChartData ResultsPage::Display_WeightsHLCGraphA(const WizardContext& context) {
-  ChartData d = hlcData(context);
+ChartData ResultsPage::Display_WeightsHLCGraphA(const AttributeModel& model,
+                                                const TradeOffWeights& weights) {
+  ChartData d = hlcData(model, weights);
   d.legend = {"High Est.", "Low Est.", "Close Est."};
   return d;
 }
 
-ChartData ResultsPage::Display_WeightsHLCGraphB(const WizardContext& context) {
-  ChartData d = hlcData(context);
+ChartData ResultsPage::Display_WeightsHLCGraphB(const AttributeModel& model,
+                                                const TradeOffWeights& weights) {
+  ChartData d = hlcData(model, weights);
   d.legend = {"Ranges", "Close Est."};
   return d;
 }
 
-void ResultsPage::tbWeightCharts_ButtonClick(const std::string& key, const WizardContext& context) {
+void ResultsPage::tbWeightCharts_ButtonClick(const std::string& key) {
+  if (m_model != nullptr && m_weightsIn != nullptr) {
+    tbWeightCharts_ButtonClick(key, *m_model, *m_weightsIn);
+  }
+}
+
+void ResultsPage::tbWeightCharts_ButtonClick(const std::string& key, const AttributeModel& model,
+                                             const TradeOffWeights& weights) {
   if (key == kWeightBars) {
-    m_chart = Display_VerticalWeightBars(context);
+    m_chart = Display_VerticalWeightBars(model, weights);
   } else if (key == kHLCa) {
-    m_chart = Display_WeightsHLCGraphA(context);
+    m_chart = Display_WeightsHLCGraphA(model, weights);
   } else if (key == kHLCb) {
-    m_chart = Display_WeightsHLCGraphB(context);
+    m_chart = Display_WeightsHLCGraphB(model, weights);
   } else {
     return;
   }
@@ -119,4 +131,4 @@ void ResultsPage::drawChart(DrawingSurface& surface) const {
   }
 }
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -5,9 +5,7 @@
 // Std
 #include <vector>
 
-namespace tnw {
-// The namespace of the method's other files, which declare it inline.
-inline namespace tradeoffs {
+namespace tnw::tradeoffs {
 
 using wizard::ScenarioEnd;
 
@@ -31,5 +29,4 @@ struct TradeOffScenario {
   ScenarioEnd end = ScenarioEnd::Finish;
 };
 
-}  // namespace tradeoffs
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

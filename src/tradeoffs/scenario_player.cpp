@@ -3,8 +3,7 @@
 #include "common/number_format.h"
 #include "component/wizard_context.h"
 
-namespace tnw {
-inline namespace tradeoffs {
+namespace tnw::tradeoffs {
 
 TradeOffScenarioPlayer::TradeOffScenarioPlayer(WizardContext& context, UiServices& ui,
                                                TradeOffsAEvents& events, RandomSource& random)
@@ -76,7 +75,7 @@ void TradeOffScenarioPlayer::end(ScenarioEnd how, TradeOffObserver& observer) {
       return;
     case ScenarioEnd::Finish:
       m_presenter.cmdNext_Click();
-      observer.finishing(m_presenter.step(), m_context.RegressionComment,
+      observer.finishing(m_presenter.step(), m_presenter.weights().RegressionComment,
                          m_presenter.cmdFinish().enabled);
       if (!m_presenter.fitError()) m_presenter.cmdFinish_Click();
       return;
@@ -93,11 +92,10 @@ TradeOffOutcome TradeOffScenarioPlayer::outcome() const {
   for (int i = 1; i <= k && i < static_cast<int>(w.Weights.size()); ++i) {
     out.weights.push_back(w.Weights[static_cast<std::size_t>(i)]);
   }
-  out.comment = m_context.RegressionComment;
+  out.comment = m_presenter.weights().RegressionComment;
   out.worstJudgments = m_presenter.worstJudgments();
   out.worstJudgmentLines = m_presenter.worstJudgmentLines();
   return out;
 }
 
-}  // namespace tradeoffs
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -9,9 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace tnw {
-// The namespace of the method's other files, which declare it inline.
-inline namespace tradeoffs {
+namespace tnw::tradeoffs {
 
 // The fit a run left: what the results step shows and the regression's comment.
 struct TradeOffOutcome {
@@ -75,5 +73,4 @@ class TradeOffScenarioPlayer {
   TradeOffsAPresenter m_presenter;
 };
 
-}  // namespace tradeoffs
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

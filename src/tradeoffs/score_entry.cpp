@@ -1,34 +1,17 @@
 #include "tradeoffs/score_entry.h"
 
 #include "common/number_format.h"
+#include "model/attribute_names.h"
 
 // Std
 #include <algorithm>
 #include <cmath>
 #include <string_view>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
-namespace {
-
-std::string trimmed(const std::string& s) {
-  const auto b = s.find_first_not_of(' ');
-  if (b == std::string::npos) return {};
-  const auto e = s.find_last_not_of(' ');
-  return s.substr(b, e - b + 1);
-}
-
-// Keeps the caret and selection inside the text, as a text box does.
-void clampSelection(TextBoxState& box) {
-  const int len = static_cast<int>(box.text.size());
-  box.selStart = std::clamp(box.selStart, 0, len);
-  box.selLength = std::clamp(box.selLength, 0, len - box.selStart);
-}
-
-}  // namespace
-
-bool ScoreEntry::CheckPeriod(TextBoxState& box) {
-  clampSelection(box);
+bool ScoreEntry::CheckPeriod(wizard::TextBoxState& box) {
+  box.clampSelection();
   // The typed key replaces the selection, so only a period outside it counts. Only a period key
   // asks, so digits are typed without looking through the text.
   const std::string_view text = box.text;
@@ -38,7 +21,7 @@ bool ScoreEntry::CheckPeriod(TextBoxState& box) {
          text.substr(end).find('.') != std::string_view::npos;
 }
 
-int ScoreEntry::DoKeyPress(TextBoxState& box, int key) {
+int ScoreEntry::DoKeyPress(wizard::TextBoxState& box, int key) {
   if (key < kBlank) return key;
   if (key >= '0' && key <= '9') return key;
   // A second period cannot accumulate: the period key is dropped while the box holds one.
@@ -46,28 +29,17 @@ int ScoreEntry::DoKeyPress(TextBoxState& box, int key) {
   return 0;
 }
 
-void ScoreEntry::applyKey(TextBoxState& box, int key) {
-  clampSelection(box);
-  const auto start = static_cast<std::size_t>(box.selStart);
-  const auto length = static_cast<std::size_t>(box.selLength);
+void ScoreEntry::applyKey(wizard::TextBoxState& box, int key) {
+  box.clampSelection();
   if (key == kBackspace) {
-    if (length > 0) {
-      box.text.erase(start, length);
-    } else if (start > 0) {
-      box.text.erase(start - 1, 1);
-      box.selStart -= 1;
-    }
-    box.selLength = 0;
-    return;
+    box.backspace();
+  } else if (key >= kBlank && key <= 126) {
+    box.typeCharacter(static_cast<char>(key));
   }
-  if (key < kBlank || key > 126) return;
-  box.text.replace(start, length, 1, static_cast<char>(key));
-  box.selStart += 1;
-  box.selLength = 0;
 }
 
 std::optional<std::string> ScoreEntry::checkRange(const std::string& text, float low, float high) {
-  const double v = leadingNumber(trimmed(text));
+  const double v = leadingNumber(model::trimmed(text));
   // The ends may come in either order; the message names them as they were given.
   if (v >= std::min(low, high) && v <= std::max(low, high)) return std::nullopt;
   return "The data you entered should be in the relevant score range [" + generalTextSingle(low) +
@@ -82,4 +54,4 @@ std::string ScoreEntry::step(const std::string& text, float low, float high, boo
   return formatNumber(up ? v + stepSize : v - stepSize, "0.0#");
 }
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "tradeoffs/control_states.h"
+#include "wizard/control_states.h"
 
 // Std
 #include <optional>
 #include <string>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 // The editing rules of the four score boxes: the key filter, the period guard, the range check
 // and the toolbar step. Pure functions over a box's state.
@@ -19,13 +19,13 @@ class ScoreEntry {
 
   // Whether the box already holds a period outside its selection, so that a typed period would
   // be a second one (the selection, which the key replaces, is kept in range).
-  static bool CheckPeriod(TextBoxState& box);
+  static bool CheckPeriod(wizard::TextBoxState& box);
   // Filters one key below Enter's handling: a digit passes, a period passes unless CheckPeriod
   // finds one already, any other printable key is discarded (0); control keys pass unchanged.
-  static int DoKeyPress(TextBoxState& box, int key);
+  static int DoKeyPress(wizard::TextBoxState& box, int key);
   // Applies a key that passed the filter as a text box does: a printable key replaces the
   // selection, backspace deletes it or the character before the caret.
-  static void applyKey(TextBoxState& box, int key);
+  static void applyKey(wizard::TextBoxState& box, int key);
 
   // The range message for a text outside the range between low and high (either order), ends
   // included, naming the ends as "[low, high]"; empty when inside.
@@ -35,4 +35,4 @@ class ScoreEntry {
   static std::string step(const std::string& text, float low, float high, bool up);
 };
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 namespace {
 
@@ -41,4 +41,4 @@ void ScorePanel::movePoint(bool pointA, double x, double y) {
   (pointA ? m_a : m_b) = {inside(x), inside(y)};
 }
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -1,8 +1,12 @@
 #pragma once
 
-#include "tradeoffs/control_states.h"
+namespace tnw::tradeoffs {
 
-namespace tnw {
+// A point of the two-dimensional panel, in panel fractions: x from the left, y from the bottom.
+struct PanelPoint {
+  double x = 0.0;
+  double y = 0.0;
+};
 
 // The two-dimensional panel framePCGraph: the first attribute's score range runs along the x axis
 // and the second's up the y axis, each mapped linearly onto the panel (fractions 0 to 1).
@@ -38,4 +42,4 @@ class ScorePanel {
   PanelPoint m_b;
 };
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -2,7 +2,7 @@
 
 #include "common/currency.h"
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 // The scores of the two alternatives on the two selected attributes: A₁, B₁ on the first, A₂, B₂
 // on the second.
@@ -13,4 +13,4 @@ struct TradeOffScores {
   Currency B2;
 };
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -3,10 +3,9 @@
 #include "common/wizard_buttons_qt.h"
 #include "component/wizard_context.h"
 #include "tradeoffs/clock_random_source.h"
-#include "tradeoffs/judgment_page_binding_qt.h"
 #include "tradeoffs/pc_graph_widget.h"
 #include "tradeoffs/pc_point_widget.h"
-#include "tradeoffs/results_page_binding_qt.h"
+#include "tradeoffs/score_box_filter.h"
 #include "tradeoffs/trade_offs_a_presenter.h"
 #include "tradeoffs/trade_offs_judgment_widget.h"
 #include "tradeoffs/trade_offs_printout_qt.h"
@@ -14,6 +13,8 @@
 #include "tradeoffs/tradeoffs_accessibility_qt.h"
 
 // Qt
+#include <QAction>
+#include <QButtonGroup>
 #include <QDate>
 #include <QDialogButtonBox>
 #include <QFileInfo>
@@ -21,18 +22,22 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QStackedWidget>
+#include <QTabBar>
 #include <QTableWidget>
 #include <QTextEdit>
 #include <QVBoxLayout>
 
 // Std
+#include <cstdint>
 #include <memory>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 namespace {
 
@@ -43,7 +48,7 @@ QPushButton* namedButton(const char* name, const QString& text, QWidget* parent)
   return b;
 }
 
-void renderButton(QPushButton* button, const ButtonState& state) {
+void renderButton(QPushButton* button, const wizard::ButtonState& state) {
   const QString caption = QString::fromStdString(state.caption);
   if (button->text() != caption) button->setText(caption);
   button->setEnabled(state.enabled);
@@ -63,9 +68,10 @@ TradeOffsADialog::TradeOffsADialog(WizardContext& context, UiServices& ui, Trade
   setObjectName(QStringLiteral("frmTradeOffsA"));
   setWindowTitle(QString::fromLatin1(TradeOffsAPresenter::kCaption));
   buildFrame();
-  m_judgmentBinding = new JudgmentPageBindingQt(*m_judgment, *m_presenter, context, this);
-  m_resultsBinding = new ResultsPageBindingQt(*m_results, *m_presenter, this);
   connectFrame();
+  connectJudgment();
+  connectScores();
+  connectResults();
   const QString dir = hostDirectory(context);
   m_judgment->controls().framePCGraph->setDragCursor(
       PcGraphWidget::PointA,
@@ -73,7 +79,7 @@ TradeOffsADialog::TradeOffsADialog(WizardContext& context, UiServices& ui, Trade
   m_judgment->controls().framePCGraph->setDragCursor(
       PcGraphWidget::PointB,
       PcPointWidget::loadDragCursor(dir, QStringLiteral("bdrag.ico"), QStringLiteral("B")));
-  m_presenter->setChangedCallback([this] { render(); });
+  m_presenter->setChangeListener([this] { render(); });
   m_presenter->Form_Load();
   m_accessibility = new TradeOffsAccessibilityQt(this, *m_presenter);
   render();
@@ -82,7 +88,7 @@ TradeOffsADialog::TradeOffsADialog(WizardContext& context, UiServices& ui, Trade
 
 TradeOffsADialog::~TradeOffsADialog() {
   // The presenter may outlive the widgets by a moment; it must not render into them.
-  m_presenter->setChangedCallback({});
+  m_presenter->setChangeListener({});
 }
 
 const TradeOffsAPresenter& TradeOffsADialog::presenter() const { return *m_presenter; }
@@ -143,14 +149,97 @@ void TradeOffsADialog::connectFrame() {
   connect(m_cmdPrint, &QPushButton::clicked, this, guarded(this, [this] { print(); }));
 }
 
+// The presenter reports each change, and the dialog renders then; signals that rendering itself
+// causes are not user actions and are dropped.
+template <typename Action>
+void TradeOffsADialog::act(Action action) {
+  if (m_rendering) return;
+  action();
+}
+
+void TradeOffsADialog::connectJudgment() {
+  const auto& c = m_judgment->controls();
+  TradeOffsAPresenter* p = m_presenter.get();
+  connect(c.optPCAutomatic, &QRadioButton::clicked, this,
+          guarded(this, [this, p] { act([p] { p->optPCAutomatic_Click(); }); }));
+  connect(c.optPCManual, &QRadioButton::clicked, this,
+          guarded(this, [this, p] { act([p] { p->optPCManual_Click(); }); }));
+  connect(
+      c.lstTradeOffFirstC, &QListWidget::currentRowChanged, this,
+      guarded(this, [this, p](int row) { act([p, row] { p->lstTradeOffFirstC_Click(row); }); }));
+  connect(
+      c.lstTradeOffSecondC, &QListWidget::currentRowChanged, this,
+      guarded(this, [this, p](int row) { act([p, row] { p->lstTradeOffSecondC_Click(row); }); }));
+  connect(c.tsComparisonApproaches, &QTabBar::currentChanged, this,
+          guarded(this, [this, p](int tab) {
+            act([p, tab] { p->tsComparisonApproaches_Click(tab + 1); });
+          }));
+  connect(c.verbalGroup, &QButtonGroup::idClicked, this,
+          guarded(this, [this, p](int id) { act([p, id] { p->optPCVerbal_Click(id); }); }));
+  connect(c.cmdTradeOffClearAll, &QPushButton::clicked, this,
+          guarded(this, [this, p] { act([p] { p->cmdTradeOffClearAll_Click(); }); }));
+  connect(c.cmdTradeOffEnter, &QPushButton::clicked, this, guarded(this, [this, p] {
+            const JudgmentPage& page = p->judgmentPage();
+            const std::int16_t before = page.TradeOffNo();
+            act([p] { p->cmdTradeOffEnter_Click(); });
+            // A failed range check leaves the count and returns the focus to the faulty box.
+            if (page.TradeOffNo() == before && page.entryError() &&
+                page.controls().cmdTradeOffEnter.enabled) {
+              m_judgment->focusControl(page.focus());
+            }
+          }));
+}
+
+void TradeOffsADialog::connectScores() {
+  const auto& c = m_judgment->controls();
+  TradeOffsAPresenter* p = m_presenter.get();
+  m_scoreFilter = new ScoreBoxFilter(
+      *p, {c.scoreBox[0], c.scoreBox[1], c.scoreBox[2], c.scoreBox[3]},
+      [this, p] { m_judgment->focusControl(p->judgmentPage().focus()); }, this);
+  for (int box = 0; box < 4; ++box) {
+    // Edits the key filter does not see (paste, Delete) are handed over as the box's new text.
+    connect(c.scoreBox[box], &QLineEdit::textEdited, this,
+            guarded(this, [this, p, box](const QString& text) {
+              if (m_rendering) return;
+              p->judgmentPage().setScoreText(box, text.toStdString());
+              // The box already shows the text; keep its caret where the user left it.
+              m_judgment->keepEditedText(box, p->judgmentPage().controls().scoreBoxes[box]);
+            }));
+    connect(c.stepUp[box], &QAction::triggered, this, guarded(this, [this, p, box] {
+              act([p, box] { p->tbScoreChanger_ButtonClick(box, true); });
+            }));
+    connect(c.stepDown[box], &QAction::triggered, this, guarded(this, [this, p, box] {
+              act([p, box] { p->tbScoreChanger_ButtonClick(box, false); });
+            }));
+  }
+  connect(c.framePCGraph, &PcGraphWidget::pointDragged, this,
+          guarded(this, [this, p](int which, QPointF f, bool) {
+            act([&] { p->dragPoint(which == PcGraphWidget::PointA, f.x(), f.y()); });
+          }));
+}
+
+void TradeOffsADialog::connectResults() {
+  const auto& c = m_results->controls();
+  TradeOffsAPresenter* p = m_presenter.get();
+  connect(c.tsTabsW, &QTabBar::currentChanged, this,
+          guarded(this, [this, p](int tab) { act([p, tab] { p->tsTabsW_Click(tab + 1); }); }));
+  for (int i = 0; i < 3; ++i) {
+    const char* key = TradeOffsResultsWidget::chartKey(i);
+    connect(c.chartButton[i], &QAction::triggered, this, guarded(this, [this, p, key] {
+              act([p, key] { p->tbWeightCharts_ButtonClick(key); });
+            }));
+  }
+}
+
 void TradeOffsADialog::closeRequested() { m_presenter->cmdCancel_Click(); }
 
 void TradeOffsADialog::render() {
   const TradeOffsAPresenter& p = *m_presenter;
   const QString instruction = QString::fromStdString(p.lblInstruction().caption);
   if (m_instruction->text() != instruction) m_instruction->setText(instruction);
-  m_instruction->setVisible(p.step() == 1);
-  QWidget* page = p.step() == 2 ? static_cast<QWidget*>(m_results) : m_judgment;
+  m_instruction->setVisible(p.step() == TradeOffsAPresenter::kJudgmentStep);
+  QWidget* page =
+      p.step() == TradeOffsAPresenter::kResultsStep ? static_cast<QWidget*>(m_results) : m_judgment;
   if (m_pages->currentWidget() != page) m_pages->setCurrentWidget(page);
   renderButton(m_cmdBack, p.cmdBack());
   renderButton(m_cmdNext, p.cmdNext());
@@ -159,14 +248,17 @@ void TradeOffsADialog::render() {
   renderButton(m_cmdHelp, p.cmdTNWizardHelp());
   // There is nothing to print before the results page is filled. The state is set once, so the
   // button is not disabled and enabled again (and repainted) on every render.
-  ButtonState print = p.cmdPrint();
-  print.enabled = print.enabled && p.step() == 2;
+  wizard::ButtonState print = p.cmdPrint();
+  print.enabled = print.enabled && p.step() == TradeOffsAPresenter::kResultsStep;
   renderButton(m_cmdPrint, print);
-  if (p.step() == 1) {
-    m_judgmentBinding->render();
+  // Signals that rendering itself causes are not user actions (see act()).
+  m_rendering = true;
+  if (p.step() == TradeOffsAPresenter::kJudgmentStep) {
+    m_judgment->render(p.judgmentPage(), m_context.model);
   } else {
-    m_resultsBinding->render();
+    m_results->render(p.resultsPage(), p.tsTabsW(), p.worstJudgmentLines());
   }
+  m_rendering = false;
   if (m_accessibility != nullptr) m_accessibility->refresh();
 }
 
@@ -201,4 +293,4 @@ void TradeOffsADialog::print() {
   dialog->open();
 }
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

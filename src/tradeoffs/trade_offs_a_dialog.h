@@ -12,22 +12,26 @@ class QPushButton;
 class QStackedWidget;
 
 namespace tnw {
+struct WizardContext;
+class UiServices;
+}  // namespace tnw
 
-class JudgmentPageBindingQt;
+namespace tnw::tradeoffs {
+
 class RandomSource;
-class ResultsPageBindingQt;
+class ScoreBoxFilter;
 class TradeOffsAEvents;
 class TradeOffsAccessibilityQt;
 class TradeOffsAPresenter;
 class TradeOffsJudgmentWidget;
 class TradeOffsPrintoutQt;
 class TradeOffsResultsWidget;
-class UiServices;
-struct WizardContext;
 
 // frmTradeOffsA, the trade-off method's dialog, as a Qt view over TradeOffsAPresenter: the
 // judgment page and the results page in the wizard frame with Back, Next, Finish, Cancel, Help
-// and Print. Every control's objectName is its given name. This header names the presenter only
+// and Print. Every control's objectName is its given name. The page views render their page;
+// the dialog wires their controls to the presenter (connect<Page>()) and, on the presenter's
+// change signal, renders the frame and the page on show. This header names the presenter only
 // by declaration, so it can be included beside the direct method's headers.
 class TradeOffsADialog : public WizardDialogQt {
   Q_OBJECT
@@ -59,6 +63,12 @@ class TradeOffsADialog : public WizardDialogQt {
  private:
   void buildFrame();
   void connectFrame();
+  void connectJudgment();
+  void connectScores();
+  void connectResults();
+  // Runs a user action unless the signal came from rendering.
+  template <typename Action>
+  void act(Action action);
   void render();
   void print();
 
@@ -69,8 +79,7 @@ class TradeOffsADialog : public WizardDialogQt {
   QStackedWidget* m_pages = nullptr;
   TradeOffsJudgmentWidget* m_judgment = nullptr;
   TradeOffsResultsWidget* m_results = nullptr;
-  JudgmentPageBindingQt* m_judgmentBinding = nullptr;
-  ResultsPageBindingQt* m_resultsBinding = nullptr;
+  ScoreBoxFilter* m_scoreFilter = nullptr;
   TradeOffsAccessibilityQt* m_accessibility = nullptr;
   QPushButton* m_cmdBack = nullptr;
   QPushButton* m_cmdNext = nullptr;
@@ -78,6 +87,7 @@ class TradeOffsADialog : public WizardDialogQt {
   QPushButton* m_cmdCancel = nullptr;
   QPushButton* m_cmdHelp = nullptr;
   QPushButton* m_cmdPrint = nullptr;
+  bool m_rendering = false;
 };
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

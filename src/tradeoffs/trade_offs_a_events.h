@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 // The events the trade-off dialog raises; the component object receives them.
 class TradeOffsAEvents {
@@ -23,4 +23,4 @@ class TradeOffsAEvents {
   virtual void UnloadTNWizard(std::int16_t fIndex, bool WeightsDone) = 0;
 };
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -5,7 +5,7 @@
 #include "model/model_check.h"
 #include "tradeoffs/trade_offs_a_events.h"
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 namespace {
 
@@ -15,21 +15,26 @@ constexpr const char* kTitle = "NORIX";
 
 TradeOffsAPresenter::TradeOffsAPresenter(WizardContext& context, UiServices& ui,
                                          TradeOffsAEvents& events, RandomSource& random)
-    : m_context(context), m_ui(ui), m_events(events), m_judgment(context, ui, random) {}
-
-void TradeOffsAPresenter::changed() {
-  if (m_changed) m_changed();
+    : m_context(context),
+      m_ui(ui),
+      m_events(events),
+      m_judgment(context, ui, random),
+      m_results(context.model, m_weights, m_record) {
+  setCaption(kCaption);
+  addPage(m_judgment);
+  addPage(m_results);
+  buttons().cmdFinish.enabled = false;
 }
 
 void TradeOffsAPresenter::Form_Load() {
   // The exports and the results page read one entry per attribute; what the tables held before
   // is kept, as a failed fit leaves it.
   const auto n = static_cast<std::size_t>(m_context.model.attributeCount());
-  for (auto* table : {&m_context.LowerWeights, &m_context.CloseWeights, &m_context.UpperWeights}) {
+  for (auto* table : {&m_weights.LowerWeights, &m_weights.CloseWeights, &m_weights.UpperWeights}) {
     if (table->size() < n) table->resize(n, 0.0);
   }
-  m_step = 1;
-  m_judgment.reset();
+  setStep(kJudgmentStep);
+  m_judgment.initializePage();
   m_instruction.caption = JudgmentPage::kInstruction;
   m_events.SendMasseges(JudgmentPage::kInstruction);
   // Every judgment evaluates value functions, and the fit weighs every attribute: a model with
@@ -39,8 +44,8 @@ void TradeOffsAPresenter::Form_Load() {
   if (m_modelProblem) {
     m_fitError = m_modelProblem;
     m_judgment.disableEnter();
-    m_cmdNext.enabled = false;
-    m_cmdFinish.enabled = false;
+    buttons().cmdNext.enabled = false;
+    buttons().cmdFinish.enabled = false;
     warn(*m_modelProblem);
   }
   changed();
@@ -52,23 +57,20 @@ void TradeOffsAPresenter::warn(const std::string& text) {
 }
 
 void TradeOffsAPresenter::cmdNext_Click() {
-  if (m_step != 1 || !m_cmdNext.enabled || m_modelProblem) return;
-  m_step = 2;
-  m_cmdFinish.enabled = true;
-  m_cmdNext.enabled = false;
+  if (step() != kJudgmentStep || !cmdNext().enabled || m_modelProblem) return;
+  // The fit runs first (its messages come before the page changes); entering the results page
+  // then fills it from the result.
   runRegression();
-  m_results.SetgirdWeights(m_context);
-  m_results.SetgridOverallRegression();
-  m_results.FillRegressionData(m_record, m_context.RegressionComment);
-  m_results.FillWeightData(m_context);
-  m_results.tbWeightCharts_ButtonClick(ResultsPage::kHLCa, m_context);
+  if (!advance()) return;
+  buttons().cmdFinish.enabled = true;
+  buttons().cmdNext.enabled = false;
   changed();
 }
 
 void TradeOffsAPresenter::runRegression() {
   m_ui.setBusy(true);
   m_regression.RegressMain(m_judgment.store(), m_context.model.attributeCount(), m_record,
-                           m_context);
+                           m_weights);
   for (const std::string& w : m_regression.warnings()) warn(w);
   // CalWeights runs after every fit, as the Next step has always run it. A fit that stopped on
   // a warning (no inverse, mL(0,0), a negative regression sum) leaves coefficients that sum to
@@ -91,19 +93,18 @@ void TradeOffsAPresenter::runRegression() {
 }
 
 void TradeOffsAPresenter::cmdBack_Click() {
-  if (m_step == 1) {
+  if (step() == kJudgmentStep) {
     m_events.ShowTNWSelMethod();
     return;
   }
-  m_step = 1;
-  m_cmdNext.enabled = true;
-  m_judgment.enableEnter();
-  m_judgment.reset();
+  // Leaving the results page: the judgment page is revisited (Enter again, a fresh start).
+  if (!retreat()) return;
+  buttons().cmdNext.enabled = true;
   changed();
 }
 
 void TradeOffsAPresenter::cmdFinish_Click() {
-  if (!m_cmdFinish.enabled || m_modelProblem) return;
+  if (!cmdFinish().enabled || m_modelProblem) return;
   if (m_fitError) {
     // The fit could not be completed: nothing is handed to the host.
     warn(*m_fitError);
@@ -112,8 +113,8 @@ void TradeOffsAPresenter::cmdFinish_Click() {
   m_ui.setBusy(true);
   // The close estimates go out twice and the low ones not at all: the host has always received
   // them this way.
-  m_events.ExportTradeOffsW("MAVT_TRADEOFFS", m_context.CloseWeights, m_context.UpperWeights,
-                            m_context.CloseWeights);
+  m_events.ExportTradeOffsW("MAVT_TRADEOFFS", m_weights.CloseWeights, m_weights.UpperWeights,
+                            m_weights.CloseWeights);
   m_ui.setBusy(false);
   m_events.UnloadTNWizard(m_context.FileIndex, true);
 }
@@ -136,7 +137,7 @@ void TradeOffsAPresenter::tsTabsW_Click(int tab) {
 }
 
 void TradeOffsAPresenter::tbWeightCharts_ButtonClick(const std::string& key) {
-  m_results.tbWeightCharts_ButtonClick(key, m_context);
+  m_results.tbWeightCharts_ButtonClick(key);
   changed();
 }
 
@@ -197,4 +198,4 @@ void TradeOffsAPresenter::cmdTradeOffClearAll_Click() {
   changed();
 }
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

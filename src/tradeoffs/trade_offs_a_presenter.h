@@ -1,29 +1,38 @@
 #pragma once
 
-#include "tradeoffs/control_states.h"
 #include "tradeoffs/judgment_page.h"
 #include "tradeoffs/leave_one_out.h"
 #include "tradeoffs/multi_regression_data.h"
 #include "tradeoffs/regression.h"
 #include "tradeoffs/results_page.h"
+#include "tradeoffs/trade_off_weights.h"
+#include "wizard/control_states.h"
+#include "wizard/wizard_presenter.h"
 
 // Std
-#include <functional>
 #include <optional>
 #include <string>
 
 namespace tnw {
-
 struct WizardContext;
 class UiServices;
+}  // namespace tnw
+
+namespace tnw::tradeoffs {
+
 class TradeOffsAEvents;
 class RandomSource;
 
-// The trade-off dialog frmTradeOffsA without widgets: the judgment page (step 1), the results
-// page (step 2), the wizard buttons, the tabs and the events to the component. The view renders
-// the state below and calls one operation per user action; after each it is told to re-render.
-class TradeOffsAPresenter {
+// The trade-off dialog frmTradeOffsA without widgets: the judgment page (step kJudgmentStep),
+// the results page (step kResultsStep), the wizard buttons, the tabs and the events to the
+// component. The view renders the state below and calls one operation per user action; after
+// each the change listener is called. The method keeps its result (weights()) and hands it to
+// the host on Finish.
+class TradeOffsAPresenter : public wizard::WizardPresenter {
  public:
+  // The steps.
+  static constexpr int kJudgmentStep = tradeoffs::kJudgmentStep;
+  static constexpr int kResultsStep = tradeoffs::kResultsStep;
   // The dialog's caption.
   static constexpr const char* kCaption = "Tarnel Wizard";
   // The help context of the wizard's topic in NORIX.HLP.
@@ -33,23 +42,15 @@ class TradeOffsAPresenter {
   TradeOffsAPresenter(WizardContext& context, UiServices& ui, TradeOffsAEvents& events,
                       RandomSource& random);
 
-  // Called after every operation that changed what the view shows.
-  void setChangedCallback(std::function<void()> changed) { m_changed = std::move(changed); }
-
   // Form_Load: the judgment page in its first state and the instruction to the host.
   void Form_Load();
 
-  // The step: 1 judgment page, 2 results page.
-  int step() const { return m_step; }
-  // The wizard buttons.
-  const ButtonState& cmdBack() const { return m_cmdBack; }
-  const ButtonState& cmdNext() const { return m_cmdNext; }
-  const ButtonState& cmdFinish() const { return m_cmdFinish; }
-  const ButtonState& cmdCancel() const { return m_cmdCancel; }
-  const ButtonState& cmdTNWizardHelp() const { return m_cmdHelp; }
-  const ButtonState& cmdPrint() const { return m_cmdPrint; }
+  // The Help button, under the dialog's own name for it.
+  const wizard::ButtonState& cmdTNWizardHelp() const { return cmdHelp(); }
+  // The Print button of the results page.
+  const wizard::ButtonState& cmdPrint() const { return m_cmdPrint; }
   // The instruction shown on the judgment page.
-  const LabelState& lblInstruction() const { return m_instruction; }
+  const wizard::LabelState& lblInstruction() const { return m_instruction; }
   // The tab of tsTabsW in front and the two panels it switches.
   int tsTabsW() const { return m_tabW; }
   bool picWeightEstVisible() const { return m_tabW == 1; }
@@ -58,6 +59,10 @@ class TradeOffsAPresenter {
   const JudgmentPage& judgmentPage() const { return m_judgment; }
   JudgmentPage& judgmentPage() { return m_judgment; }
   const ResultsPage& resultsPage() const { return m_results; }
+  // The method's result: the weight tables and the comment of the last completed fit.
+  const TradeOffWeights& weights() const { return m_weights; }
+  // The same, writable: what it holds when a fit fails is what stays on show and on record.
+  TradeOffWeights& weights() { return m_weights; }
   // The regression, its record (MultiRegressionData) and the message of a fit that could not be
   // completed.
   const Regression& regression() const { return m_regression; }
@@ -103,30 +108,23 @@ class TradeOffsAPresenter {
  private:
   void runRegression();
   void warn(const std::string& text);
-  void changed();
 
   WizardContext& m_context;
   UiServices& m_ui;
   TradeOffsAEvents& m_events;
-  JudgmentPage m_judgment;
-  ResultsPage m_results;
+  TradeOffWeights m_weights;
   Regression m_regression;
   MultiRegressionData m_record;
+  JudgmentPage m_judgment;
+  ResultsPage m_results;
   std::optional<std::string> m_fitError;
   std::optional<std::string> m_modelProblem;
 
   std::vector<JudgmentInfluence> m_worst;
   std::vector<std::string> m_worstLines;
-  std::function<void()> m_changed;
-  int m_step = 1;
   int m_tabW = 1;
-  ButtonState m_cmdBack{"< &Back", true, true};
-  ButtonState m_cmdNext{"&Next >", true, true};
-  ButtonState m_cmdFinish{"&Finish", false, true};
-  ButtonState m_cmdCancel{"&Cancel", true, true};
-  ButtonState m_cmdHelp{"&Help", true, true};
-  ButtonState m_cmdPrint{"&Print", true, true};
-  LabelState m_instruction;
+  wizard::ButtonState m_cmdPrint{"&Print", true, true};
+  wizard::LabelState m_instruction;
 };
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

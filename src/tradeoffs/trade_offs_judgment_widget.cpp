@@ -23,7 +23,7 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 namespace {
 
@@ -350,4 +350,4 @@ QWidget* TradeOffsJudgmentWidget::buildVerbalAlternatives() {
   return box;
 }
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

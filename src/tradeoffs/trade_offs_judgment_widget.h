@@ -1,7 +1,13 @@
 #pragma once
 
+#include "wizard/control_states.h"
+
 // Qt
 #include <QWidget>
+
+// Std
+#include <string>
+#include <vector>
 
 class QAction;
 class QButtonGroup;
@@ -15,13 +21,20 @@ class QTabBar;
 class QToolBar;
 
 namespace tnw {
+struct AttributeModel;
+}  // namespace tnw
 
+namespace tnw::tradeoffs {
+
+class JudgmentPage;
 class PcGraphWidget;
+struct JudgmentControls;
 
 // The judgment page of frmTradeOffsA: the choice of the two attributes, the counters, the
 // numerical approach (the panel framePCGraph with A and B, the four score boxes with their step
 // toolbars and the differences) and the verbal approach (seven degrees of preference), with
-// Clear All and Enter. It only lays the controls out; the dialog connects and fills them.
+// Clear All and Enter. It lays the controls out and shows a JudgmentPage (render); the dialog
+// connects the controls to the presenter.
 class TradeOffsJudgmentWidget : public QWidget {
   Q_OBJECT
 
@@ -69,6 +82,15 @@ class TradeOffsJudgmentWidget : public QWidget {
   // The page's controls.
   const Controls& controls() const { return m_c; }
 
+  // Shows the page's state; the model gives the score ranges of the panel's corner labels.
+  void render(const JudgmentPage& page, const AttributeModel& model);
+  // Takes note that a score box already shows the text the user edited, with the caret where
+  // the user left it, so that rendering it leaves the box alone.
+  void keepEditedText(int box, const wizard::TextBoxState& state);
+  // Moves the focus to a control of the page by its name (a text box gets its text selected);
+  // nothing for an empty or unknown name.
+  void focusControl(const std::string& name);
+
   // The score boxes' objectNames, in the order of Controls::scoreBox.
   static const char* scoreBoxName(int box);
   // The number of rows the two attribute lists show.
@@ -84,8 +106,21 @@ class TradeOffsJudgmentWidget : public QWidget {
   QWidget* buildVerbal();
   QWidget* buildVerbalAlternatives();
   QToolBar* buildStepToolbar(int box);
+  void renderSelection(const JudgmentControls& s);
+  void renderScores(const JudgmentControls& s);
+  void renderJudgment(const JudgmentControls& s);
+  void renderRangeLabels(const JudgmentPage& page, const AttributeModel& model);
 
   Controls m_c;
+  // The attribute names last written into the lists.
+  std::vector<std::string> m_listItems;
+  // The text and selection last written into each score box.
+  struct ShownBox {
+    std::string text;
+    int selStart = -1;
+    int selLength = -1;
+  };
+  ShownBox m_shown[4];
 };
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -12,7 +12,7 @@
 // Std
 #include <algorithm>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 namespace {
 
@@ -256,4 +256,4 @@ void TradeOffsPrintoutQt::drawChart(Flow& flow) const {
   flow.advance(height);
 }
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -13,7 +13,7 @@ class QPagedPaintDevice;
 class QPainter;
 class QTableWidget;
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 // The print-out of the trade-off results page: a heading, the overall regression grid beside the
 // comment, the weight grid and the chart, drawn with a painter so that texts and lines stay
@@ -85,4 +85,4 @@ class TradeOffsPrintoutQt {
   void drawChart(Flow& flow) const;
 };
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

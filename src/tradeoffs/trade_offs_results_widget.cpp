@@ -19,7 +19,7 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 namespace {
 
@@ -179,4 +179,4 @@ QWidget* TradeOffsResultsWidget::buildRegStatus() {
   return panel;
 }
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -1,7 +1,15 @@
 #pragma once
 
+#include "graphs/chart_data.h"
+#include "wizard/control_states.h"
+
 // Qt
+#include <QStringList>
 #include <QWidget>
+
+// Std
+#include <string>
+#include <vector>
 
 class QAction;
 class QActionGroup;
@@ -14,13 +22,18 @@ class QTextEdit;
 class QToolBar;
 
 namespace tnw {
-
 class ChartWidget;
+}  // namespace tnw
+
+namespace tnw::tradeoffs {
+
+class ResultsPage;
 
 // The results page of frmTradeOffsA: the tab strip tsTabsW over the weight-estimates panel
 // (gridWeights and the chart with its toolbar tbWeightCharts) and the regression-status panel
-// (gridOverallRegression, txtComments and the list lstWorstJudgments). It only lays the controls
-// out.
+// (gridOverallRegression, txtComments and the list lstWorstJudgments). It lays the controls out
+// and shows a ResultsPage (render); the dialog connects the tabs and the toolbar to the
+// presenter.
 class TradeOffsResultsWidget : public QWidget {
   Q_OBJECT
 
@@ -52,12 +65,29 @@ class TradeOffsResultsWidget : public QWidget {
   // The keys of the chart toolbar's buttons, in toolbar order.
   static const char* chartKey(int button);
 
+  // Shows the page: the tab in front (1 weights, 2 regression status), the grids, the comment,
+  // the worst judgments' lines and the chart, which is drawn from the page. The page must
+  // outlive the widget or be rendered again before the chart is drawn.
+  void render(const ResultsPage& page, int tab, const std::vector<std::string>& worstLines);
+  // Writes a grid's cells (row 0 the headings) into a table widget, changing only what differs;
+  // true when something changed.
+  static bool renderGrid(QTableWidget& table, const wizard::GridState& grid);
+
  private:
   QWidget* buildWeightEst();
   QWidget* buildRegStatus();
   QToolBar* buildChartToolbar(QWidget* parent);
+  void renderWorstJudgments(const std::vector<std::string>& worstLines);
 
   Controls m_c;
+  // The page last shown, which the chart is drawn from.
+  const ResultsPage* m_page = nullptr;
+  // What the widgets show, to leave them alone when it has not changed.
+  wizard::GridState m_shownOverall;
+  wizard::GridState m_shownWeights;
+  std::string m_shownKey;
+  ChartData m_shownChart;
+  QStringList m_shownWorst;
 };
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

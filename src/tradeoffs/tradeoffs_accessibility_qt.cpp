@@ -16,7 +16,7 @@
 #include <QToolBar>
 #include <QWidget>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 namespace {
 
@@ -140,4 +140,4 @@ void TradeOffsAccessibilityQt::refresh() {
   nameScoreBoxes();
 }
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -5,7 +5,7 @@
 
 class QWidget;
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 class TradeOffsAPresenter;
 
@@ -34,4 +34,4 @@ class TradeOffsAccessibilityQt : public QObject {
   QWidget* m_dialog;
 };
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

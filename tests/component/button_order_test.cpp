@@ -29,7 +29,7 @@ namespace {
 using namespace tnw::direct;
 
 // The selection dialog's and the trade-off dialog's events, which the test does not look at.
-class IgnoredEvents : public SelMethodEvents, public TradeOffsAEvents {
+class IgnoredEvents : public selmethod::SelMethodEvents, public tradeoffs::TradeOffsAEvents {
  public:
   void ShowTNWDirect() override {}
   void ShowTNWTradeOffsA() override {}
@@ -70,7 +70,7 @@ class ButtonOrderTest : public QObject {
 
 void ButtonOrderTest::theThreeDialogsShowOneButtonOrder() {
   WizardContext context = test::makeContext(3);
-  auto sel = std::make_unique<SelMethodDialog>(context, m_ui, m_events);
+  auto sel = std::make_unique<selmethod::SelMethodDialog>(context, m_ui, m_events);
   sel->showModeless();
   test::RecordingDirectAEvents events;
   auto direct = std::make_unique<DirectADialog>(context, m_ui, events);
@@ -78,7 +78,7 @@ void ButtonOrderTest::theThreeDialogsShowOneButtonOrder() {
   WizardContext tradeContext;
   tradeContext.model = testing::makeModel(3);
   testing::SequenceRandomSource random{{0.2f, 0.7f, 0.4f, 0.9f, 0.1f, 0.6f}};
-  auto trade = std::make_unique<TradeOffsADialog>(tradeContext, m_ui, m_events, &random);
+  auto trade = std::make_unique<tradeoffs::TradeOffsADialog>(tradeContext, m_ui, m_events, &random);
   trade->show();
   QVERIFY(QTest::qWaitForWindowExposed(trade.get()));
 

@@ -94,7 +94,7 @@ class FakeDialog : public WizardDialog {
 class FakeSelMethod : public FakeDialog {
  public:
   FakeSelMethod(DialogLog& log, std::string name, WizardContext& context, UiServices& ui,
-                SelMethodEvents& events)
+                selmethod::SelMethodEvents& events)
       : FakeDialog(log, std::move(name), {400, 300}), presenter(context, ui, events) {
     presenter.Form_Load();
   }
@@ -110,7 +110,7 @@ class FakeSelMethod : public FakeDialog {
     handler([this] { presenter.cmdCancel_Click(); });
   }
 
-  SelMethodPresenter presenter;
+  selmethod::SelMethodPresenter presenter;
 };
 
 // A direct-method dialog with its export arrays.
@@ -157,7 +157,8 @@ class FakeDirectA : public FakeDialog {
 // A trade-off dialog with its export arrays.
 class FakeTradeOffsA : public FakeDialog {
  public:
-  FakeTradeOffsA(DialogLog& log, std::string name, WizardContext& context, TradeOffsAEvents& events)
+  FakeTradeOffsA(DialogLog& log, std::string name, WizardContext& context,
+                 tradeoffs::TradeOffsAEvents& events)
       : FakeDialog(log, std::move(name), {800, 600}), m_context(context), m_events(events) {}
   void back() {
     handler([this] { m_events.ShowTNWSelMethod(); });
@@ -178,7 +179,7 @@ class FakeTradeOffsA : public FakeDialog {
 
  private:
   WizardContext& m_context;
-  TradeOffsAEvents& m_events;
+  tradeoffs::TradeOffsAEvents& m_events;
 };
 
 // Makes the fake dialogs and keeps released ones until flush(), as an event loop would.
@@ -188,7 +189,7 @@ class FakeDialogFactory : public WizardDialogFactory {
   ~FakeDialogFactory() override { flush(); }
 
   std::unique_ptr<WizardDialog> createSelMethod(WizardContext& context,
-                                                SelMethodEvents& events) override {
+                                                selmethod::SelMethodEvents& events) override {
     return std::make_unique<FakeSelMethod>(log, "SelMethod#" + std::to_string(++m_selCount),
                                            context, m_ui, events);
   }
@@ -199,7 +200,7 @@ class FakeDialogFactory : public WizardDialogFactory {
                                          events);
   }
   std::unique_ptr<WizardDialog> createTradeOffsA(WizardContext& context,
-                                                 TradeOffsAEvents& events) override {
+                                                 tradeoffs::TradeOffsAEvents& events) override {
     if (!tradeOffsAvailable) return nullptr;
     return std::make_unique<FakeTradeOffsA>(log, "TradeOffsA#" + std::to_string(++m_tradeOffsCount),
                                             context, events);

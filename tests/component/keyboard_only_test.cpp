@@ -14,6 +14,7 @@
 #include "tradeoffs/trade_offs_a_events.h"
 
 // Qt
+#include <QRegularExpression>
 #include <QAccessible>
 #include <QAccessibleValueInterface>
 #include <QApplication>
@@ -55,7 +56,7 @@ class MouseEventCounter : public QObject {
 };
 
 // The trade-off dialog's events, with the exports kept.
-class TradeOffEvents : public TradeOffsAEvents {
+class TradeOffEvents : public tradeoffs::TradeOffsAEvents {
  public:
   void UnloadTNWizard(std::int16_t, bool done) override { unloads.push_back(done); }
   void SendMasseges(const std::string&) override {}
@@ -77,12 +78,14 @@ void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
   QCoreApplication::processEvents();
 }
 
-// Presses Tab until the focus is on `name` (at most `limit` times); whether it got there.
+// Presses Tab until the focus is on `name`, or on an element name_index of the control array
+// `name` (at most `limit` times); whether it got there.
 bool tabTo(const char* name, int limit = 60) {
   QStringList visited;
+  const QRegularExpression element(QStringLiteral("^%1(_\\d+)?$").arg(QLatin1String(name)));
   for (int i = 0; i < limit; ++i) {
     const QWidget* w = QApplication::focusWidget();
-    if (w != nullptr && w->objectName() == QLatin1String(name)) return true;
+    if (w != nullptr && element.match(w->objectName()).hasMatch()) return true;
     visited << (w != nullptr ? w->objectName() : QStringLiteral("(none)"));
     press(Qt::Key_Tab);
   }
@@ -226,7 +229,7 @@ void KeyboardOnlyTest::theTradeOffMethodIsFinishedByKeyboardAlone() {
   context.model = testing::makeModel(3);
   testing::SequenceRandomSource random{{0.2f, 0.7f, 0.4f, 0.9f, 0.1f, 0.6f}};
   TradeOffEvents events;
-  auto d = std::make_unique<TradeOffsADialog>(context, m_ui, events, &random);
+  auto d = std::make_unique<tradeoffs::TradeOffsADialog>(context, m_ui, events, &random);
   d->showModal();
   waitForWindow(d.get());
   // Six trade-offs: each one with a score stepped up; Return in the box moves the focus to
@@ -254,7 +257,7 @@ void KeyboardOnlyTest::upAndDownInAScoreBoxStepTheScore() {
   context.model = testing::makeModel(3);
   testing::SequenceRandomSource random{{0.2f, 0.7f, 0.4f, 0.9f, 0.1f, 0.6f}};
   TradeOffEvents events;
-  auto d = std::make_unique<TradeOffsADialog>(context, m_ui, events, &random);
+  auto d = std::make_unique<tradeoffs::TradeOffsADialog>(context, m_ui, events, &random);
   d->showModal();
   waitForWindow(d.get());
   auto* box = control<QLineEdit>(d.get(), "txtTradeOffBSecondScore");
@@ -281,7 +284,7 @@ void KeyboardOnlyTest::theArrowKeysMoveThePointsAsADragDoes() {
   context.model = testing::makeModel(3);
   testing::SequenceRandomSource random{{0.2f, 0.7f, 0.4f, 0.9f, 0.1f, 0.6f}};
   TradeOffEvents events;
-  auto d = std::make_unique<TradeOffsADialog>(context, m_ui, events, &random);
+  auto d = std::make_unique<tradeoffs::TradeOffsADialog>(context, m_ui, events, &random);
   d->showModal();
   waitForWindow(d.get());
   auto* first = control<QLineEdit>(d.get(), "txtTradeOffAFirstScore");
@@ -306,7 +309,7 @@ void KeyboardOnlyTest::theChartButtonsTakeTheFocusAndHaveShortcuts() {
   context.model = testing::makeModel(3);
   testing::SequenceRandomSource random{{0.2f, 0.7f, 0.4f, 0.9f, 0.1f, 0.6f}};
   TradeOffEvents events;
-  auto d = std::make_unique<TradeOffsADialog>(context, m_ui, events, &random);
+  auto d = std::make_unique<tradeoffs::TradeOffsADialog>(context, m_ui, events, &random);
   d->showModal();
   waitForWindow(d.get());
   QVERIFY(tabTo("cmdNext"));

@@ -34,7 +34,7 @@ namespace {
 using test::control;
 
 // The selection dialog's and the trade-off dialog's events, which the walk does not look at.
-class IgnoredEvents : public SelMethodEvents, public TradeOffsAEvents {
+class IgnoredEvents : public selmethod::SelMethodEvents, public tradeoffs::TradeOffsAEvents {
  public:
   void ShowTNWDirect() override {}
   void ShowTNWTradeOffsA() override {}
@@ -125,7 +125,7 @@ void MnemonicWalkTest::cleanup() {
 
 void MnemonicWalkTest::theSelectionDialogHasNoSharedMnemonic() {
   WizardContext context;
-  auto d = std::make_unique<SelMethodDialog>(context, m_ui, m_events);
+  auto d = std::make_unique<selmethod::SelMethodDialog>(context, m_ui, m_events);
   d->showModeless();
   waitForWindow(d.get());
   verifyUnique(d.get(), "selection");
@@ -179,7 +179,7 @@ void MnemonicWalkTest::noPageOfTheTradeOffDialogHasASharedMnemonic() {
   WizardContext context;
   context.model = testing::makeModel(3);
   testing::SequenceRandomSource random{{0.2f, 0.7f, 0.4f, 0.9f, 0.1f, 0.6f}};
-  auto d = std::make_unique<TradeOffsADialog>(context, m_ui, m_events, &random);
+  auto d = std::make_unique<tradeoffs::TradeOffsADialog>(context, m_ui, m_events, &random);
   d->showModal();
   waitForWindow(d.get());
   const auto click = [&d](const char* name) {

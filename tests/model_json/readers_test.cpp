@@ -66,7 +66,7 @@ TEST(ScenarioJsonTest, AnOrderLongerThanAnyModelIsRefused) {
 }
 
 TEST(JudgmentsJsonTest, JudgmentsAreReadAndCheckedAgainstTheModel) {
-  std::vector<TradeOffJudgment> j;
+  std::vector<tradeoffs::TradeOffJudgment> j;
   ASSERT_EQ(readTradeOffJudgments(R"([{"first": 2, "second": 0, "scores": [1, -2.5, 3, 4],
       "response": -3}])",
                                   3, j),
@@ -135,14 +135,14 @@ TEST(ScenarioJsonTest, ARunsEndIsReadAndErrorsInsideALargerDocumentNameTheirPlac
 }
 
 TEST(JudgmentsJsonTest, ATradeOffRunIsReadWithItsJudgmentsAndItsEnd) {
-  TradeOffScenario run;
+  tradeoffs::TradeOffScenario run;
   const auto value = nlohmann::json::parse(
       R"({"judgments": [{"first": 1, "second": 0, "scores": [1, 2, 3, 4]}], "end": "Cancel"})");
   ASSERT_EQ(readTradeOffScenario(value, "/tradeOffs/0", 2, run), std::nullopt);
   ASSERT_EQ(run.judgments.size(), 1u);
   EXPECT_EQ(run.judgments[0].first, 1);
   EXPECT_EQ(run.judgments[0].scores[3], 4.0);
-  EXPECT_EQ(run.end, ScenarioEnd::Cancel);
+  EXPECT_EQ(run.end, wizard::ScenarioEnd::Cancel);
   const auto bad = nlohmann::json::parse(R"({"judgments": [{"first": 2, "second": 0,
       "scores": [1, 2, 3, 4]}]})");
   const auto e = readTradeOffScenario(bad, "/tradeOffs/0", 2, run);
@@ -150,7 +150,7 @@ TEST(JudgmentsJsonTest, ATradeOffRunIsReadWithItsJudgmentsAndItsEnd) {
   EXPECT_EQ(e->where, "/tradeOffs/0/judgments/0/first");
   EXPECT_TRUE(run.judgments.empty());
   ASSERT_EQ(readTradeOffScenario(nlohmann::json::object(), "/tradeOffs/1", 2, run), std::nullopt);
-  EXPECT_EQ(run.end, ScenarioEnd::Finish);
+  EXPECT_EQ(run.end, wizard::ScenarioEnd::Finish);
 }
 
 }  // namespace

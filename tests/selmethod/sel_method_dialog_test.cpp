@@ -15,7 +15,7 @@
 #include <string>
 #include <vector>
 
-namespace tnw {
+namespace tnw::selmethod {
 namespace {
 
 // Records the dialog's events as text.
@@ -249,7 +249,7 @@ class SelMethodDialogTest : public QObject {
   }
 };
 
-}  // namespace tnw
+}  // namespace tnw::selmethod
 
-QTEST_MAIN(tnw::SelMethodDialogTest)
+QTEST_MAIN(tnw::selmethod::SelMethodDialogTest)
 #include "sel_method_dialog_test.moc"

@@ -10,7 +10,7 @@
 // GoogleTest
 #include <gtest/gtest.h>
 
-namespace tnw {
+namespace tnw::selmethod {
 namespace {
 
 // Records the events the presenter raises, as text.
@@ -55,8 +55,8 @@ TEST_F(SelMethodPresenterTest, ShowsDesignCaptionsBeforeLoading) {
 TEST_F(SelMethodPresenterTest, LoadingListsDirectThenTradeOffsAndDisablesBackAndFinish) {
   load("");
   EXPECT_EQ(presenter.methods(), (std::vector<std::string>{"Direct", "TradeOffs"}));
-  EXPECT_FALSE(presenter.backEnabled());
-  EXPECT_FALSE(presenter.finishEnabled());
+  EXPECT_FALSE(presenter.cmdBack().enabled);
+  EXPECT_FALSE(presenter.cmdFinish().enabled);
 }
 
 TEST_F(SelMethodPresenterTest, LoadingSendsTheStatusMessageOnce) {
@@ -159,10 +159,10 @@ TEST_F(SelMethodPresenterTest, HelpOpensTheHostsHelpFileAtTheWizardsTopic) {
 }
 
 TEST_F(SelMethodPresenterTest, ActivationDisablesBackAndFinishAgain) {
-  EXPECT_TRUE(presenter.backEnabled());
+  EXPECT_TRUE(presenter.cmdBack().enabled);
   presenter.Form_Activate();
-  EXPECT_FALSE(presenter.backEnabled());
-  EXPECT_FALSE(presenter.finishEnabled());
+  EXPECT_FALSE(presenter.cmdBack().enabled);
+  EXPECT_FALSE(presenter.cmdFinish().enabled);
 }
 
 struct DescriptionCase {
@@ -201,5 +201,24 @@ TEST_F(SelMethodPresenterTest, AnIndexOutsideTheDescriptionsChangesNothingAfterL
   EXPECT_EQ(presenter.description(), kRatingText);
 }
 
+TEST_F(SelMethodPresenterTest, IsAOnePageWizardThatTellsItsListenerOfEveryChange) {
+  int changes = 0;
+  presenter.setChangeListener([&changes] { ++changes; });
+  EXPECT_EQ(presenter.stepCount(), 1);
+  EXPECT_EQ(presenter.caption(), SelMethodPresenter::kCaption);
+  load("MAVT_TRADEOFFS");
+  EXPECT_EQ(presenter.step(), SelMethodPresenter::kMethodsStep);
+  EXPECT_EQ(changes, 1);
+  EXPECT_TRUE(presenter.methodsPage().isComplete());
+  EXPECT_EQ(presenter.methodsPage().nextId(), wizard::WizardPage::kNoNextPage);
+  presenter.lstMethods_Click(-1);
+  EXPECT_EQ(changes, 2);
+  EXPECT_FALSE(presenter.methodsPage().isComplete());
+  presenter.Form_Activate();
+  EXPECT_EQ(changes, 3);
+  EXPECT_FALSE(presenter.cmdBack().enabled);
+  EXPECT_TRUE(presenter.cmdNext().enabled);
+}
+
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::selmethod

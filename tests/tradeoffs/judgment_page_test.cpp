@@ -10,7 +10,7 @@
 // GoogleTest
 #include <gtest/gtest.h>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 namespace {
 
 using testing::makeModel;
@@ -362,4 +362,4 @@ TEST_F(JudgmentPageTest, AbsoluteWeightIsTheRatioOfValueDifferences) {
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -1,10 +1,10 @@
 #include "tradeoffs/leave_one_out.h"
 
-#include "component/wizard_context.h"
 #include "model/value_function.h"
 #include "regression_fixtures.h"
 #include "trade_off_fixtures.h"
 #include "tradeoffs/regression.h"
+#include "tradeoffs/trade_off_weights.h"
 
 // Std
 #include <cmath>
@@ -13,7 +13,7 @@
 // GoogleTest
 #include <gtest/gtest.h>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 namespace {
 
 // Appends a numerical judgment on the pair (first, second) with scores A1, B1, A2, B2 on the
@@ -52,13 +52,13 @@ class LeaveOneOutTest : public ::testing::Test {
  protected:
   // Runs the full fit on the store as the Next button does and returns its index.
   double fit(JudgmentStore& store) {
-    reg.RegressMain(store, 3, record, ctx);
+    reg.RegressMain(store, 3, record, weights);
     EXPECT_FALSE(reg.error().has_value());
     return record.ConsistencyIndex;
   }
 
   AttributeModel model = testing::makeModel(3, 100.0);
-  WizardContext ctx;
+  TradeOffWeights weights;
   MultiRegressionData record;
   Regression reg;
 };
@@ -202,4 +202,4 @@ TEST_F(LeaveOneOutTest, ScoreForValueInvertsTheValueFunctionWithinTheRange) {
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -10,7 +10,7 @@
 // GoogleTest
 #include <gtest/gtest.h>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 namespace {
 
 using testing::makeModel;
@@ -85,9 +85,9 @@ TEST(PairGeneratorTest, EqualScoresNeverCauseAnExchange) {
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::tradeoffs
 
-namespace tnw {
+namespace tnw::tradeoffs {
 namespace {
 
 TEST(ClockRandomSourceTest, DrawsLieInZeroToOneAndVaryFromDrawToDraw) {
@@ -103,4 +103,4 @@ TEST(ClockRandomSourceTest, DrawsLieInZeroToOneAndVaryFromDrawToDraw) {
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -1,9 +1,9 @@
 // Published cases for the weight estimation: the NIST StRD "Longley" data set with its certified
 // least-squares results, and a two-attribute trade-off example whose answer is known exactly.
 
-#include "component/wizard_context.h"
 #include "regression_fixtures.h"
 #include "tradeoffs/regression.h"
+#include "tradeoffs/trade_off_weights.h"
 
 // Std
 #include <array>
@@ -12,7 +12,7 @@
 // GoogleTest
 #include <gtest/gtest.h>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 namespace {
 
 using testing::addJudgment;
@@ -132,10 +132,10 @@ TEST(TwoAttributeTradeOffTest, ThreeConsistentIndifferenceJudgmentsGiveTwoThirds
   addJudgment(store, {0.125, -0.25}, 0);
   addJudgment(store, {-0.25, 0.5}, 0);
   addJudgment(store, {0.375, -0.75}, 0);
-  WizardContext ctx;
+  TradeOffWeights weights;
   MultiRegressionData record;
   Regression reg;
-  reg.RegressMain(store, 2, record, ctx);
+  reg.RegressMain(store, 2, record, weights);
   ASSERT_FALSE(reg.error().has_value());
   ASSERT_FALSE(reg.CalWeights().has_value());
 
@@ -149,8 +149,8 @@ TEST(TwoAttributeTradeOffTest, ThreeConsistentIndifferenceJudgmentsGiveTwoThirds
   EXPECT_DOUBLE_EQ(record.Coef[1], 1.0 / 3.0);
   EXPECT_DOUBLE_EQ(record.RSquared, 1.0);
   EXPECT_DOUBLE_EQ(record.ConsistencyIndex, 1.0);
-  EXPECT_EQ(ctx.RegressionComment, "  Consistency index is 1. It is extremely good!");
+  EXPECT_EQ(weights.RegressionComment, "  Consistency index is 1. It is extremely good!");
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -11,13 +11,13 @@
 // GoogleTest
 #include <gtest/gtest.h>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 namespace {
 
 using testing::addJudgment;
-using testing::contextWithEarlierResults;
 using testing::recordWithEarlierResults;
 using testing::setUpParameters;
+using testing::weightsWithEarlierResults;
 
 TEST(RegressionTest, ZeroColumnCannotBeRepairedSoNoInverseStopsBeforeAnyStatistic) {
   // Attribute 3 appears in no judgment and the verbal responses need no extra observation.
@@ -26,10 +26,10 @@ TEST(RegressionTest, ZeroColumnCannotBeRepairedSoNoInverseStopsBeforeAnyStatisti
   addJudgment(store, {-0.1, 0.3, 0.0}, 1);
   addJudgment(store, {0.2, 0.2, 0.0}, 3);
   addJudgment(store, {0.5, -0.4, 0.0}, -1);
-  WizardContext ctx = contextWithEarlierResults(3);
+  TradeOffWeights weights = weightsWithEarlierResults(3);
   MultiRegressionData record = recordWithEarlierResults();
   Regression reg;
-  reg.RegressMain(store, 3, record, ctx);
+  reg.RegressMain(store, 3, record, weights);
 
   ASSERT_EQ(reg.warnings().size(), 1u);
   EXPECT_EQ(reg.warnings()[0],
@@ -42,8 +42,8 @@ TEST(RegressionTest, ZeroColumnCannotBeRepairedSoNoInverseStopsBeforeAnyStatisti
   EXPECT_EQ(reg.work().RegCoef[1], 0.0);
   EXPECT_EQ(record.NumObs, 9);
   EXPECT_EQ(record.RSquared, 0.5);
-  EXPECT_EQ(ctx.CloseWeights, (std::vector<double>{7.0, 7.0, 7.0}));
-  EXPECT_EQ(ctx.RegressionComment, "earlier");
+  EXPECT_EQ(weights.CloseWeights, (std::vector<double>{7.0, 7.0, 7.0}));
+  EXPECT_EQ(weights.RegressionComment, "earlier");
 }
 
 TEST(RegressionTest, ZeroPivotWithNoLaterRowToRepairItSetsNoInverse) {
@@ -67,10 +67,10 @@ TEST(RegressionTest, ZeroTotalSumOfSquaresWarnsAndLaterStepsRunOnUnsetCoefficien
   addJudgment(store, {-0.1, 0.3}, 2);
   addJudgment(store, {0.2, 0.25}, 2);
   addJudgment(store, {0.5, -0.4}, 2);
-  WizardContext ctx = contextWithEarlierResults(2);
+  TradeOffWeights weights = weightsWithEarlierResults(2);
   MultiRegressionData record = recordWithEarlierResults();
   Regression reg;
-  reg.RegressMain(store, 2, record, ctx);
+  reg.RegressMain(store, 2, record, weights);
   ASSERT_EQ(reg.warnings().size(), 1u);
   EXPECT_EQ(reg.warnings()[0], "  mL(0,0)=0, can not calculate the whole coefficients!");
   EXPECT_FALSE(reg.error().has_value());
@@ -78,8 +78,8 @@ TEST(RegressionTest, ZeroTotalSumOfSquaresWarnsAndLaterStepsRunOnUnsetCoefficien
   EXPECT_EQ(record.DegFreedom, 0);
   EXPECT_EQ(record.RSquared, 0.0);
   EXPECT_EQ(record.Coef[0], 0.0);
-  EXPECT_EQ(ctx.CloseWeights, (std::vector<double>{0.0, 0.0}));
-  EXPECT_EQ(ctx.RegressionComment,
+  EXPECT_EQ(weights.CloseWeights, (std::vector<double>{0.0, 0.0}));
+  EXPECT_EQ(weights.RegressionComment,
             "  Consistency index is 0, which is not good. You had better adjust the pairwise "
             "comparisons among the criteria again.");
 }
@@ -101,18 +101,18 @@ TEST(RegressionTest, TwoAttributesWithNumericalTradeOffsHaveNoDegreeOfFreedomAnd
   JudgmentStore store;
   addJudgment(store, {0.3, -0.5}, 0);
   addJudgment(store, {-0.2, 0.25}, 0);
-  WizardContext ctx = contextWithEarlierResults(2);
+  TradeOffWeights weights = weightsWithEarlierResults(2);
   MultiRegressionData record = recordWithEarlierResults();
   Regression reg;
-  reg.RegressMain(store, 2, record, ctx);
+  reg.RegressMain(store, 2, record, weights);
   EXPECT_EQ(reg.work().N, 3);
   ASSERT_TRUE(reg.error().has_value());
   EXPECT_EQ(*reg.error(), Regression::kNoDegreeOfFreedomError);
   EXPECT_EQ(reg.error()->rfind("  ", 0), 0u);
   EXPECT_TRUE(reg.failed());
   EXPECT_EQ(record.NumObs, 9);
-  EXPECT_EQ(ctx.CloseWeights, (std::vector<double>{7.0, 7.0}));
-  EXPECT_EQ(ctx.RegressionComment, "earlier");
+  EXPECT_EQ(weights.CloseWeights, (std::vector<double>{7.0, 7.0}));
+  EXPECT_EQ(weights.RegressionComment, "earlier");
   for (double v : reg.work().CoefVar) EXPECT_TRUE(std::isfinite(v));
   EXPECT_TRUE(std::isfinite(reg.work().StdErrEst));
 
@@ -160,10 +160,10 @@ TEST(RegressionTest, ZeroTotalSumOfSquaresLeavesCoefficientsThatCalWeightsCannot
   addJudgment(store, {-0.2, 0.0, 0.25}, 2);
   addJudgment(store, {0.5, -0.4, 0.0}, 2);
   addJudgment(store, {0.0, 0.1, -0.3}, 2);
-  WizardContext ctx;
+  TradeOffWeights weights;
   MultiRegressionData record;
   Regression reg;
-  reg.RegressMain(store, 3, record, ctx);
+  reg.RegressMain(store, 3, record, weights);
   ASSERT_EQ(reg.warnings(), std::vector<std::string>{Regression::kZeroTotalWarning});
   EXPECT_FALSE(reg.error().has_value());
   EXPECT_EQ(reg.CalWeights(), std::string(Regression::kZeroSumError));
@@ -171,24 +171,24 @@ TEST(RegressionTest, ZeroTotalSumOfSquaresLeavesCoefficientsThatCalWeightsCannot
 
 TEST(RegressionTest, MoreThanThirtyOneAttributesEndInAMessage) {
   JudgmentStore store;
-  WizardContext ctx;
+  TradeOffWeights weights;
   MultiRegressionData record;
   Regression reg;
-  reg.RegressMain(store, 32, record, ctx);
+  reg.RegressMain(store, 32, record, weights);
   ASSERT_TRUE(reg.error().has_value());
   EXPECT_EQ(*reg.error(), Regression::kTooManyAttributesError);
 }
 
 TEST(RegressionTest, NoJudgmentsAtAllGiveTheNoInverseWarning) {
   JudgmentStore store;
-  WizardContext ctx;
+  TradeOffWeights weights;
   MultiRegressionData record;
   Regression reg;
-  reg.RegressMain(store, 3, record, ctx);
+  reg.RegressMain(store, 3, record, weights);
   EXPECT_EQ(reg.work().N, 1);
   ASSERT_EQ(reg.warnings().size(), 1u);
   EXPECT_EQ(reg.warnings()[0], Regression::kNoInverseWarning);
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "component/wizard_context.h"
 #include "tradeoffs/judgment_store.h"
 #include "tradeoffs/multi_regression_data.h"
 #include "tradeoffs/regression_work.h"
+#include "tradeoffs/trade_off_weights.h"
 
 // Std
 #include <cstdint>
@@ -13,7 +13,8 @@
 namespace tnw::testing {
 
 // Appends one judgment with the given value differences (one per attribute) and response.
-inline void addJudgment(JudgmentStore& store, std::vector<double> diffs, std::int16_t response) {
+inline void addJudgment(tradeoffs::JudgmentStore& store, std::vector<double> diffs,
+                        std::int16_t response) {
   const int k = store.JudgmentCount;
   store.extend(k + 1, static_cast<int>(diffs.size()));
   store.ValueDiff[static_cast<std::size_t>(k)] = std::move(diffs);
@@ -21,19 +22,19 @@ inline void addJudgment(JudgmentStore& store, std::vector<double> diffs, std::in
   store.JudgmentCount = k + 1;
 }
 
-// A context whose weight tables and comment hold recognisable earlier values.
-inline WizardContext contextWithEarlierResults(int numAtt) {
-  WizardContext ctx;
-  ctx.CloseWeights.assign(static_cast<std::size_t>(numAtt), 7.0);
-  ctx.LowerWeights.assign(static_cast<std::size_t>(numAtt), 6.0);
-  ctx.UpperWeights.assign(static_cast<std::size_t>(numAtt), 8.0);
-  ctx.RegressionComment = "earlier";
-  return ctx;
+// Weight tables and a comment holding recognisable earlier values.
+inline tradeoffs::TradeOffWeights weightsWithEarlierResults(int numAtt) {
+  tradeoffs::TradeOffWeights weights;
+  weights.CloseWeights.assign(static_cast<std::size_t>(numAtt), 7.0);
+  weights.LowerWeights.assign(static_cast<std::size_t>(numAtt), 6.0);
+  weights.UpperWeights.assign(static_cast<std::size_t>(numAtt), 8.0);
+  weights.RegressionComment = "earlier";
+  return weights;
 }
 
 // A record holding recognisable earlier values.
-inline MultiRegressionData recordWithEarlierResults() {
-  MultiRegressionData r;
+inline tradeoffs::MultiRegressionData recordWithEarlierResults() {
+  tradeoffs::MultiRegressionData r;
   r.StdErrEst = 5.0;
   r.RSquared = 0.5;
   r.NumObs = 9;
@@ -44,7 +45,7 @@ inline MultiRegressionData recordWithEarlierResults() {
 }
 
 // Sets up CalParameters for N observations and K attributes with R² = ssr / total.
-inline void setUpParameters(RegressionWork& w, int n, int k, double total, double ssr) {
+inline void setUpParameters(tradeoffs::RegressionWork& w, int n, int k, double total, double ssr) {
   w.dimension(n, k);
   w.CrossProd(0, 0) = total;
   for (int i = 1; i <= k; ++i) {

@@ -3,8 +3,8 @@
 // 2K columns. Random judgments for 3 to 31 attributes, with the cases that touch the edges: the
 // artificial observation, a judgment on one attribute, attributes never judged, dense rows.
 
-#include "component/wizard_context.h"
 #include "tradeoffs/regression.h"
+#include "tradeoffs/trade_off_weights.h"
 
 // Std
 #include <algorithm>
@@ -14,7 +14,7 @@
 // GoogleTest
 #include <gtest/gtest.h>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 namespace {
 
 // CrossProd(i, j) = Σₖ (X(k, j) − XMean(j)) (X(k, i) − XMean(i)), column 0 with Y, (0,0) = Σ e².
@@ -112,10 +112,10 @@ void expectClose(double a, double b, double scale, const char* what, int i, int 
 void compareWithPlainForms(int k, Shape shape, unsigned seed) {
   std::mt19937 rng(seed);
   JudgmentStore store = drawJudgments(k, shape, rng);
-  WizardContext ctx;
+  TradeOffWeights weights;
   MultiRegressionData record;
   Regression reg;
-  reg.RegressMain(store, k, record, ctx);
+  reg.RegressMain(store, k, record, weights);
   const RegressionWork& w = reg.work();
   const Matrix plain = plainCrossProducts(w);
   // A product sum is compared at the scale of its two sums of squares, where a sum that
@@ -165,10 +165,10 @@ TEST(RegressionPlainSumsTest, TheSweepFromThePivotOnGivesTheFullSweepsInverseExa
   std::mt19937 rng(77);
   for (int k = 3; k <= 31; ++k) {
     JudgmentStore store = drawJudgments(k, Shape::Pairs, rng);
-    WizardContext ctx;
+    TradeOffWeights weights;
     MultiRegressionData record;
     Regression reg;
-    reg.RegressMain(store, k, record, ctx);
+    reg.RegressMain(store, k, record, weights);
     Matrix inverse;
     ASSERT_TRUE(plainInverse(reg.work().CrossProd, k, inverse));
     for (int i = 1; i <= k; ++i) {
@@ -228,4 +228,4 @@ TEST(RegressionPlainSumsTest, DenseObservationsAmongTheJudgmentsFitAlike) {
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -2,8 +2,8 @@
 // model with an intercept, solved by Gaussian elimination with partial pivoting. Dense random
 // observations first, then judgments as the page records them.
 
-#include "component/wizard_context.h"
 #include "tradeoffs/regression.h"
+#include "tradeoffs/trade_off_weights.h"
 
 // Std
 #include <algorithm>
@@ -14,7 +14,7 @@
 // GoogleTest
 #include <gtest/gtest.h>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 namespace {
 
 // Solves a·x = b for a square system with partial pivoting.
@@ -97,10 +97,10 @@ TEST_P(RegressionPropertyTest, MatchesIndependentLeastSquaresOnRandomWellConditi
       store.PrefResponse[o] = static_cast<std::int16_t>(y[o]);
     }
     store.JudgmentCount = n;
-    WizardContext ctx;
+    TradeOffWeights weights;
     MultiRegressionData record;
     Regression reg;
-    reg.RegressMain(store, k, record, ctx);
+    reg.RegressMain(store, k, record, weights);
     ASSERT_FALSE(reg.failed());
     ASSERT_TRUE(reg.warnings().empty());
 
@@ -236,10 +236,10 @@ TEST_P(RegressionJudgmentPropertyTest, MatchesIndependentLeastSquaresOnTwoAttrib
       continue;
     ++fitted;
 
-    WizardContext ctx;
+    TradeOffWeights weights;
     MultiRegressionData record;
     Regression reg;
-    reg.RegressMain(store, p.k, record, ctx);
+    reg.RegressMain(store, p.k, record, weights);
     ASSERT_FALSE(reg.failed());
     ASSERT_TRUE(reg.warnings().empty());
     EXPECT_EQ(reg.work().N, static_cast<int>(y.size()));
@@ -269,4 +269,4 @@ INSTANTIATE_TEST_SUITE_P(
                       JudgmentCase{31, 930, true, true}, JudgmentCase{31, 930, false, false}));
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -1,7 +1,7 @@
 #include "tradeoffs/regression.h"
 
-#include "component/wizard_context.h"
 #include "regression_fixtures.h"
+#include "tradeoffs/trade_off_weights.h"
 
 // Std
 #include <cmath>
@@ -10,7 +10,7 @@
 // GoogleTest
 #include <gtest/gtest.h>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 namespace {
 
 using testing::addJudgment;
@@ -25,10 +25,10 @@ TEST(RegressionTest, AllResponsesZeroAppendsOneObservationSoConsistentCoefficien
     addJudgment(store, {0.0, w[2] * t, -w[1] * t}, 0);
     addJudgment(store, {-w[2] * t, 0.0, w[0] * t}, 0);
   }
-  WizardContext ctx;
+  TradeOffWeights weights;
   MultiRegressionData record;
   Regression reg;
-  reg.RegressMain(store, 3, record, ctx);
+  reg.RegressMain(store, 3, record, weights);
 
   EXPECT_TRUE(reg.warnings().empty());
   EXPECT_FALSE(reg.error().has_value());
@@ -40,7 +40,7 @@ TEST(RegressionTest, AllResponsesZeroAppendsOneObservationSoConsistentCoefficien
   double sum = 0.0;
   for (int i = 0; i < 3; ++i) {
     EXPECT_NEAR(record.Coef[static_cast<std::size_t>(i)], w[i], 1e-12);
-    EXPECT_NEAR(ctx.CloseWeights[static_cast<std::size_t>(i)], w[i], 1e-12);
+    EXPECT_NEAR(weights.CloseWeights[static_cast<std::size_t>(i)], w[i], 1e-12);
     sum += record.Coef[static_cast<std::size_t>(i)];
   }
   EXPECT_NEAR(sum, 1.0, 1e-12);
@@ -53,11 +53,11 @@ TEST(RegressionTest, ArtificialObservationRewritesTheSameExtraPositionOnEveryRun
   addJudgment(store, {0.3, -0.5}, 0);
   addJudgment(store, {0.6, -1.0}, 0);
   addJudgment(store, {-0.3, 0.5}, 0);
-  WizardContext ctx;
+  TradeOffWeights weights;
   MultiRegressionData record;
   Regression reg;
-  reg.RegressMain(store, 2, record, ctx);
-  reg.RegressMain(store, 2, record, ctx);
+  reg.RegressMain(store, 2, record, weights);
+  reg.RegressMain(store, 2, record, weights);
   EXPECT_EQ(store.JudgmentCount, 3);
   EXPECT_EQ(store.PrefResponse.size(), 4u);
   EXPECT_EQ(reg.work().N, 4);
@@ -150,10 +150,10 @@ TEST(RegressionTest, FitWithCoefficientsMinusPointOneFourSevenIsShiftedBeforeItI
   addJudgment(store, {0.0, 10.0, 0.0}, 4);
   addJudgment(store, {-10.0, 0.0, 0.0}, 1);
   addJudgment(store, {0.0, 0.0, -10.0}, -7);
-  WizardContext ctx;
+  TradeOffWeights weights;
   MultiRegressionData record;
   Regression reg;
-  reg.RegressMain(store, 3, record, ctx);
+  reg.RegressMain(store, 3, record, weights);
   ASSERT_FALSE(reg.failed());
   EXPECT_NEAR(reg.work().RegCoef[1], -0.1, 1e-9);
   EXPECT_NEAR(record.Coef[0], 0.0, 1e-9);
@@ -244,4 +244,4 @@ TEST(RegressionTest, CalWeightsDividesByTheSumOfTheCoefficients) {
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -1,21 +1,26 @@
 #include "tradeoffs/results_page.h"
 
-#include "component/wizard_context.h"
 #include "graphs/recording_surface.h"
 #include "trade_off_fixtures.h"
 
 // GoogleTest
 #include <gtest/gtest.h>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 namespace {
 
-WizardContext resultsContext() {
-  WizardContext c;
+// A model of two attributes and the method's weight tables for it.
+struct ResultsInput {
+  AttributeModel model;
+  TradeOffWeights weights;
+};
+
+ResultsInput resultsContext() {
+  ResultsInput c;
   c.model = testing::makeModel(2);
-  c.CloseWeights = {0.4, 0.6};
-  c.UpperWeights = {0.5, 0.75};
-  c.LowerWeights = {0.3, 0.45};
+  c.weights.CloseWeights = {0.4, 0.6};
+  c.weights.UpperWeights = {0.5, 0.75};
+  c.weights.LowerWeights = {0.3, 0.45};
   return c;
 }
 
@@ -28,7 +33,7 @@ TEST(ResultsPageTest, OverallGridHasItsHeadingsRowLabelsAndFormats) {
   r.NumObs = 13;
   r.DegFreedom = 9;
   p.FillRegressionData(r, "  Consistency index is 0.9. It is very good! ");
-  const GridState& g = p.gridOverallRegression();
+  const wizard::GridState& g = p.gridOverallRegression();
   ASSERT_EQ(g.rows(), 6);
   EXPECT_EQ(g.text(0, 0), "Items");
   EXPECT_EQ(g.text(0, 1), "Values");
@@ -55,10 +60,10 @@ TEST(ResultsPageTest, ZeroObservationsAndDegreesOfFreedomShowEmptyCells) {
 
 TEST(ResultsPageTest, WeightsGridShowsHighBeforeLow) {
   ResultsPage p;
-  const WizardContext c = resultsContext();
-  p.SetgirdWeights(c);
-  p.FillWeightData(c);
-  const GridState& g = p.gridWeights();
+  const ResultsInput c = resultsContext();
+  p.SetgirdWeights(c.model);
+  p.FillWeightData(c.weights);
+  const wizard::GridState& g = p.gridWeights();
   ASSERT_EQ(g.rows(), 3);
   EXPECT_EQ(g.cells[0], (std::vector<std::string>{"Attributes", "Weights", "Est.High", "Est.Low"}));
   EXPECT_EQ(g.cells[1], (std::vector<std::string>{"Att1", "0.4000", "0.5000", "0.3000"}));
@@ -67,8 +72,8 @@ TEST(ResultsPageTest, WeightsGridShowsHighBeforeLow) {
 
 TEST(ResultsPageTest, BarChartReadsTheHighEstimatesOnPurpose) {
   ResultsPage p;
-  const WizardContext c = resultsContext();
-  p.tbWeightCharts_ButtonClick("WeightBars", c);
+  const ResultsInput c = resultsContext();
+  p.tbWeightCharts_ButtonClick("WeightBars", c.model, c.weights);
   EXPECT_EQ(p.chartKey(), "WeightBars");
   EXPECT_EQ(p.chart().title, "Attribute Weights and Their Ranges");
   EXPECT_EQ(p.chart().legend, (std::vector<std::string>{"Weights"}));
@@ -82,15 +87,15 @@ TEST(ResultsPageTest, BarChartReadsTheHighEstimatesOnPurpose) {
 
 TEST(ResultsPageTest, HighLowCloseChartsReadAllThreeTables) {
   ResultsPage p;
-  const WizardContext c = resultsContext();
-  p.tbWeightCharts_ButtonClick("HLCa", c);
+  const ResultsInput c = resultsContext();
+  p.tbWeightCharts_ButtonClick("HLCa", c.model, c.weights);
   EXPECT_EQ(p.chart().legend, (std::vector<std::string>{"High Est.", "Low Est.", "Close Est."}));
   EXPECT_EQ(p.chart().data[1], (std::array<double, 3>{0.75, 0.45, 0.6}));
   EXPECT_EQ(p.chart().names, (std::vector<std::string>{"Att1", "Att2"}));
-  p.tbWeightCharts_ButtonClick("HLCb", c);
+  p.tbWeightCharts_ButtonClick("HLCb", c.model, c.weights);
   EXPECT_EQ(p.chartKey(), "HLCb");
   EXPECT_EQ(p.chart().legend, (std::vector<std::string>{"Ranges", "Close Est."}));
-  p.tbWeightCharts_ButtonClick("Other", c);
+  p.tbWeightCharts_ButtonClick("Other", c.model, c.weights);
   EXPECT_EQ(p.chartKey(), "HLCb");
   RecordingSurface s;
   p.drawChart(s);
@@ -98,5 +103,25 @@ TEST(ResultsPageTest, HighLowCloseChartsReadAllThreeTables) {
   EXPECT_NE(s.printed("Attribute Weights and Their Ranges"), nullptr);
 }
 
+TEST(ResultsPageTest, EnteringThePageFillsItFromTheResultItWasBuiltOver) {
+  ResultsInput c = resultsContext();
+  c.weights.RegressionComment = "  Consistency index is 1. It is extremely good!";
+  MultiRegressionData record;
+  record.NumObs = 3;
+  ResultsPage p(c.model, c.weights, record);
+  p.initializePage();
+  EXPECT_EQ(p.gridWeights().cells[2],
+            (std::vector<std::string>{"Att2", "0.6000", "0.7500", "0.4500"}));
+  EXPECT_EQ(p.gridOverallRegression().text(4, 1), "3");
+  EXPECT_EQ(p.txtComments().text, "Consistency index is 1. It is extremely good!");
+  EXPECT_EQ(p.chartKey(), ResultsPage::kHLCa);
+  EXPECT_EQ(p.nextId(), wizard::WizardPage::kNoNextPage);
+  // A page built without a result is filled only through its functions.
+  ResultsPage empty;
+  empty.initializePage();
+  EXPECT_EQ(empty.gridWeights().rows(), 0);
+  EXPECT_EQ(empty.chartKey(), "");
+}
+
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

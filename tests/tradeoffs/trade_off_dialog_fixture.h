@@ -4,8 +4,8 @@
 #include "component/wizard_context.h"
 #include "trade_off_fixtures.h"
 #include "tradeoffs/trade_offs_a_dialog.h"
-#include "tradeoffs/trade_offs_a_presenter.h"
 #include "tradeoffs/trade_offs_a_events.h"
+#include "tradeoffs/trade_offs_a_presenter.h"
 
 // Qt
 #include <QApplication>
@@ -21,7 +21,7 @@
 namespace tnw::testing {
 
 // Records the trade-off dialog's events, with the arrays of the export.
-class RecordingTradeOffsEvents : public TradeOffsAEvents {
+class RecordingTradeOffsEvents : public tradeoffs::TradeOffsAEvents {
  public:
   // One ExportTradeOffsW as it arrived.
   struct Export {

@@ -11,7 +11,7 @@
 namespace tnw::testing {
 
 // Hands out a fixed sequence of draws, then repeats the last one.
-class SequenceRandomSource : public RandomSource {
+class SequenceRandomSource : public tradeoffs::RandomSource {
  public:
   explicit SequenceRandomSource(std::vector<float> draws) : m_draws(std::move(draws)) {}
   float next() override {

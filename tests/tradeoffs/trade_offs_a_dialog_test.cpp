@@ -22,7 +22,7 @@
 // Std
 #include <cmath>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 using namespace tnw::testing;
 
@@ -270,12 +270,12 @@ void TradeOffsADialogTest::fullRunOfThreeAttributesExportsCloseEstimatesAsWeight
   for (int r = 0; r < 3; ++r) {
     const auto i = static_cast<std::size_t>(r);
     QCOMPARE(weights->item(r, 0)->text(), QStringLiteral("Att%1").arg(r + 1));
-    QCOMPARE(weights->item(r, 1)->text(),
-             QString::fromStdString(formatNumber(m_context.CloseWeights[i], "0.0000")));
-    QCOMPARE(weights->item(r, 2)->text(),
-             QString::fromStdString(formatNumber(m_context.UpperWeights[i], "0.0000")));
-    QCOMPARE(weights->item(r, 3)->text(),
-             QString::fromStdString(formatNumber(m_context.LowerWeights[i], "0.0000")));
+    QCOMPARE(weights->item(r, 1)->text(), QString::fromStdString(formatNumber(
+                                              d->presenter().weights().CloseWeights[i], "0.0000")));
+    QCOMPARE(weights->item(r, 2)->text(), QString::fromStdString(formatNumber(
+                                              d->presenter().weights().UpperWeights[i], "0.0000")));
+    QCOMPARE(weights->item(r, 3)->text(), QString::fromStdString(formatNumber(
+                                              d->presenter().weights().LowerWeights[i], "0.0000")));
   }
   QCOMPARE(child<QTextEdit>(d.get(), "txtComments")->toPlainText().toStdString(),
            d->presenter().resultsPage().txtComments().text);
@@ -314,10 +314,10 @@ void TradeOffsADialogTest::fullRunOfThreeAttributesExportsCloseEstimatesAsWeight
   QCOMPARE(m_events.log[0], std::string("ExportTradeOffsW MAVT_TRADEOFFS"));
   QCOMPARE(m_events.log[1], std::string("UnloadTNWizard 3 true"));
   const auto& ex = m_events.exports.front();
-  QCOMPARE(ex.weights, m_context.CloseWeights);
-  QCOMPARE(ex.weightsL, m_context.CloseWeights);
-  QCOMPARE(ex.weightsH, m_context.UpperWeights);
-  QVERIFY(ex.weightsL != m_context.LowerWeights);
+  QCOMPARE(ex.weights, d->presenter().weights().CloseWeights);
+  QCOMPARE(ex.weightsL, d->presenter().weights().CloseWeights);
+  QCOMPARE(ex.weightsH, d->presenter().weights().UpperWeights);
+  QVERIFY(ex.weightsL != d->presenter().weights().LowerWeights);
 }
 
 void TradeOffsADialogTest::scoreOutsideItsRangeShowsTheRangeInSinglePrecision() {
@@ -589,7 +589,7 @@ void TradeOffsADialogTest::mnemonicsAreUniqueOnEachPage() {
   QCOMPARE(keys.size(), QSet<QString>(keys.begin(), keys.end()).size());
 }
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs
 
-QTEST_MAIN(tnw::TradeOffsADialogTest)
+QTEST_MAIN(tnw::tradeoffs::TradeOffsADialogTest)
 #include "trade_offs_a_dialog_test.moc"

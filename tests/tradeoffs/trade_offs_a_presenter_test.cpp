@@ -8,7 +8,7 @@
 // GoogleTest
 #include <gtest/gtest.h>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 namespace {
 
 // Records every event the dialog raises.
@@ -42,7 +42,7 @@ class TradeOffsAPresenterTest : public ::testing::Test {
     m_ctx.FileIndex = 3;
     m_ctx.NorixDir = "C:\\Norix";
     m_p = std::make_unique<TradeOffsAPresenter>(m_ctx, m_ui, m_events, m_random);
-    m_p->setChangedCallback([this] { ++m_changes; });
+    m_p->setChangeListener([this] { ++m_changes; });
     m_p->Form_Load();
   }
   // Records every needed trade-off as a verbal judgment on varied scores of A.
@@ -66,7 +66,7 @@ class TradeOffsAPresenterTest : public ::testing::Test {
 
 TEST_F(TradeOffsAPresenterTest, LoadShowsTheJudgmentPageAndSendsTheInstruction) {
   load(3);
-  EXPECT_EQ(m_p->step(), 1);
+  EXPECT_EQ(m_p->step(), TradeOffsAPresenter::kJudgmentStep);
   EXPECT_EQ(std::string(TradeOffsAPresenter::kCaption), "Tarnel Wizard");
   EXPECT_EQ(m_p->cmdBack().caption, "< &Back");
   EXPECT_EQ(m_p->cmdNext().caption, "&Next >");
@@ -77,7 +77,7 @@ TEST_F(TradeOffsAPresenterTest, LoadShowsTheJudgmentPageAndSendsTheInstruction) 
             " Give your preference between the two selected criteria.");
   EXPECT_EQ(m_events.messages,
             (std::vector<std::string>{" Give your preference between the two selected criteria."}));
-  EXPECT_EQ(m_ctx.CloseWeights.size(), 3u);
+  EXPECT_EQ(m_p->weights().CloseWeights.size(), 3u);
   EXPECT_EQ(m_changes, 1);
 }
 
@@ -85,7 +85,7 @@ TEST_F(TradeOffsAPresenterTest, NextRunsTheRegressionAndFillsTheResultsPage) {
   load(3);
   enterVerbalJudgments();
   m_p->cmdNext_Click();
-  EXPECT_EQ(m_p->step(), 2);
+  EXPECT_EQ(m_p->step(), TradeOffsAPresenter::kResultsStep);
   EXPECT_TRUE(m_p->cmdFinish().enabled);
   EXPECT_FALSE(m_p->cmdNext().enabled);
   EXPECT_FALSE(m_p->fitError().has_value());
@@ -104,10 +104,10 @@ TEST_F(TradeOffsAPresenterTest, FinishExportsTheCloseEstimatesTwiceAndNeverTheLo
   ASSERT_EQ(m_events.exports.size(), 1u);
   const auto& e = m_events.exports[0];
   EXPECT_EQ(e.type, "MAVT_TRADEOFFS");
-  EXPECT_EQ(e.weights, m_ctx.CloseWeights);
-  EXPECT_EQ(e.weightsL, m_ctx.CloseWeights);
-  EXPECT_EQ(e.weightsH, m_ctx.UpperWeights);
-  EXPECT_NE(e.weightsL, m_ctx.LowerWeights);
+  EXPECT_EQ(e.weights, m_p->weights().CloseWeights);
+  EXPECT_EQ(e.weightsL, m_p->weights().CloseWeights);
+  EXPECT_EQ(e.weightsH, m_p->weights().UpperWeights);
+  EXPECT_NE(e.weightsL, m_p->weights().LowerWeights);
   EXPECT_TRUE(e.sameArray);
   ASSERT_EQ(m_events.unloads.size(), 1u);
   EXPECT_EQ(m_events.unloads[0], (std::pair<std::int16_t, bool>{3, true}));
@@ -137,7 +137,7 @@ TEST_F(TradeOffsAPresenterTest, BackOnTheResultsPageStartsTheJudgmentsAgain) {
   m_p->cmdNext_Click();
   m_p->cmdBack_Click();
   EXPECT_EQ(m_events.selMethod, 0);
-  EXPECT_EQ(m_p->step(), 1);
+  EXPECT_EQ(m_p->step(), TradeOffsAPresenter::kJudgmentStep);
   EXPECT_TRUE(m_p->cmdNext().enabled);
   EXPECT_TRUE(m_p->judgmentPage().controls().cmdTradeOffEnter.enabled);
   EXPECT_EQ(m_p->judgmentPage().TradeOffNo(), 0);
@@ -169,7 +169,7 @@ TEST_F(TradeOffsAPresenterTest, ResultTabsSwitchTheTwoPanels) {
 
 TEST_F(TradeOffsAPresenterTest, TwoAttributeNumericalFitEndsInAMessageAndFinishExportsNothing) {
   load(2);
-  m_ctx.CloseWeights = {0.7, 0.3};
+  m_p->weights().CloseWeights = {0.7, 0.3};
   m_p->cmdTradeOffEnter_Click();
   m_p->cmdTradeOffEnter_Click();
   m_p->cmdNext_Click();
@@ -187,9 +187,9 @@ TEST_F(TradeOffsAPresenterTest, TwoAttributeNumericalFitEndsInAMessageAndFinishE
 
 TEST_F(TradeOffsAPresenterTest, FailedInversionEndsInTheZeroSumMessageAndFinishExportsNothing) {
   load(3);
-  m_ctx.CloseWeights = {0.1, 0.2, 0.3};
-  m_ctx.UpperWeights = {0.4, 0.5, 0.6};
-  m_ctx.LowerWeights = {0.05, 0.15, 0.25};
+  m_p->weights().CloseWeights = {0.1, 0.2, 0.3};
+  m_p->weights().UpperWeights = {0.4, 0.5, 0.6};
+  m_p->weights().LowerWeights = {0.05, 0.15, 0.25};
   // Only the pair (0, 1) is judged, so attribute 3 never varies and nothing can be inverted.
   m_p->optPCManual_Click();
   m_p->tsComparisonApproaches_Click(2);
@@ -207,9 +207,9 @@ TEST_F(TradeOffsAPresenterTest, FailedInversionEndsInTheZeroSumMessageAndFinishE
   EXPECT_EQ(m_ui.messages()[1].icon, MessageIcon::Exclamation);
   ASSERT_TRUE(m_p->fitError().has_value());
   EXPECT_EQ(*m_p->fitError(), Regression::kZeroSumError);
-  EXPECT_EQ(m_p->step(), 2);
+  EXPECT_EQ(m_p->step(), TradeOffsAPresenter::kResultsStep);
   // The grids show what the tables held before.
-  const GridState& g = m_p->resultsPage().gridWeights();
+  const wizard::GridState& g = m_p->resultsPage().gridWeights();
   EXPECT_EQ(g.cells[3], (std::vector<std::string>{"Att3", "0.3000", "0.6000", "0.2500"}));
   EXPECT_EQ(m_p->resultsPage().gridOverallRegression().text(4, 1), "");
   m_p->cmdFinish_Click();
@@ -218,7 +218,7 @@ TEST_F(TradeOffsAPresenterTest, FailedInversionEndsInTheZeroSumMessageAndFinishE
   EXPECT_EQ(m_ui.messages().back().text, Regression::kZeroSumError);
   // The dialog stays usable: Back returns to the judgments, Cancel unloads without export.
   m_p->cmdBack_Click();
-  EXPECT_EQ(m_p->step(), 1);
+  EXPECT_EQ(m_p->step(), TradeOffsAPresenter::kJudgmentStep);
   m_p->cmdCancel_Click();
   ASSERT_EQ(m_events.unloads.size(), 1u);
   EXPECT_EQ(m_events.unloads[0], (std::pair<std::int16_t, bool>{3, false}));
@@ -247,7 +247,7 @@ TEST_F(TradeOffsAPresenterTest, ZeroTotalSumOfSquaresEndsInTheZeroSumMessageAndE
   ASSERT_TRUE(m_p->fitError().has_value());
   EXPECT_EQ(*m_p->fitError(), Regression::kZeroSumError);
   // The later steps ran on the unset coefficients and stored them: the grids show those zeros.
-  const GridState& g = m_p->resultsPage().gridWeights();
+  const wizard::GridState& g = m_p->resultsPage().gridWeights();
   EXPECT_EQ(g.cells[1], (std::vector<std::string>{"Att1", "0.0000", "0.0000", "0.0000"}));
   EXPECT_EQ(m_p->resultsPage().gridOverallRegression().text(4, 1), "6");
   EXPECT_EQ(m_p->resultsPage().gridOverallRegression().text(5, 1), "");
@@ -274,5 +274,38 @@ TEST_F(TradeOffsAPresenterTest, TwoAttributeFitShowsOnlyItsOwnMessageAfterAnyWar
   EXPECT_EQ(*m_p->fitError(), Regression::kNoDegreeOfFreedomError);
 }
 
+TEST_F(TradeOffsAPresenterTest, IsATwoPageWizardWhosePagesNameTheirNextStep) {
+  load(3);
+  EXPECT_EQ(m_p->stepCount(), 2);
+  EXPECT_EQ(m_p->caption(), TradeOffsAPresenter::kCaption);
+  EXPECT_EQ(m_p->cmdTNWizardHelp().caption, m_p->cmdHelp().caption);
+  EXPECT_EQ(m_p->judgmentPage().nextId(), TradeOffsAPresenter::kResultsStep);
+  EXPECT_EQ(m_p->resultsPage().nextId(), wizard::WizardPage::kNoNextPage);
+  // Next on the results page leads nowhere; each operation tells the listener once.
+  enterVerbalJudgments();
+  m_p->cmdNext_Click();
+  ASSERT_EQ(m_p->step(), TradeOffsAPresenter::kResultsStep);
+  const int changes = m_changes;
+  m_p->cmdNext_Click();
+  EXPECT_EQ(m_p->step(), TradeOffsAPresenter::kResultsStep);
+  EXPECT_EQ(m_changes, changes);
+  m_p->cmdBack_Click();
+  EXPECT_EQ(m_p->step(), TradeOffsAPresenter::kJudgmentStep);
+  EXPECT_EQ(m_changes, changes + 1);
+}
+
+TEST_F(TradeOffsAPresenterTest, TheFitWritesTheMethodsOwnResultAndNotTheContext) {
+  load(3);
+  enterVerbalJudgments();
+  m_p->cmdNext_Click();
+  ASSERT_FALSE(m_p->fitError().has_value());
+  EXPECT_EQ(m_p->weights().CloseWeights.size(), 3u);
+  EXPECT_FALSE(m_p->weights().RegressionComment.empty());
+  EXPECT_TRUE(m_ctx.CloseWeights.empty());
+  EXPECT_TRUE(m_ctx.UpperWeights.empty());
+  EXPECT_TRUE(m_ctx.LowerWeights.empty());
+  EXPECT_TRUE(m_ctx.RegressionComment.empty());
+}
+
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

@@ -10,7 +10,7 @@
 #include <QStackedWidget>
 #include <QTabBar>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 using namespace tnw::testing;
 
@@ -69,7 +69,7 @@ void TradeOffsAnalysisDialogTest::theRegressionStatusTabListsTheJudgmentThatHurt
   d.reset();
 }
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs
 
-QTEST_MAIN(tnw::TradeOffsAnalysisDialogTest)
+QTEST_MAIN(tnw::tradeoffs::TradeOffsAnalysisDialogTest)
 #include "trade_offs_analysis_dialog_test.moc"

@@ -7,7 +7,7 @@
 #include <functional>
 #include <limits>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 using namespace tnw::testing;
 
@@ -42,7 +42,7 @@ class TradeOffsModelProblemDialogTest : public QObject {
     QVERIFY(!child<QPushButton>(d.get(), "cmdTradeOffEnter")->isEnabled());
     clickButton(d.get(), "cmdNext");
     clickButton(d.get(), "cmdFinish");
-    QCOMPARE(d->presenter().step(), 1);
+    QCOMPARE(d->presenter().step(), TradeOffsAPresenter::kJudgmentStep);
     QVERIFY(events.exports.empty());
     for (const std::string& e : events.log) QVERIFY2(e.rfind("UnloadTNWizard", 0) != 0, e.c_str());
     clickButton(d.get(), "cmdCancel");
@@ -87,7 +87,7 @@ class TradeOffsModelProblemDialogTest : public QObject {
   }
 };
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs
 
-QTEST_MAIN(tnw::TradeOffsModelProblemDialogTest)
+QTEST_MAIN(tnw::tradeoffs::TradeOffsModelProblemDialogTest)
 #include "trade_offs_model_problem_dialog_test.moc"

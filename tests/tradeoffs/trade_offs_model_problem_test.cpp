@@ -15,7 +15,7 @@
 // GoogleTest
 #include <gtest/gtest.h>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 namespace {
 
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
@@ -76,7 +76,7 @@ void expectRefusedWith(const AttributeModel& model, const std::string& message) 
   EXPECT_EQ(run.p.fitError(), message);
   EXPECT_EQ(run.p.judgmentPage().TradeOffNo(), 0);
   EXPECT_FALSE(run.p.judgmentPage().controls().cmdTradeOffEnter.enabled);
-  EXPECT_EQ(run.p.step(), 1);
+  EXPECT_EQ(run.p.step(), TradeOffsAPresenter::kJudgmentStep);
   EXPECT_FALSE(run.p.cmdNext().enabled);
   EXPECT_FALSE(run.p.cmdFinish().enabled);
   EXPECT_EQ(run.events.exports, 0);
@@ -152,4 +152,4 @@ TEST(TradeOffsModelProblemTest, ASoundModelHasNoProblemAndIsWeighed) {
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::tradeoffs

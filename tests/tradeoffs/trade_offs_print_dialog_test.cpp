@@ -22,7 +22,7 @@
 // Std
 #include <cmath>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 using namespace tnw::testing;
 
@@ -329,7 +329,7 @@ void TradeOffsPrintDialogTest::longNamesAreElidedInWholeRowsOfTheListsAndOnOneLi
   QCOMPARE(grid->item(5, 0)->toolTip(), longest);
 }
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs
 
-QTEST_MAIN(tnw::TradeOffsPrintDialogTest)
+QTEST_MAIN(tnw::tradeoffs::TradeOffsPrintDialogTest)
 #include "trade_offs_print_dialog_test.moc"

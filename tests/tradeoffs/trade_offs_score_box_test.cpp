@@ -2,7 +2,7 @@
 
 #include "trade_off_dialog_fixture.h"
 
-namespace tnw {
+namespace tnw::tradeoffs {
 
 using namespace tnw::testing;
 
@@ -68,7 +68,7 @@ void TradeOffsScoreBoxTest::aDecimalCanBeTypedAndASecondPeriodIsDropped() {
   QCOMPARE(box->text(), QStringLiteral("310.52"));
 }
 
-}  // namespace tnw
+}  // namespace tnw::tradeoffs
 
-QTEST_MAIN(tnw::TradeOffsScoreBoxTest)
+QTEST_MAIN(tnw::tradeoffs::TradeOffsScoreBoxTest)
 #include "trade_offs_score_box_test.moc"

@@ -22,7 +22,7 @@
 #include <cstdio>
 #include <vector>
 
-namespace tnw {
+namespace tnw::tradeoffs {
 namespace {
 
 using namespace tnw::testing;
@@ -160,7 +160,7 @@ int run(const QDir& dir) {
 }
 
 }  // namespace
-}  // namespace tnw
+}  // namespace tnw::tradeoffs
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
@@ -170,5 +170,5 @@ int main(int argc, char** argv) {
   }
   const QDir dir(QString::fromLocal8Bit(argv[1]));
   if (!dir.exists()) return 1;
-  return tnw::run(dir);
+  return tnw::tradeoffs::run(dir);
 }

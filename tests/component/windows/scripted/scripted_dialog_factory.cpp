@@ -22,8 +22,8 @@ ScriptedDialogFactory::ScriptedDialogFactory(ScriptedScenario& scenario, UiServi
 
 ScriptedDialogFactory::~ScriptedDialogFactory() { destroyReleased(); }
 
-std::unique_ptr<WizardDialog> ScriptedDialogFactory::createSelMethod(WizardContext& context,
-                                                                     SelMethodEvents& events) {
+std::unique_ptr<WizardDialog> ScriptedDialogFactory::createSelMethod(
+    WizardContext& context, selmethod::SelMethodEvents& events) {
   // A selection dialog with nothing to play would wait for ever; the host gets an error instead.
   if (!m_scenario.given())
     throw std::runtime_error("No scenario: TNW_SCRIPTED_SCENARIO names none, so nothing is shown.");
@@ -39,8 +39,8 @@ std::unique_ptr<WizardDialog> ScriptedDialogFactory::createDirectA(WizardContext
                                   m_window, m_trace);
 }
 
-std::unique_ptr<WizardDialog> ScriptedDialogFactory::createTradeOffsA(WizardContext& context,
-                                                                      TradeOffsAEvents& events) {
+std::unique_ptr<WizardDialog> ScriptedDialogFactory::createTradeOffsA(
+    WizardContext& context, tradeoffs::TradeOffsAEvents& events) {
   reserveRelease();
   return makeScriptedTradeOffsDialog(nextName("frmTradeOffsA"), context, events, m_ui, m_scenario,
                                      m_window, m_trace);

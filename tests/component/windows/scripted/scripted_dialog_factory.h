@@ -27,13 +27,13 @@ class ScriptedDialogFactory : public WizardDialogFactory {
 
   // A new, loaded frmTNWSelMethod; throws std::runtime_error when no scenario is given.
   std::unique_ptr<WizardDialog> createSelMethod(WizardContext& context,
-                                                SelMethodEvents& events) override;
+                                                selmethod::SelMethodEvents& events) override;
   // A new frmDirectA.
   std::unique_ptr<WizardDialog> createDirectA(WizardContext& context,
                                               direct::DirectAEvents& events) override;
   // A new frmTradeOffsA.
   std::unique_ptr<WizardDialog> createTradeOffsA(WizardContext& context,
-                                                 TradeOffsAEvents& events) override;
+                                                 tradeoffs::TradeOffsAEvents& events) override;
   // Traces "<name> released" and destroys the dialog from the message loop; never throws, as the
   // component releases its dialogs from its destructor.
   void release(std::unique_ptr<WizardDialog> dialog) noexcept override;

@@ -9,7 +9,7 @@
 namespace tnw {
 
 ScriptedSelMethodDialog::ScriptedSelMethodDialog(std::string name, WizardContext& context,
-                                                 SelMethodEvents& events, UiServices& ui,
+                                                 selmethod::SelMethodEvents& events, UiServices& ui,
                                                  ScriptedScenario& scenario, MessageWindow& window,
                                                  const ScriptedTrace& trace)
     : ScriptedDialog(std::move(name), {420, 330}, window, trace),
@@ -40,11 +40,9 @@ void ScriptedSelMethodDialog::act() {
   }
 }
 
-std::unique_ptr<WizardDialog> makeScriptedSelMethodDialog(std::string name, WizardContext& context,
-                                                          SelMethodEvents& events, UiServices& ui,
-                                                          ScriptedScenario& scenario,
-                                                          MessageWindow& window,
-                                                          const ScriptedTrace& trace) {
+std::unique_ptr<WizardDialog> makeScriptedSelMethodDialog(
+    std::string name, WizardContext& context, selmethod::SelMethodEvents& events, UiServices& ui,
+    ScriptedScenario& scenario, MessageWindow& window, const ScriptedTrace& trace) {
   return std::make_unique<ScriptedSelMethodDialog>(std::move(name), context, events, ui, scenario,
                                                    window, trace);
 }

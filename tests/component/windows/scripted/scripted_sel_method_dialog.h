@@ -13,8 +13,9 @@ struct WizardContext;
 class ScriptedSelMethodDialog : public ScriptedDialog {
  public:
   // A loaded selection dialog (loading sends its status text through events).
-  ScriptedSelMethodDialog(std::string name, WizardContext& context, SelMethodEvents& events,
-                          UiServices& ui, ScriptedScenario& scenario, MessageWindow& window,
+  ScriptedSelMethodDialog(std::string name, WizardContext& context,
+                          selmethod::SelMethodEvents& events, UiServices& ui,
+                          ScriptedScenario& scenario, MessageWindow& window,
                           const ScriptedTrace& trace);
 
  protected:
@@ -24,7 +25,7 @@ class ScriptedSelMethodDialog : public ScriptedDialog {
   void act() override;
 
  private:
-  SelMethodPresenter m_presenter;
+  selmethod::SelMethodPresenter m_presenter;
   ScriptedScenario& m_scenario;
 };
 
