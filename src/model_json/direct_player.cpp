@@ -184,13 +184,14 @@ ordered_json exactBoundsError(const WizardContext& c, const direct::DirectAPrese
 ordered_json result(const WizardContext& c, const direct::DirectAPresenter& p, ordered_json steps,
                     const ordered_json& exported) {
   const auto& judged = p.judgment().judgments().judgedFlags();
-  return ordered_json{{"finalGroupCount", c.FinalGroupCount},
-                      {"finalAttGroup", c.FinalAttGroup},
-                      {"refAtt", c.RefAtt},
+  const direct::DirectResult& r = p.result();
+  return ordered_json{{"finalGroupCount", r.FinalGroupCount},
+                      {"finalAttGroup", r.FinalAttGroup},
+                      {"refAtt", r.RefAtt},
                       {"steps", std::move(steps)},
-                      {"lower", c.LowerWeights},
-                      {"middle", c.CloseWeights},
-                      {"upper", c.UpperWeights},
+                      {"lower", r.LowerWeights},
+                      {"middle", r.CloseWeights},
+                      {"upper", r.UpperWeights},
                       {"judged", std::vector<bool>(judged.begin(), judged.end())},
                       {"complete", p.judgment().judgments().isComplete()},
                       {"grid", p.WizardStep() == 3 ? gridRows(p.grid()) : ordered_json::array()},
@@ -213,9 +214,9 @@ ordered_json runScenario(WizardContext& context, RecordingUiServices& ui,
     throw;
   }
   noteMessagesSince(ui, 0, notes);
-  if (p.resuming() && scenario.reference && *scenario.reference != context.RefAtt) {
-    notes.push_back("The earlier result's reference attribute " + std::to_string(context.RefAtt) +
-                    " is used, as in the dialog.");
+  if (p.resuming() && scenario.reference && *scenario.reference != p.result().RefAtt) {
+    notes.push_back("The earlier result's reference attribute " +
+                    std::to_string(p.result().RefAtt) + " is used, as in the dialog.");
   }
   ordered_json steps = ordered_json::array();
   for (const ScenarioStep& step : scenario.steps) steps.push_back(runStep(p, ui, step));
