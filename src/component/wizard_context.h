@@ -21,14 +21,6 @@ struct WizardContext {
   // The attribute model read from the host's model file.
   AttributeModel model;
 
-  // The importance order the direct method leaves its ordering step with (groups are 1-based).
-  std::int16_t FinalGroupCount = 0;
-  std::vector<std::int16_t> FinalGroupSize;  // index 0..NumAtt
-  std::vector<std::int16_t> FinalAttGroup;   // index 0..NumAtt-1
-
-  // The reference attribute of the direct method (0-based).
-  std::int16_t RefAtt = 0;
-
   // The weight tables written by the judgment pages or the regression, index 0..NumAtt-1.
   std::vector<double> LowerWeights;
   std::vector<double> CloseWeights;
