@@ -28,13 +28,19 @@ tnw::WizardContext makeContext() {
     context.model.AttOrientation[i] = i % 3 == 0 ? "1" : "0";
     context.model.AttScoreHigh[i] = 100.0;
   }
-  context.FinalGroupCount = kGroups;
-  context.FinalGroupSize.assign(kAttributes + 1, 0);
-  for (int j = 0; j < kAttributes; ++j) {
-    context.FinalAttGroup.push_back(static_cast<std::int16_t>(groupOf(j)));
-    ++context.FinalGroupSize[static_cast<std::size_t>(groupOf(j))];
-  }
   return context;
+}
+
+// The final order of groupOf, as the ordering step leaves it in the direct method's result.
+tnw::direct::DirectResult makeOrder() {
+  tnw::direct::DirectResult result;
+  result.FinalGroupCount = kGroups;
+  result.FinalGroupSize.assign(kAttributes + 1, 0);
+  for (int j = 0; j < kAttributes; ++j) {
+    result.FinalAttGroup.push_back(static_cast<std::int16_t>(groupOf(j)));
+    ++result.FinalGroupSize[static_cast<std::size_t>(groupOf(j))];
+  }
+  return result;
 }
 
 struct NullEvents : tnw::direct::DirectAEvents {
@@ -50,9 +56,10 @@ struct NullEvents : tnw::direct::DirectAEvents {
 };
 
 void BM_RecordWeightRatios(benchmark::State& state) {
-  tnw::WizardContext context = makeContext();
-  context.RefAtt = static_cast<std::int16_t>(kAttributes - 1);  // in group 10
-  tnw::direct::WeightRatioJudgments judgments(context);
+  const tnw::WizardContext context = makeContext();
+  tnw::direct::DirectResult result = makeOrder();
+  result.RefAtt = static_cast<std::int16_t>(kAttributes - 1);  // in group 10
+  tnw::direct::WeightRatioJudgments judgments(context.model, result);
   judgments.CalcIniWeightRatios();
   // Target 1 is in group 2: its ties are copied, group 1 is pushed up, groups 3 to 9 down.
   for (auto _ : state) {
@@ -62,8 +69,9 @@ void BM_RecordWeightRatios(benchmark::State& state) {
 BENCHMARK(BM_RecordWeightRatios);
 
 void BM_Check_Judgment_Status(benchmark::State& state) {
-  tnw::WizardContext context = makeContext();
-  tnw::direct::WeightRatioJudgments judgments(context);
+  const tnw::WizardContext context = makeContext();
+  tnw::direct::DirectResult result = makeOrder();
+  tnw::direct::WeightRatioJudgments judgments(context.model, result);
   judgments.CalcIniWeightRatios();
   const tnw::direct::PreferenceCone cone(200.0F, 8.0F);
   const tnw::direct::RegionHandles handles{cone.handleForRatio(0.4), cone.handleForRatio(0.6)};

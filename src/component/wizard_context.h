@@ -5,13 +5,12 @@
 // Std
 #include <cstdint>
 #include <string>
-#include <vector>
 
 namespace tnw {
 
-// The data one wizard keeps for all of its dialogs: what the host passed, the model read from
-// its file, and the results the method pages write for the results pages and the exports.
-// Each component object owns one; dialogs get it by reference and never pass data directly.
+// What one wizard's dialogs share: what the host passed and the model read from its file. Each
+// component object owns one and hands it to its dialogs by reference; the component writes it,
+// the dialogs only read it. Each method keeps its own result and hands it on with its export.
 struct WizardContext {
   // What the host passed to GetCurFileData.
   std::string NorixDir;
@@ -20,22 +19,6 @@ struct WizardContext {
 
   // The attribute model read from the host's model file.
   AttributeModel model;
-
-  // The importance order the direct method leaves its ordering step with (groups are 1-based).
-  std::int16_t FinalGroupCount = 0;
-  std::vector<std::int16_t> FinalGroupSize;  // index 0..NumAtt
-  std::vector<std::int16_t> FinalAttGroup;   // index 0..NumAtt-1
-
-  // The reference attribute of the direct method (0-based).
-  std::int16_t RefAtt = 0;
-
-  // The weight tables written by the judgment pages or the regression, index 0..NumAtt-1.
-  std::vector<double> LowerWeights;
-  std::vector<double> CloseWeights;
-  std::vector<double> UpperWeights;
-
-  // The consistency text of the regression.
-  std::string RegressionComment;
 };
 
 }  // namespace tnw

@@ -259,10 +259,10 @@ void DirectADialog::render() {
         m_orderPage->render(p.ordering());
         break;
       case DirectAPresenter::kReferenceStep:
-        m_referencePage->render(p.reference(), p.ordering(), p.lamps(), m_context);
+        m_referencePage->render(p.reference(), p.ordering(), p.lamps(), p.result());
         break;
       case DirectAPresenter::kJudgmentStep:
-        m_judgmentPage->render(p.judgment(), p.ordering(), p.lamps(), m_context);
+        m_judgmentPage->render(p.judgment(), p.ordering(), p.lamps(), p.result());
         break;
       default:
         m_resultsPage->render(m_presenter.grid());

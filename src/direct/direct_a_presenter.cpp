@@ -7,7 +7,7 @@ namespace tnw::direct {
 
 DirectAPresenter::DirectAPresenter(WizardContext& context, UiServices& ui, DirectAEvents& events)
     : m_context(context),
-      m_shared(context, ui, events, buttons()),
+      m_shared(context, m_result, ui, events, buttons()),
       m_ordering(m_shared, usableCount(context)),
       m_reference(m_shared, m_ordering, m_lamps),
       m_judgment(m_shared, m_lamps),
@@ -60,7 +60,7 @@ void DirectAPresenter::cmdBack_Click() {
 
 void DirectAPresenter::cmdFinish_Click() {
   if (!m_shared.usable || !cmdFinish().enabled) return;
-  const auto outcome = DirectExport::compute(m_context.LowerWeights, m_context.UpperWeights,
+  const auto outcome = DirectExport::compute(m_result.LowerWeights, m_result.UpperWeights,
                                              m_ordering.order().numAtt(), m_export);
   if (outcome != DirectExport::Outcome::Exported) {
     m_shared.warn(DirectExport::message(outcome));
@@ -68,7 +68,7 @@ void DirectAPresenter::cmdFinish_Click() {
     return;
   }
   changed();
-  m_shared.events.ExportDirectAW(kTNType, m_context.RefAtt, m_export.Weights, m_export.WeightsH,
+  m_shared.events.ExportDirectAW(kTNType, m_result.RefAtt, m_export.Weights, m_export.WeightsH,
                                  m_export.WeightsL);
   m_shared.events.UnloadTNWizard(m_context.FileIndex, true);
 }

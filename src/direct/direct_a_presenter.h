@@ -135,6 +135,11 @@ class DirectAPresenter : public wizard::WizardPresenter {
   bool resuming() const { return m_shared.resume; }
   // Whether the model has 1 to 31 attributes; otherwise only Back, Cancel and Help work.
   bool usable() const { return m_shared.usable; }
+  // The method's result: the final order, the reference and the weight-ratio tables.
+  const DirectResult& result() const { return m_result; }
+  // The result, writable: lets a caller put in tables no input could reach (the export's
+  // guards against a zero sum are tested this way).
+  DirectResult& mutableResult() { return m_result; }
   // The arrays of the last export (the very arrays handed to ExportDirectAW).
   const DirectExport::Weights& exported() const { return m_export; }
 
@@ -143,6 +148,7 @@ class DirectAPresenter : public wizard::WizardPresenter {
   void showStep();
 
   WizardContext& m_context;
+  DirectResult m_result;
   DirectAShared m_shared;
   StatusLamps m_lamps;
   OrderingPage m_ordering;

@@ -3,6 +3,7 @@
 #include "common/ui_services.h"
 #include "component/wizard_context.h"
 #include "direct/direct_a_events.h"
+#include "direct/direct_result.h"
 #include "wizard/control_states.h"
 
 // Std
@@ -10,16 +11,19 @@
 
 namespace tnw::direct {
 
-// What the pages of the direct-method dialog share: the wizard's data, the user-interface
-// services, the dialog's event listener, the frame's buttons and the controls more than one
-// page writes.
+// What the pages of the direct-method dialog share: the wizard's data, the method's result, the
+// user-interface services, the dialog's event listener, the frame's buttons and the controls
+// more than one page writes.
 struct DirectAShared {
-  // The shared state over the wizard's data and the presenter's frame buttons.
-  DirectAShared(WizardContext& context, UiServices& ui, DirectAEvents& events,
+  // The shared state over the wizard's data, the presenter's result and its frame buttons.
+  DirectAShared(WizardContext& context, DirectResult& result, UiServices& ui, DirectAEvents& events,
                 wizard::WizardButtons& buttons)
-      : context(context), ui(ui), events(events), buttons(buttons) {}
+      : context(context), result(result), ui(ui), events(events), buttons(buttons) {}
 
+  // The host's inputs and the model (read only by the method).
   WizardContext& context;
+  // The order, reference and weight-ratio tables the pages work out.
+  DirectResult& result;
   UiServices& ui;
   DirectAEvents& events;
   // The frame's buttons (Back, Next, Finish, Cancel, Help).

@@ -2,6 +2,7 @@
 
 #include "direct/cone_area_widget.h"
 #include "direct/control_rendering.h"
+#include "direct/direct_result.h"
 #include "direct/direct_view_colours_qt.h"
 #include "direct/judgment_page.h"
 #include "direct/ordering_page.h"
@@ -168,7 +169,7 @@ QWidget* DirectJudgmentPageWidget::buildTabs() {
 }
 
 void DirectJudgmentPageWidget::render(const JudgmentPage& page, const OrderingPage& ordering,
-                                      const StatusLamps& lamps, const WizardContext& context) {
+                                      const StatusLamps& lamps, const DirectResult& result) {
   renderTargets(page);
   for (const auto box : {JudgmentPage::Box::Lower, JudgmentPage::Box::Upper}) {
     QLineEdit* edit = box == JudgmentPage::Box::Lower ? m_lower : m_upper;
@@ -184,7 +185,7 @@ void DirectJudgmentPageWidget::render(const JudgmentPage& page, const OrderingPa
   }
   const QString why = QString::fromStdString(page.diagnosis().text);
   if (m_diagnosis->text() != why) m_diagnosis->setText(why);
-  renderOrderTab(page, ordering, context);
+  renderOrderTab(page, ordering, result);
 }
 
 void DirectJudgmentPageWidget::renderControls(const JudgmentPage& page) {
@@ -240,7 +241,7 @@ void DirectJudgmentPageWidget::renderCone(const JudgmentPage& page) {
 
 void DirectJudgmentPageWidget::renderOrderTab(const JudgmentPage& page,
                                               const OrderingPage& ordering,
-                                              const WizardContext& context) {
+                                              const DirectResult& result) {
   m_tabs->setTabEnabled(1, page.orderTabVisible());
   if (!page.orderTabVisible()) return;
   const int n = static_cast<int>(ordering.attributeButtons().size());
@@ -250,7 +251,7 @@ void DirectJudgmentPageWidget::renderOrderTab(const JudgmentPage& page,
     faces.append({QString::fromStdString(b.caption), colourFromBgr(b.faceColor)});
   }
   QVector<int> groupOf(n, 0);
-  for (int k = 1; k <= context.FinalGroupCount; ++k) {
+  for (int k = 1; k <= result.FinalGroupCount; ++k) {
     for (const int i : page.orderGroup(k)) {
       if (i >= 0 && i < n) groupOf[i] = k;
     }
@@ -262,7 +263,7 @@ void DirectJudgmentPageWidget::renderOrderTab(const JudgmentPage& page,
   }
   if (rebuilt || groupOf != m_orderGroups) {
     m_orderGroups = groupOf;
-    m_orderList->setOrder(context.FinalGroupCount, groupOf);
+    m_orderList->setOrder(result.FinalGroupCount, groupOf);
   }
 }
 

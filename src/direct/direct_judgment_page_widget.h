@@ -11,12 +11,9 @@ class QLineEdit;
 class QPushButton;
 class QTabWidget;
 
-namespace tnw {
-struct WizardContext;
-}  // namespace tnw
-
 namespace tnw::direct {
 
+struct DirectResult;
 class ConeAreaWidget;
 class JudgmentPage;
 class OrderingPage;
@@ -36,7 +33,7 @@ class DirectJudgmentPageWidget : public QWidget {
   // Shows step 2's page: targets, boxes, cone, lamps and the order tab (the order's buttons
   // as step 0 shows them).
   void render(const JudgmentPage& page, const OrderingPage& ordering, const StatusLamps& lamps,
-              const WizardContext& context);
+              const DirectResult& result);
   // Shows the page's buttons and the names, ranges and picture of the two attributes.
   void renderControls(const JudgmentPage& page);
   // The target list (imgcmbTargetAtt).
@@ -72,7 +69,7 @@ class DirectJudgmentPageWidget : public QWidget {
   void renderTargets(const JudgmentPage& page);
   void renderCone(const JudgmentPage& page);
   void renderOrderTab(const JudgmentPage& page, const OrderingPage& ordering,
-                      const WizardContext& context);
+                      const DirectResult& result);
 
   QComboBox* m_targetList = nullptr;
   QLabel* m_targetName = nullptr;

@@ -1,6 +1,7 @@
 #include "direct/direct_reference_page_widget.h"
 
 #include "direct/attribute_button_widget.h"
+#include "direct/direct_result.h"
 #include "direct/direct_view_colours_qt.h"
 #include "direct/indicator_widget.h"
 #include "direct/ordering_page.h"
@@ -75,7 +76,7 @@ void DirectReferencePageWidget::setIndicatorColour(const QColor& colour) {
 }
 
 void DirectReferencePageWidget::render(const ReferencePage& page, const OrderingPage& ordering,
-                                       const StatusLamps& lamps, const WizardContext& context) {
+                                       const StatusLamps& lamps, const DirectResult& result) {
   const int n = static_cast<int>(ordering.attributeButtons().size());
   QVector<FinalOrderWidget::AttributeFace> faces;
   for (int i = 0; i < n; ++i) {
@@ -88,14 +89,14 @@ void DirectReferencePageWidget::render(const ReferencePage& page, const Ordering
     setAttributes(faces);
   }
   QVector<int> groupOf(n, 0);
-  for (int k = 1; k <= context.FinalGroupCount; ++k) {
+  for (int k = 1; k <= result.FinalGroupCount; ++k) {
     for (const int i : page.finalGroup(k)) {
       if (i >= 0 && i < n) groupOf[i] = k;
     }
   }
-  if (rebuilt || groupOf != m_groupOf || context.FinalGroupCount != m_order->groupCount()) {
+  if (rebuilt || groupOf != m_groupOf || result.FinalGroupCount != m_order->groupCount()) {
     m_groupOf = groupOf;
-    setOrder(context.FinalGroupCount, groupOf);
+    setOrder(result.FinalGroupCount, groupOf);
   }
   const int ref = page.picIndicator().visible ? page.indicatorAttribute() : -1;
   if (ref != m_reference) setReference(ref);

@@ -7,12 +7,9 @@
 
 class QLabel;
 
-namespace tnw {
-struct WizardContext;
-}  // namespace tnw
-
 namespace tnw::direct {
 
+struct DirectResult;
 class OrderingPage;
 class ReferencePage;
 class StatusLamps;
@@ -38,7 +35,7 @@ class DirectReferencePageWidget : public QWidget {
   // Shows step 1's page: the final order (the buttons as step 0 shows them), the reference and
   // the indicator in the lamps' colour.
   void render(const ReferencePage& page, const OrderingPage& ordering, const StatusLamps& lamps,
-              const WizardContext& context);
+              const DirectResult& result);
   // The first attribute button in the order (the most important group's first), or null.
   QWidget* firstButton() const;
   // The order view.

@@ -19,7 +19,7 @@ std::string scoreText(double score) { return formatNumber(score, "###,##0.0#"); 
 }  // namespace
 
 JudgmentPage::JudgmentPage(DirectAShared& shared, StatusLamps& lamps)
-    : m_shared(shared), m_lamps(lamps), m_judgments(shared.context) {}
+    : m_shared(shared), m_lamps(lamps), m_judgments(shared.context.model, shared.result) {}
 
 void JudgmentPage::initializePage() { enter(m_shared.resume); }
 
@@ -36,7 +36,8 @@ bool JudgmentPage::enter(bool resume) {
   m_judgments.reset();
   bool resumed = false;
   if (resume) {
-    const auto outcome = PreviousJudgments::GetPreviousWeightRatios(m_shared.context, m_judgments);
+    const auto outcome = PreviousJudgments::GetPreviousWeightRatios(m_shared.context.model,
+                                                                    m_shared.result, m_judgments);
     resumed = outcome == PreviousJudgments::Outcome::Resumed;
     if (!resumed) m_shared.warn(PreviousJudgments::message(outcome));
   }
@@ -63,8 +64,8 @@ void JudgmentPage::leave() {
 void JudgmentPage::ListAtt() {
   m_shared.ui.setBusy(true);
   m_loading = true;
-  m_targets.ListAtt(m_shared.context.model, m_judgments, m_shared.context.RefAtt);
-  DisplayAttPair(m_targets.currentTarget(), m_shared.context.RefAtt);
+  m_targets.ListAtt(m_shared.context.model, m_judgments, m_shared.result.RefAtt);
+  DisplayAttPair(m_targets.currentTarget(), m_shared.result.RefAtt);
   m_shared.events.SendMasseges(kIndicateMessage);
   m_loading = false;
   m_shared.ui.setBusy(false);
@@ -155,7 +156,7 @@ void JudgmentPage::DisplayPrefCone() {
 
 void JudgmentPage::chooseTarget(int i) {
   if (m_loading) return;
-  const int ref = m_shared.context.RefAtt;
+  const int ref = m_shared.result.RefAtt;
   switch (m_targets.choose(i, m_judgments, ref)) {
     case TargetList::Choice::ReferenceItself:
       m_shared.warn(kSameAttributeMessage);

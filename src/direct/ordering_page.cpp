@@ -25,9 +25,11 @@ void OrderingPage::initializePage() {
 }
 
 void OrderingPage::resumeEarlierOrder() {
-  WeightRatioJudgments judgments(m_shared.context);
+  const AttributeModel& model = m_shared.context.model;
+  WeightRatioJudgments judgments(model, m_shared.result);
   PreviousJudgments::Order order;
-  const auto outcome = PreviousJudgments::GetPreviousOrder(m_shared.context, judgments, order);
+  const auto outcome =
+      PreviousJudgments::GetPreviousOrder(model, m_shared.result, judgments, order);
   m_shared.resume = outcome == PreviousJudgments::Outcome::Resumed;
   if (m_shared.resume) {
     DisplayPreviousOrder(order);

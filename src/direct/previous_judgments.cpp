@@ -36,8 +36,7 @@ int PreviousJudgments::chooseReference(const AttributeModel& model, int n) {
 }
 
 PreviousJudgments::Outcome PreviousJudgments::GetPreviousWeightRatios(
-    WizardContext& context, WeightRatioJudgments& judgments) {
-  const AttributeModel& model = context.model;
+    const AttributeModel& model, DirectResult& result, WeightRatioJudgments& judgments) {
   const int n = judgments.count();
   if (n == 0) return Outcome::BadReference;
   int ref = 0;
@@ -65,10 +64,10 @@ PreviousJudgments::Outcome PreviousJudgments::GetPreviousWeightRatios(
   if (!allFinite(ratios.lower) || !allFinite(ratios.middle) || !allFinite(ratios.upper)) {
     return Outcome::NotFinite;
   }
-  context.RefAtt = static_cast<std::int16_t>(ref);
-  context.LowerWeights = ratios.lower;
-  context.CloseWeights = ratios.middle;
-  context.UpperWeights = ratios.upper;
+  result.RefAtt = static_cast<std::int16_t>(ref);
+  result.LowerWeights = ratios.lower;
+  result.CloseWeights = ratios.middle;
+  result.UpperWeights = ratios.upper;
   for (int i = 0; i < n; ++i) judgments.setJudged(i, true);
   return Outcome::Resumed;
 }
@@ -101,12 +100,13 @@ PreviousJudgments::Order PreviousJudgments::orderFromMiddleRatios(
   return order;
 }
 
-PreviousJudgments::Outcome PreviousJudgments::GetPreviousOrder(WizardContext& context,
+PreviousJudgments::Outcome PreviousJudgments::GetPreviousOrder(const AttributeModel& model,
+                                                               DirectResult& result,
                                                                WeightRatioJudgments& judgments,
                                                                Order& order) {
-  const Outcome outcome = GetPreviousWeightRatios(context, judgments);
+  const Outcome outcome = GetPreviousWeightRatios(model, result, judgments);
   if (outcome != Outcome::Resumed) return outcome;
-  order = orderFromMiddleRatios(context.CloseWeights);
+  order = orderFromMiddleRatios(result.CloseWeights);
   return outcome;
 }
 

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "component/wizard_context.h"
+#include "direct/direct_result.h"
 #include "direct/weight_ratio_judgments.h"
+#include "model/attribute_model.h"
 
 // Std
 #include <cstdint>
@@ -36,15 +37,16 @@ class PreviousJudgments {
   // later attribute nearer to the middle of the weights than attribute 0 takes its place (the
   // distance to beat is not lowered, so the last such attribute wins; intended).
   static int chooseReference(const AttributeModel& model, int n);
-  // Sets RefAtt, the three ratio tables and the judged flags from the earlier weights. On any
-  // outcome but Resumed nothing is changed.
-  static Outcome GetPreviousWeightRatios(WizardContext& context, WeightRatioJudgments& judgments);
+  // Sets the result's RefAtt and three ratio tables and the judged flags from the model's
+  // earlier weights. On any outcome but Resumed nothing is changed.
+  static Outcome GetPreviousWeightRatios(const AttributeModel& model, DirectResult& result,
+                                         WeightRatioJudgments& judgments);
   // Groups from the middle ratios: equal ratios (compared exactly) share a group, the largest
   // first; a negative ratio is never placed.
   static Order orderFromMiddleRatios(const std::vector<double>& middle);
   // GetPreviousOrder: resumes the ratios, then rebuilds the order from the middle ratios.
-  static Outcome GetPreviousOrder(WizardContext& context, WeightRatioJudgments& judgments,
-                                  Order& order);
+  static Outcome GetPreviousOrder(const AttributeModel& model, DirectResult& result,
+                                  WeightRatioJudgments& judgments, Order& order);
   // The message shown when resumption is not possible ("" for Resumed).
   static std::string message(Outcome outcome);
 };

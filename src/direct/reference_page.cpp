@@ -14,15 +14,15 @@ ReferencePage::ReferencePage(DirectAShared& shared, const OrderingPage& ordering
 
 void ReferencePage::initializePage() {
   const FinalOrder order = m_ordering.order().GetFinalOrder();
-  WizardContext& context = m_shared.context;
-  context.FinalGroupCount = order.FinalGroupCount;
-  context.FinalGroupSize = order.FinalGroupSize;
-  context.FinalAttGroup = order.FinalAttGroup;
+  DirectResult& result = m_shared.result;
+  result.FinalGroupCount = order.FinalGroupCount;
+  result.FinalGroupSize = order.FinalGroupSize;
+  result.FinalAttGroup = order.FinalAttGroup;
   if (!m_shared.resume) {
     m_shared.lblRefAtt.caption.clear();
     m_shared.buttons.cmdNext.enabled = false;
   } else {
-    const int ref = context.RefAtt;
+    const int ref = result.RefAtt;
     if (ref >= 0 && ref < m_ordering.order().numAtt()) chooseReference(ref);
     m_shared.buttons.cmdNext.enabled = true;
   }
@@ -39,7 +39,7 @@ void ReferencePage::cleanupPage() {
 void ReferencePage::chooseReference(int i) {
   if (i < 0 || i >= m_ordering.order().numAtt()) return;
   m_shared.lblRefAtt.caption = AttributeTexts::name(m_shared.context.model, i);
-  m_shared.context.RefAtt = static_cast<std::int16_t>(i);
+  m_shared.result.RefAtt = static_cast<std::int16_t>(i);
   m_indicator = i;
   m_picIndicator.visible = true;
   m_lamps.setIndicatorColor(StatusLamps::kRed);
@@ -48,7 +48,7 @@ void ReferencePage::chooseReference(int i) {
 
 std::vector<int> ReferencePage::finalGroup(int k) const {
   std::vector<int> atts;
-  const auto& groups = m_shared.context.FinalAttGroup;
+  const auto& groups = m_shared.result.FinalAttGroup;
   for (std::size_t i = 0; i < groups.size(); ++i) {
     if (groups[i] == k) atts.push_back(static_cast<int>(i));
   }

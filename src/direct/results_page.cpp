@@ -15,10 +15,10 @@ void ResultsPage::initializePage() {
   b.cmdBack.enabled = true;
   b.cmdFinish.enabled = true;
   b.cmdNext.enabled = false;
-  const WizardContext& context = m_shared.context;
+  const DirectResult& result = m_shared.result;
   const int n = m_ordering.order().numAtt();
   m_grid.SetNTTable(n);
-  m_grid.Fill_gridTN(context.model, context.LowerWeights, context.UpperWeights);
+  m_grid.Fill_gridTN(m_shared.context.model, result.LowerWeights, result.UpperWeights);
   // The bounds cover the model's attributes only, as the grid does.
   const auto count = static_cast<std::size_t>(n);
   const auto firstN = [count](const std::vector<double>& v) {
@@ -26,8 +26,8 @@ void ResultsPage::initializePage() {
                                v.begin() + static_cast<std::ptrdiff_t>(std::min(count, v.size())));
   };
   m_exactBounds =
-      ExactWeightBounds::compute(firstN(context.LowerWeights), firstN(context.UpperWeights),
-                                 context.FinalAttGroup, context.RefAtt);
+      ExactWeightBounds::compute(firstN(result.LowerWeights), firstN(result.UpperWeights),
+                                 result.FinalAttGroup, result.RefAtt);
 }
 
 }  // namespace tnw::direct

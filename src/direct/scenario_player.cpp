@@ -37,7 +37,7 @@ std::vector<std::string> ScenarioPlayer::MessageLog::since(std::size_t from) con
 }
 
 ScenarioPlayer::ScenarioPlayer(WizardContext& context, UiServices& ui, DirectAEvents& events)
-    : m_context(context), m_log(ui), m_presenter(context, m_log, events) {}
+    : m_log(ui), m_presenter(context, m_log, events) {}
 
 void ScenarioPlayer::load() { m_presenter.Form_Load(); }
 
@@ -67,8 +67,8 @@ PlayedScenario ScenarioPlayer::play(const DirectScenario& scenario, ScenarioObse
   played.entryMessages = m_log.since(m_entryFrom);
   m_entryFrom = m_log.texts().size();
   if (played.error) return played;
-  if (m_presenter.resuming() && scenario.reference && *scenario.reference != m_context.RefAtt) {
-    played.keptReference = m_context.RefAtt;
+  if (m_presenter.resuming() && scenario.reference && *scenario.reference != m_presenter.result().RefAtt) {
+    played.keptReference = m_presenter.result().RefAtt;
   }
   for (const ScenarioStep& step : scenario.steps) {
     played.steps.push_back(playStep(step, scenario.entry));
@@ -188,12 +188,12 @@ ScenarioOutcome ScenarioPlayer::outcome() const {
   const auto& judged = m_presenter.judgment().judgments().judgedFlags();
   ScenarioOutcome out;
   out.step = m_presenter.WizardStep();
-  out.finalGroupCount = m_context.FinalGroupCount;
-  out.finalAttGroup = m_context.FinalAttGroup;
-  out.refAtt = m_context.RefAtt;
-  out.lower = m_context.LowerWeights;
-  out.middle = m_context.CloseWeights;
-  out.upper = m_context.UpperWeights;
+  out.finalGroupCount = m_presenter.result().FinalGroupCount;
+  out.finalAttGroup = m_presenter.result().FinalAttGroup;
+  out.refAtt = m_presenter.result().RefAtt;
+  out.lower = m_presenter.result().LowerWeights;
+  out.middle = m_presenter.result().CloseWeights;
+  out.upper = m_presenter.result().UpperWeights;
   out.judged.assign(judged.begin(), judged.end());
   out.complete = m_presenter.judgment().judgments().isComplete();
   if (out.step == 3) {

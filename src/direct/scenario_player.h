@@ -130,7 +130,6 @@ class ScenarioPlayer {
   PlayedStep playStep(const ScenarioStep& step, TextEntry entry);
   void end(ScenarioEnd how, ScenarioObserver& observer);
 
-  WizardContext& m_context;
   MessageLog m_log;
   DirectAPresenter m_presenter;
   // The first message of the next play's entry messages.

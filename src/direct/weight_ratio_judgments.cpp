@@ -10,22 +10,25 @@ constexpr double kLessImportant = 0.8;
 constexpr double kMoreImportant = 1.2;
 }  // namespace
 
-WeightRatioJudgments::WeightRatioJudgments(WizardContext& context) : m_context(context) { reset(); }
+WeightRatioJudgments::WeightRatioJudgments(const AttributeModel& model, DirectResult& result)
+    : m_model(model), m_result(result) {
+  reset();
+}
 
 void WeightRatioJudgments::reset() {
-  m_count = m_context.model.attributeCount();
+  m_count = m_model.attributeCount();
   const auto n = static_cast<std::size_t>(m_count);
-  m_context.LowerWeights.resize(n, 0.0);
-  m_context.CloseWeights.resize(n, 0.0);
-  m_context.UpperWeights.resize(n, 0.0);
+  m_result.LowerWeights.resize(n, 0.0);
+  m_result.CloseWeights.resize(n, 0.0);
+  m_result.UpperWeights.resize(n, 0.0);
   m_judged.assign(n, false);
   m_hasHandles.assign(n, false);
   m_handles.assign(n, RegionHandles{});
 }
 
 int WeightRatioJudgments::group(int i) const {
-  if (!valid(i) || static_cast<std::size_t>(i) >= m_context.FinalAttGroup.size()) return 0;
-  return m_context.FinalAttGroup[static_cast<std::size_t>(i)];
+  if (!valid(i) || static_cast<std::size_t>(i) >= m_result.FinalAttGroup.size()) return 0;
+  return m_result.FinalAttGroup[static_cast<std::size_t>(i)];
 }
 
 bool WeightRatioJudgments::judged(int i) const {
@@ -48,15 +51,15 @@ const RegionHandles* WeightRatioJudgments::handles(int i) const {
 }
 
 double WeightRatioJudgments::lower(int i) const {
-  return valid(i) ? m_context.LowerWeights[static_cast<std::size_t>(i)] : 0.0;
+  return valid(i) ? m_result.LowerWeights[static_cast<std::size_t>(i)] : 0.0;
 }
 
 double WeightRatioJudgments::middle(int i) const {
-  return valid(i) ? m_context.CloseWeights[static_cast<std::size_t>(i)] : 0.0;
+  return valid(i) ? m_result.CloseWeights[static_cast<std::size_t>(i)] : 0.0;
 }
 
 double WeightRatioJudgments::upper(int i) const {
-  return valid(i) ? m_context.UpperWeights[static_cast<std::size_t>(i)] : 0.0;
+  return valid(i) ? m_result.UpperWeights[static_cast<std::size_t>(i)] : 0.0;
 }
 
 int WeightRatioJudgments::judgedCount() const {
@@ -67,13 +70,13 @@ bool WeightRatioJudgments::isComplete() const { return judgedCount() == m_count;
 
 void WeightRatioJudgments::setInterval(int i, double lower, double middle, double upper) {
   const auto u = static_cast<std::size_t>(i);
-  m_context.LowerWeights[u] = lower;
-  m_context.CloseWeights[u] = middle;
-  m_context.UpperWeights[u] = upper;
+  m_result.LowerWeights[u] = lower;
+  m_result.CloseWeights[u] = middle;
+  m_result.UpperWeights[u] = upper;
 }
 
 void WeightRatioJudgments::CalcIniWeightRatios() {
-  const int refGroup = group(m_context.RefAtt);
+  const int refGroup = group(m_result.RefAtt);
   for (int i = 0; i < m_count; ++i) {
     const int g = group(i);
     if (g > refGroup) {
@@ -107,7 +110,7 @@ std::vector<int> WeightRatioJudgments::RecordWeightRatios(int t, double lower, d
   m_handles[ut] = handles;
   m_hasHandles[ut] = true;
   for (int k = 0; k < m_count; ++k) {
-    if (k == t || k == m_context.RefAtt || group(k) != group(t)) continue;
+    if (k == t || k == m_result.RefAtt || group(k) != group(t)) continue;
     const auto uk = static_cast<std::size_t>(k);
     setInterval(k, this->lower(t), middle(t), this->upper(t));
     m_handles[uk] = handles;
@@ -128,9 +131,9 @@ void WeightRatioJudgments::propagateUp(int t) {
       // Intervals beyond an attribute the decision maker has settled are left alone.
       if (judged(k)) return;
       const auto u = static_cast<std::size_t>(k);
-      double& lo = m_context.LowerWeights[u];
-      double& mid = m_context.CloseWeights[u];
-      double& hi = m_context.UpperWeights[u];
+      double& lo = m_result.LowerWeights[u];
+      double& mid = m_result.CloseWeights[u];
+      double& hi = m_result.UpperWeights[u];
       if (limit > lo) lo = limit;
       if (lo <= hi) {
         if (lo > mid) mid = (hi + lo) / 2.0;
@@ -144,14 +147,14 @@ void WeightRatioJudgments::propagateUp(int t) {
 
 void WeightRatioJudgments::propagateDown(int t) {
   const double limit = lower(t);
-  for (int g = group(t) + 1; g <= m_context.FinalGroupCount; ++g) {
+  for (int g = group(t) + 1; g <= m_result.FinalGroupCount; ++g) {
     for (int k = 0; k < m_count; ++k) {
       if (group(k) != g) continue;
       if (judged(k)) return;
       const auto u = static_cast<std::size_t>(k);
-      double& lo = m_context.LowerWeights[u];
-      double& mid = m_context.CloseWeights[u];
-      double& hi = m_context.UpperWeights[u];
+      double& lo = m_result.LowerWeights[u];
+      double& mid = m_result.CloseWeights[u];
+      double& hi = m_result.UpperWeights[u];
       if (limit < hi) hi = limit;
       if (hi >= lo) {
         if (mid > hi) mid = (hi + lo) / 2.0;

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "component/wizard_context.h"
+#include "direct/direct_result.h"
 #include "direct/region_handles.h"
+#include "model/attribute_model.h"
 
 // Std
 #include <vector>
@@ -10,12 +11,12 @@ namespace tnw::direct {
 
 // The judgment tables of the direct method: for every attribute the interval of the ratio of
 // its weight to the reference attribute's (LowerWeights, CloseWeights, UpperWeights of the
-// shared context), whether it is judged, and the region handles it was judged with. Works on
-// the final order and RefAtt of the context.
+// method's result), whether it is judged, and the region handles it was judged with. Works on
+// the final order and RefAtt of the result.
 class WeightRatioJudgments {
  public:
-  // Judgments over the context's tables, sized for its model's attributes (clamped to 0..31).
-  explicit WeightRatioJudgments(WizardContext& context);
+  // Judgments over the result's tables, sized for the model's attributes (clamped to 0..31).
+  WeightRatioJudgments(const AttributeModel& model, DirectResult& result);
 
   // Number of attributes judged over.
   int count() const { return m_count; }
@@ -33,9 +34,9 @@ class WeightRatioJudgments {
                                       const RegionHandles& handles);
 
   // Number of groups of the final order.
-  int groupCount() const { return m_context.FinalGroupCount; }
+  int groupCount() const { return m_result.FinalGroupCount; }
   // The reference attribute.
-  int refAtt() const { return m_context.RefAtt; }
+  int refAtt() const { return m_result.RefAtt; }
   // Group of attribute i in the final order (0 when unknown).
   int group(int i) const;
   // Whether attribute i is judged.
@@ -63,7 +64,8 @@ class WeightRatioJudgments {
   void propagateUp(int t);
   void propagateDown(int t);
 
-  WizardContext& m_context;
+  const AttributeModel& m_model;
+  DirectResult& m_result;
   int m_count = 0;
   std::vector<bool> m_judged;
   std::vector<bool> m_hasHandles;

@@ -109,7 +109,7 @@ void DirectADialogEntryTest::theMnemonicChecksALowerBoundAboveTheUpper() {
   typeInto(lowerBox(), QStringLiteral("5"));
   pressEnterByMnemonic();
   QVERIFY(!targetJudged());
-  QCOMPARE(m_context.LowerWeights[0], 1.2);
+  QCOMPARE(m_dialog->presenter().result().LowerWeights[0], 1.2);
   QCOMPARE(m_ui.messages().size(), std::size_t{1});
   QCOMPARE(m_ui.messages()[0].text,
            "The weight ratio you entered should be greater than zero and less than or equal to "
@@ -145,8 +145,8 @@ void DirectADialogEntryTest::theMnemonicRecordsAValidInterval() {
   typeInto(lowerBox(), QStringLiteral("1.1"));
   pressEnterByMnemonic();
   QVERIFY(targetJudged());
-  QCOMPARE(m_context.LowerWeights[0], 1.1);
-  QCOMPARE(m_context.UpperWeights[0], 1.2);
+  QCOMPARE(m_dialog->presenter().result().LowerWeights[0], 1.1);
+  QCOMPARE(m_dialog->presenter().result().UpperWeights[0], 1.2);
   QVERIFY(m_ui.messages().empty());
 }
 
@@ -168,7 +168,7 @@ void DirectADialogEntryTest::spaceOnTheButtonChecksFirst() {
   enterButton()->setFocus(Qt::TabFocusReason);
   QTest::keyClick(enterButton(), Qt::Key_Space);
   QVERIFY(!targetJudged());
-  QCOMPARE(m_context.LowerWeights[0], 1.2);
+  QCOMPARE(m_dialog->presenter().result().LowerWeights[0], 1.2);
 }
 
 void DirectADialogEntryTest::enterIsNotLeftPressedAfterAFailedCheck() {

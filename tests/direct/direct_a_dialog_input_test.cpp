@@ -398,8 +398,8 @@ void DirectADialogInputTest::resumesFromTheSampleWithAnEarlierResult() {
   QCOMPARE(m_events.exports.back().refAtt, std::int16_t{2});
   QCOMPARE(m_events.unloads.back().fIndex, std::int16_t{3});
   // The earlier intervals against the reference: 0.22 / 0.20 low, 0.30 / 0.26 high.
-  QCOMPARE(m_context.LowerWeights[0], 0.22 / 0.2);
-  QCOMPARE(m_context.UpperWeights[0], 0.3 / 0.26);
+  QCOMPARE(m_dialog->presenter().result().LowerWeights[0], 0.22 / 0.2);
+  QCOMPARE(m_dialog->presenter().result().UpperWeights[0], 0.3 / 0.26);
 }
 
 void DirectADialogInputTest::aZeroEarlierReferenceWeightIsToldAndNothingIsResumedOrExported() {

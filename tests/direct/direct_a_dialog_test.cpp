@@ -161,7 +161,7 @@ void DirectADialogTest::fullDirectMethodThroughTheWidgets() {
   QTest::mouseClick(button("cmdNext"), Qt::LeftButton);
   QCOMPARE(m_dialog->windowTitle(),
            QStringLiteral("Tarnel Wizard: Select reference attributes for pairwise comparisons"));
-  QCOMPARE(m_context.FinalGroupCount, 3);
+  QCOMPARE(m_dialog->presenter().result().FinalGroupCount, 3);
   QVERIFY(!button("cmdNext")->isEnabled());
   auto* ref = control<AttributeButtonWidget>(m_dialog.get(), "cmdAttButtons", 2);
   QVERIFY(ref->isVisible());
@@ -354,7 +354,7 @@ void DirectADialogTest::backFromTheReferenceKeepsTheOrderAndNextReordersAgain() 
   // Attribute 2 joins attribute 0; the reference step shows two groups of the new order.
   QVERIFY(test::dragAndDrop(test::orderBox(m_dialog.get(), 1), QStringLiteral("B2")));
   QTest::mouseClick(button("cmdNext"), Qt::LeftButton);
-  QCOMPARE(m_context.FinalAttGroup, (std::vector<std::int16_t>{1, 2, 1}));
+  QCOMPARE(m_dialog->presenter().result().FinalAttGroup, (std::vector<std::int16_t>{1, 2, 1}));
   auto* b2 = control<AttributeButtonWidget>(m_dialog.get(), "cmdAttButtons", 2);
   auto* b0 = control<AttributeButtonWidget>(m_dialog.get(), "cmdAttButtons", 0);
   QCOMPARE(b2->parentWidget(), b0->parentWidget());

@@ -159,8 +159,8 @@ TEST_F(JudgmentFlowTest, RecordingTiesAndCompletionEnableNextAndFinish) {
   judge(3, "0.5", "0.5");
   EXPECT_TRUE(p.cmdNext().enabled);
   EXPECT_TRUE(p.cmdFinish().enabled);
-  EXPECT_EQ(context.LowerWeights, (std::vector<double>{1.5, 1, 1, 0.5}));
-  EXPECT_EQ(context.CloseWeights, (std::vector<double>{1.75, 1, 1, 0.5}));
+  EXPECT_EQ(p.result().LowerWeights, (std::vector<double>{1.5, 1, 1, 0.5}));
+  EXPECT_EQ(p.result().CloseWeights, (std::vector<double>{1.75, 1, 1, 0.5}));
 }
 
 TEST_F(JudgmentFlowTest, RestartClearsTheJudgmentsAndDisablesNextAndFinish) {
@@ -174,7 +174,7 @@ TEST_F(JudgmentFlowTest, RestartClearsTheJudgmentsAndDisablesNextAndFinish) {
   EXPECT_FALSE(p.cmdReStart().enabled);
   EXPECT_FALSE(p.cmdNext().enabled);
   EXPECT_FALSE(p.cmdFinish().enabled);
-  EXPECT_EQ(context.LowerWeights[0], 1.2);
+  EXPECT_EQ(p.result().LowerWeights[0], 1.2);
   EXPECT_EQ(p.judgment().targets().items()[0].text, "Att1");
 }
 
@@ -231,8 +231,8 @@ TEST_F(DirectAPresenterTest, LowerOneOneUpperTwoTwoExportAQuarterOneAndFiveEight
   judge(0, "2", "2");
   p.cmdNext_Click();
   ASSERT_EQ(p.WizardStep(), 3);
-  context.LowerWeights = {1, 1};
-  context.UpperWeights = {2, 2};
+  p.mutableResult().LowerWeights = {1, 1};
+  p.mutableResult().UpperWeights = {2, 2};
   p.cmdFinish_Click();
   ASSERT_EQ(events.exports.size(), 1u);
   EXPECT_EQ(events.exports[0].weightsL, (std::vector<double>{0.25, 0.25}));
@@ -246,7 +246,7 @@ TEST_F(JudgmentFlowTest, AZeroSumInTheExportIsReportedAndNothingIsExported) {
   judge(0, "2", "2");
   judge(3, "0.5", "1");
   p.cmdNext_Click();
-  context.LowerWeights = {1, -1, 0, 0};
+  p.mutableResult().LowerWeights = {1, -1, 0, 0};
   p.cmdFinish_Click();
   ASSERT_EQ(ui.messages().size(), 1u);
   EXPECT_EQ(ui.messages()[0].title, "NORIX");

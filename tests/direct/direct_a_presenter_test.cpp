@@ -55,7 +55,7 @@ TEST_F(DirectAPresenterTest, StepOneWaitsForAReferenceAndStartsTheTimer) {
   EXPECT_EQ(p.finalGroup(2), (std::vector<int>{1, 2}));
   p.cmdAttButtons_Click(1);
   EXPECT_EQ(p.lblRefAtt().caption, "Att2");
-  EXPECT_EQ(context.RefAtt, 1);
+  EXPECT_EQ(p.result().RefAtt, 1);
   EXPECT_EQ(p.indicatorAttribute(), 1);
   EXPECT_TRUE(p.cmdNext().enabled);
   p.Timer1_Timer();
@@ -68,7 +68,7 @@ TEST_F(DirectAPresenterTest, BackFromStepOneKeepsTheOrderAndNextRecomputesTheFin
   place(1, 2);
   place(2, 2);
   p.cmdNext_Click();
-  EXPECT_EQ(context.FinalAttGroup, (std::vector<std::int16_t>{1, 2, 2}));
+  EXPECT_EQ(p.result().FinalAttGroup, (std::vector<std::int16_t>{1, 2, 2}));
   p.cmdBack_Click();
   EXPECT_EQ(p.WizardStep(), 0);
   EXPECT_EQ(p.caption(), DirectAPresenter::kCaptions[0]);
@@ -77,7 +77,7 @@ TEST_F(DirectAPresenterTest, BackFromStepOneKeepsTheOrderAndNextRecomputesTheFin
   EXPECT_EQ(p.ordering().order().AttGroup(2), 2);
   p.picOrder_DragDrop(1, "B2");
   p.cmdNext_Click();
-  EXPECT_EQ(context.FinalAttGroup, (std::vector<std::int16_t>{1, 2, 1}));
+  EXPECT_EQ(p.result().FinalAttGroup, (std::vector<std::int16_t>{1, 2, 1}));
 }
 
 TEST_F(DirectAPresenterTest, BackOnStepZeroReturnsToMethodSelection) {

@@ -50,8 +50,8 @@ TEST_F(ResumeFlowTest, NextReselectsTheEarlierReferenceAndTheJudgmentsAreComplet
   EXPECT_EQ(p.judgment().targets().items()[0].text, " \xC2\xA4 Att1");
   EXPECT_EQ(p.judgment().targets().items()[1].text, "Att2");
   EXPECT_NE(p.judgment().judgments().handles(3), nullptr);
-  EXPECT_DOUBLE_EQ(context.LowerWeights[0], 1.5);
-  EXPECT_DOUBLE_EQ(context.UpperWeights[3], 0.5);
+  EXPECT_DOUBLE_EQ(p.result().LowerWeights[0], 1.5);
+  EXPECT_DOUBLE_EQ(p.result().UpperWeights[3], 0.5);
 }
 
 TEST_F(ResumeFlowTest, AResumedRunCanFinishAtOnce) {
@@ -80,12 +80,12 @@ TEST_F(ResumeFlowTest, AResumedTargetShowsItsRecordedInterval) {
 TEST_F(ResumeFlowTest, WithoutAStoredReferenceTheIntendedRuleChoosesIt) {
   storeEarlier({0.32, 0.2, 0.24, 0.1, 0.14}, std::nullopt, "MAVT_TRADEOFFS");
   DirectAPresenter& p = load();
-  EXPECT_EQ(context.RefAtt, 4);
+  EXPECT_EQ(p.result().RefAtt, 4);
   p.cmdNext_Click();
   EXPECT_EQ(p.lblRefAtt().caption, "Att5");
   p.cmdNext_Click();
-  EXPECT_NEAR(context.CloseWeights[0], 2.2857, 5e-5);
-  EXPECT_NEAR(context.CloseWeights[3], 0.7143, 5e-5);
+  EXPECT_NEAR(p.result().CloseWeights[0], 2.2857, 5e-5);
+  EXPECT_NEAR(p.result().CloseWeights[3], 0.7143, 5e-5);
 }
 
 TEST_F(ResumeFlowTest, AZeroEarlierWeightOfTheReferenceIsReportedAndTheOrderStartsEmpty) {
@@ -105,7 +105,7 @@ TEST_F(ResumeFlowTest, AZeroEarlierWeightOfTheReferenceIsReportedAndTheOrderStar
   p.cmdNext_Click();
   p.cmdAttButtons_Click(1);
   p.cmdNext_Click();
-  EXPECT_EQ(context.LowerWeights, (std::vector<double>{1.2, 1, 1}));
+  EXPECT_EQ(p.result().LowerWeights, (std::vector<double>{1.2, 1, 1}));
   EXPECT_FALSE(p.cmdFinish().enabled);
 }
 

@@ -42,7 +42,7 @@ TEST_F(SampleScenarioTest, TheBuiltInSampleRunsFromAnEmptyOrderToFinish) {
   judge(1, "0.6", "0.8");
   EXPECT_TRUE(p.judgment().judgments().judged(5));
   EXPECT_EQ(p.judgment().targets().items()[5].text, " \xC2\xA4 Running costs");
-  EXPECT_DOUBLE_EQ(context.UpperWeights[3], 0.6);
+  EXPECT_DOUBLE_EQ(p.result().UpperWeights[3], 0.6);
   judge(3, "0.3", "0.5");
   EXPECT_TRUE(ui.messages().empty());
   ASSERT_TRUE(p.cmdNext().enabled);
@@ -73,14 +73,14 @@ TEST_F(SampleScenarioTest, TheSampleWithAnEarlierResultResumesAndFinishesWithACh
   EXPECT_EQ(p.lblRefAtt().caption, "Safety rating");
   p.cmdNext_Click();
   EXPECT_TRUE(p.cmdFinish().enabled);
-  EXPECT_NEAR(context.CloseWeights[0], 0.26 / 0.23, 1e-12);
+  EXPECT_NEAR(p.result().CloseWeights[0], 0.26 / 0.23, 1e-12);
   p.imgcmbTargetAtt_Click(1);
   EXPECT_EQ(p.judgment().box(Box::Lower).text, "0.40");
   EXPECT_EQ(p.judgment().box(Box::Upper).text, "0.46");
   EXPECT_EQ(p.lamps().state(), JudgmentState::Consistent);
   judge(1, "0.35", "0.45");
   EXPECT_TRUE(ui.messages().empty());
-  EXPECT_DOUBLE_EQ(context.LowerWeights[1], 0.35);
+  EXPECT_DOUBLE_EQ(p.result().LowerWeights[1], 0.35);
   p.cmdFinish_Click();
   ASSERT_EQ(events.exports.size(), 1u);
   for (double w : events.exports[0].weights) EXPECT_TRUE(std::isfinite(w));

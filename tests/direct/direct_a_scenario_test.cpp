@@ -22,7 +22,7 @@ TEST_F(ScenarioTest, TheWholeMethodRunsFromAnEmptyOrderToFinishAtThirtyOneAttrib
   EXPECT_TRUE(p.cmdAdd().enabled);
   ASSERT_TRUE(p.cmdNext().enabled);
   p.cmdNext_Click();
-  EXPECT_EQ(context.FinalGroupCount, 10);
+  EXPECT_EQ(p.result().FinalGroupCount, 10);
   p.cmdAttButtons_Click(0);
   p.cmdNext_Click();
   for (int j = 1; j < 31; ++j) {
@@ -49,8 +49,8 @@ TEST_F(ScenarioTest, TheWholeMethodRunsFromAnEmptyOrderToFinishAtThirtyOneAttrib
     EXPECT_LE(e.weights[i], e.weightsH[i]);
   }
   // Group 2's interval [0.82, 0.86] against the reference's 1.
-  EXPECT_DOUBLE_EQ(context.LowerWeights[1], 0.82);
-  EXPECT_DOUBLE_EQ(context.UpperWeights[1], 0.86);
+  EXPECT_DOUBLE_EQ(p.result().LowerWeights[1], 0.82);
+  EXPECT_DOUBLE_EQ(p.result().UpperWeights[1], 0.86);
   EXPECT_EQ(e.refAtt, 0);
 }
 

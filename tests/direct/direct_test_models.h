@@ -1,6 +1,7 @@
 #pragma once
 
 #include "component/wizard_context.h"
+#include "direct/direct_result.h"
 
 // Std
 #include <string>
@@ -28,16 +29,17 @@ inline WizardContext makeContext(const std::vector<bool>& costOriented) {
 // A context of n benefit-oriented attributes.
 inline WizardContext makeContext(int n) { return makeContext(std::vector<bool>(n, false)); }
 
-// Sets the final order of the context: group per attribute, FinalGroupCount the largest group.
-inline void setOrder(WizardContext& context, const std::vector<std::int16_t>& groups) {
-  context.FinalAttGroup = groups;
+// Sets the final order of a direct result: group per attribute, FinalGroupCount the largest
+// group.
+inline void setOrder(direct::DirectResult& result, const std::vector<std::int16_t>& groups) {
+  result.FinalAttGroup = groups;
   std::int16_t count = 0;
-  context.FinalGroupSize.assign(groups.size() + 1, 0);
+  result.FinalGroupSize.assign(groups.size() + 1, 0);
   for (auto g : groups) {
     if (g > count) count = g;
-    if (g > 0) ++context.FinalGroupSize[static_cast<std::size_t>(g)];
+    if (g > 0) ++result.FinalGroupSize[static_cast<std::size_t>(g)];
   }
-  context.FinalGroupCount = count;
+  result.FinalGroupCount = count;
 }
 
 }  // namespace tnw::test

@@ -16,12 +16,13 @@ using Bound = JudgmentDiagnosis::Bound;
 // 1000 with handles of 10.
 class JudgmentDiagnosisTest : public ::testing::Test {
  protected:
-  JudgmentDiagnosisTest() : context(test::makeContext(5)), judgments((setUp(), context)) {
+  JudgmentDiagnosisTest()
+      : context(test::makeContext(5)), judgments((setUp(), context.model), result) {
     judgments.CalcIniWeightRatios();
   }
   void setUp() {
-    test::setOrder(context, {1, 2, 3, 4, 3});
-    context.RefAtt = 1;
+    test::setOrder(result, {1, 2, 3, 4, 3});
+    result.RefAtt = 1;
   }
   RegionHandles handlesFor(double lower, double upper) const {
     return {cone.handleForRatio(lower), cone.handleForRatio(upper)};
@@ -38,6 +39,7 @@ class JudgmentDiagnosisTest : public ::testing::Test {
   }
 
   WizardContext context;
+  DirectResult result;
   WeightRatioJudgments judgments;
   PreferenceCone cone{1000.0F, 10.0F};
 };

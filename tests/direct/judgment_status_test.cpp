@@ -15,16 +15,18 @@ namespace {
 
 class JudgmentStatusTest : public ::testing::Test {
  protected:
-  JudgmentStatusTest() : context(test::makeContext(5)), judgments((setUp(), context)) {}
+  JudgmentStatusTest()
+      : context(test::makeContext(5)), judgments((setUp(), context.model), result) {}
   void setUp() {
-    test::setOrder(context, {1, 2, 3, 4, 3});
-    context.RefAtt = 1;
+    test::setOrder(result, {1, 2, 3, 4, 3});
+    result.RefAtt = 1;
   }
   RegionHandles handlesFor(double lower, double upper) const {
     return {cone.handleForRatio(lower), cone.handleForRatio(upper)};
   }
 
   WizardContext context;
+  DirectResult result;
   WeightRatioJudgments judgments;
   PreferenceCone cone{1000.0F, 10.0F};
 };

@@ -28,10 +28,11 @@ class ReferencePageTest : public ::testing::Test {
   }
 
   WizardContext context;
+  DirectResult result;
   RecordingUiServices ui;
   test::RecordingDirectAEvents events;
   wizard::WizardButtons buttons;
-  DirectAShared shared{context, ui, events, buttons};
+  DirectAShared shared{context, result, ui, events, buttons};
   StatusLamps lamps;
   OrderingPage ordering{shared, 3};
   ReferencePage page{shared, ordering, lamps};
@@ -40,7 +41,7 @@ class ReferencePageTest : public ::testing::Test {
 TEST_F(ReferencePageTest, EnteringTakesTheFinalOrderAndWaitsForAChoice) {
   ASSERT_TRUE(buttons.cmdNext.enabled);  // every attribute placed
   page.initializePage();
-  EXPECT_EQ(context.FinalGroupCount, 2);
+  EXPECT_EQ(result.FinalGroupCount, 2);
   EXPECT_EQ(page.finalGroup(1), (std::vector<int>{0}));
   EXPECT_EQ(page.finalGroup(2), (std::vector<int>{1, 2}));
   EXPECT_FALSE(buttons.cmdNext.enabled);
@@ -55,7 +56,7 @@ TEST_F(ReferencePageTest, AChoiceShowsItsNameAndTheIndicatorAndCompletesThePage)
   page.initializePage();
   page.chooseReference(2);
   EXPECT_EQ(shared.lblRefAtt.caption, "Att3");
-  EXPECT_EQ(context.RefAtt, 2);
+  EXPECT_EQ(result.RefAtt, 2);
   EXPECT_EQ(page.indicatorAttribute(), 2);
   EXPECT_TRUE(page.picIndicator().visible);
   EXPECT_EQ(lamps.indicatorColor(), StatusLamps::kRed);
@@ -83,7 +84,7 @@ TEST_F(ReferencePageTest, LeavingByBackForgetsTheChoiceAndStopsTheTimer) {
 
 TEST_F(ReferencePageTest, AResumedResultChoosesItsEarlierReferenceAgain) {
   shared.resume = true;
-  context.RefAtt = 1;
+  result.RefAtt = 1;
   page.initializePage();
   EXPECT_EQ(page.indicatorAttribute(), 1);
   EXPECT_EQ(shared.lblRefAtt.caption, "Att2");

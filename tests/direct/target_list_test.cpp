@@ -10,12 +10,13 @@ namespace {
 
 TEST(TargetListTest, ItemsCarryKeysAndImagesByOrientationAndRole) {
   WizardContext context = test::makeContext(std::vector<bool>{false, true, false, true});
-  test::setOrder(context, {1, 2, 2, 3});
-  context.RefAtt = 1;
-  WeightRatioJudgments j(context);
+  DirectResult result;
+  test::setOrder(result, {1, 2, 2, 3});
+  result.RefAtt = 1;
+  WeightRatioJudgments j(context.model, result);
   j.CalcIniWeightRatios();
   TargetList list;
-  list.ListAtt(context.model, j, context.RefAtt);
+  list.ListAtt(context.model, j, result.RefAtt);
   ASSERT_EQ(list.items().size(), 4u);
   EXPECT_EQ(list.items()[0].key, "Benefit1");
   EXPECT_EQ(list.items()[1].key, "Cost1");
@@ -38,9 +39,10 @@ TEST(TargetListTest, ItemsCarryKeysAndImagesByOrientationAndRole) {
 
 TEST(TargetListTest, TheReferenceOfABenefitAttributeShowsSmiling2) {
   WizardContext context = test::makeContext(2);
-  test::setOrder(context, {1, 2});
-  context.RefAtt = 0;
-  WeightRatioJudgments j(context);
+  DirectResult result;
+  test::setOrder(result, {1, 2});
+  result.RefAtt = 0;
+  WeightRatioJudgments j(context.model, result);
   j.CalcIniWeightRatios();
   TargetList list;
   list.ListAtt(context.model, j, 0);
@@ -51,9 +53,10 @@ TEST(TargetListTest, TheReferenceOfABenefitAttributeShowsSmiling2) {
 
 TEST(TargetListTest, ChoosingTheReferenceIsRefusedAndKeepsTheTarget) {
   WizardContext context = test::makeContext(3);
-  test::setOrder(context, {1, 2, 1});
-  context.RefAtt = 0;
-  WeightRatioJudgments j(context);
+  DirectResult result;
+  test::setOrder(result, {1, 2, 1});
+  result.RefAtt = 0;
+  WeightRatioJudgments j(context.model, result);
   j.CalcIniWeightRatios();
   TargetList list;
   list.ListAtt(context.model, j, 0);
@@ -66,9 +69,10 @@ TEST(TargetListTest, ChoosingTheReferenceIsRefusedAndKeepsTheTarget) {
 
 TEST(TargetListTest, ChoosingATiedAttributeIsRefusedAndTheSelectionReturns) {
   WizardContext context = test::makeContext(3);
-  test::setOrder(context, {1, 2, 1});
-  context.RefAtt = 0;
-  WeightRatioJudgments j(context);
+  DirectResult result;
+  test::setOrder(result, {1, 2, 1});
+  result.RefAtt = 0;
+  WeightRatioJudgments j(context.model, result);
   j.CalcIniWeightRatios();
   TargetList list;
   list.ListAtt(context.model, j, 0);
@@ -80,8 +84,9 @@ TEST(TargetListTest, ChoosingATiedAttributeIsRefusedAndTheSelectionReturns) {
 
 TEST(TargetListTest, NoTargetWhenEveryAttributeIsTiedWithTheReference) {
   WizardContext context = test::makeContext(2);
-  test::setOrder(context, {1, 1});
-  WeightRatioJudgments j(context);
+  DirectResult result;
+  test::setOrder(result, {1, 1});
+  WeightRatioJudgments j(context.model, result);
   j.CalcIniWeightRatios();
   TargetList list;
   list.ListAtt(context.model, j, 0);

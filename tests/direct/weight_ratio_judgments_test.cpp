@@ -10,21 +10,23 @@ namespace {
 
 TEST(WeightRatioJudgmentsTest, InitialIntervalsFollowTheOrder) {
   WizardContext context = test::makeContext(5);
-  test::setOrder(context, {1, 2, 2, 3, 1});
-  context.RefAtt = 1;
-  WeightRatioJudgments j(context);
+  DirectResult result;
+  test::setOrder(result, {1, 2, 2, 3, 1});
+  result.RefAtt = 1;
+  WeightRatioJudgments j(context.model, result);
   j.CalcIniWeightRatios();
-  EXPECT_EQ(context.LowerWeights, (std::vector<double>{1.2, 1, 1, 0.8, 1.2}));
-  EXPECT_EQ(context.CloseWeights, (std::vector<double>{1.2, 1, 1, 0.8, 1.2}));
-  EXPECT_EQ(context.UpperWeights, (std::vector<double>{1.2, 1, 1, 0.8, 1.2}));
+  EXPECT_EQ(result.LowerWeights, (std::vector<double>{1.2, 1, 1, 0.8, 1.2}));
+  EXPECT_EQ(result.CloseWeights, (std::vector<double>{1.2, 1, 1, 0.8, 1.2}));
+  EXPECT_EQ(result.UpperWeights, (std::vector<double>{1.2, 1, 1, 0.8, 1.2}));
   EXPECT_EQ(j.judgedFlags(), (std::vector<bool>{false, true, true, false, false}));
   EXPECT_FALSE(j.isComplete());
 }
 
 TEST(WeightRatioJudgmentsTest, DifferentBoundsGiveTheMiddleAsMiddleRatio) {
   WizardContext context = test::makeContext(2);
-  test::setOrder(context, {1, 2});
-  WeightRatioJudgments j(context);
+  DirectResult result;
+  test::setOrder(result, {1, 2});
+  WeightRatioJudgments j(context.model, result);
   j.CalcIniWeightRatios();
   j.RecordWeightRatios(1, 0.5, 0.7, {});
   EXPECT_DOUBLE_EQ(j.lower(1), 0.5);
@@ -35,8 +37,9 @@ TEST(WeightRatioJudgmentsTest, DifferentBoundsGiveTheMiddleAsMiddleRatio) {
 
 TEST(WeightRatioJudgmentsTest, LowerEqualToUpperRecordsAPointInterval) {
   WizardContext context = test::makeContext(2);
-  test::setOrder(context, {1, 2});
-  WeightRatioJudgments j(context);
+  DirectResult result;
+  test::setOrder(result, {1, 2});
+  WeightRatioJudgments j(context.model, result);
   j.CalcIniWeightRatios();
   j.RecordWeightRatios(1, 0.4, 0.4, {});
   EXPECT_EQ(j.lower(1), 0.4);
@@ -47,9 +50,10 @@ TEST(WeightRatioJudgmentsTest, LowerEqualToUpperRecordsAPointInterval) {
 
 TEST(WeightRatioJudgmentsTest, ThreeGroupsTiesTakeTheIntervalAndUpwardStopsAtTheReferenceGroup) {
   WizardContext context = test::makeContext(6);
-  test::setOrder(context, {1, 2, 3, 3, 2, 3});
-  context.RefAtt = 1;
-  WeightRatioJudgments j(context);
+  DirectResult result;
+  test::setOrder(result, {1, 2, 3, 3, 2, 3});
+  result.RefAtt = 1;
+  WeightRatioJudgments j(context.model, result);
   j.CalcIniWeightRatios();
   const RegionHandles h{{10, 20}, {30, 40}};
   const std::vector<int> ties = j.RecordWeightRatios(2, 0.5, 0.7, h);
@@ -70,9 +74,10 @@ TEST(WeightRatioJudgmentsTest, ThreeGroupsTiesTakeTheIntervalAndUpwardStopsAtThe
 
 TEST(WeightRatioJudgmentsTest, FourGroupsDownwardPropagationCollapsesLessImportantIntervals) {
   WizardContext context = test::makeContext(6);
-  test::setOrder(context, {1, 2, 3, 4, 3, 2});
-  context.RefAtt = 0;
-  WeightRatioJudgments j(context);
+  DirectResult result;
+  test::setOrder(result, {1, 2, 3, 4, 3, 2});
+  result.RefAtt = 0;
+  WeightRatioJudgments j(context.model, result);
   j.CalcIniWeightRatios();
   j.RecordWeightRatios(1, 0.5, 0.7, {});
   for (int k : {2, 3, 4}) {
@@ -87,9 +92,10 @@ TEST(WeightRatioJudgmentsTest, FourGroupsDownwardPropagationCollapsesLessImporta
 
 TEST(WeightRatioJudgmentsTest, FourGroupsDownwardPropagationStopsAtTheFirstJudgedAttribute) {
   WizardContext context = test::makeContext(5);
-  test::setOrder(context, {1, 2, 3, 4, 3});
-  context.RefAtt = 0;
-  WeightRatioJudgments j(context);
+  DirectResult result;
+  test::setOrder(result, {1, 2, 3, 4, 3});
+  result.RefAtt = 0;
+  WeightRatioJudgments j(context.model, result);
   j.CalcIniWeightRatios();
   j.RecordWeightRatios(2, 0.6, 0.7, {});  // group 3 with its tie 4
   EXPECT_DOUBLE_EQ(j.upper(3), 0.6);      // group 4 pushed below 0.6
@@ -102,9 +108,10 @@ TEST(WeightRatioJudgmentsTest, FourGroupsDownwardPropagationStopsAtTheFirstJudge
 
 TEST(WeightRatioJudgmentsTest, UpwardPropagationPushesMoreImportantAttributesAbove) {
   WizardContext context = test::makeContext(4);
-  test::setOrder(context, {1, 2, 3, 4});
-  context.RefAtt = 3;
-  WeightRatioJudgments j(context);
+  DirectResult result;
+  test::setOrder(result, {1, 2, 3, 4});
+  result.RefAtt = 3;
+  WeightRatioJudgments j(context.model, result);
   j.CalcIniWeightRatios();
   j.RecordWeightRatios(2, 1.1, 1.5, {});
   for (int k : {0, 1}) {  // 1.2 raised to 1.5: interval collapses at 1.5
@@ -116,13 +123,14 @@ TEST(WeightRatioJudgmentsTest, UpwardPropagationPushesMoreImportantAttributesAbo
 
 TEST(WeightRatioJudgmentsTest, UpwardPropagationResetsAPassedMiddle) {
   WizardContext context = test::makeContext(3);
-  test::setOrder(context, {1, 2, 3});
-  context.RefAtt = 2;
-  WeightRatioJudgments j(context);
+  DirectResult result;
+  test::setOrder(result, {1, 2, 3});
+  result.RefAtt = 2;
+  WeightRatioJudgments j(context.model, result);
   j.CalcIniWeightRatios();
-  context.LowerWeights[0] = 1.0;
-  context.CloseWeights[0] = 1.5;
-  context.UpperWeights[0] = 4.0;
+  result.LowerWeights[0] = 1.0;
+  result.CloseWeights[0] = 1.5;
+  result.UpperWeights[0] = 4.0;
   j.RecordWeightRatios(1, 1.2, 2.0, {});
   EXPECT_DOUBLE_EQ(j.lower(0), 2.0);
   EXPECT_DOUBLE_EQ(j.middle(0), 3.0);
@@ -131,13 +139,14 @@ TEST(WeightRatioJudgmentsTest, UpwardPropagationResetsAPassedMiddle) {
 
 TEST(WeightRatioJudgmentsTest, DownwardPropagationResetsAMiddleAboveTheNewUpper) {
   WizardContext context = test::makeContext(3);
-  test::setOrder(context, {1, 2, 3});
-  context.RefAtt = 0;
-  WeightRatioJudgments j(context);
+  DirectResult result;
+  test::setOrder(result, {1, 2, 3});
+  result.RefAtt = 0;
+  WeightRatioJudgments j(context.model, result);
   j.CalcIniWeightRatios();
-  context.LowerWeights[2] = 0.1;
-  context.CloseWeights[2] = 0.7;
-  context.UpperWeights[2] = 0.8;
+  result.LowerWeights[2] = 0.1;
+  result.CloseWeights[2] = 0.7;
+  result.UpperWeights[2] = 0.8;
   j.RecordWeightRatios(1, 0.5, 0.9, {});
   EXPECT_DOUBLE_EQ(j.upper(2), 0.5);
   EXPECT_DOUBLE_EQ(j.middle(2), 0.3);
@@ -146,23 +155,25 @@ TEST(WeightRatioJudgmentsTest, DownwardPropagationResetsAMiddleAboveTheNewUpper)
 
 TEST(WeightRatioJudgmentsTest, RestartClearsEveryJudgmentAndSetsTheInitialIntervals) {
   WizardContext context = test::makeContext(3);
-  test::setOrder(context, {1, 2, 3});
-  context.RefAtt = 1;
-  WeightRatioJudgments j(context);
+  DirectResult result;
+  test::setOrder(result, {1, 2, 3});
+  result.RefAtt = 1;
+  WeightRatioJudgments j(context.model, result);
   j.CalcIniWeightRatios();
   j.RecordWeightRatios(0, 2, 3, {});
   j.RecordWeightRatios(2, 0.2, 0.3, {});
   ASSERT_TRUE(j.isComplete());
   j.ReStartJudgments();
   EXPECT_EQ(j.judgedFlags(), (std::vector<bool>{false, true, false}));
-  EXPECT_EQ(context.LowerWeights, (std::vector<double>{1.2, 1, 0.8}));
-  EXPECT_EQ(context.UpperWeights, (std::vector<double>{1.2, 1, 0.8}));
+  EXPECT_EQ(result.LowerWeights, (std::vector<double>{1.2, 1, 0.8}));
+  EXPECT_EQ(result.UpperWeights, (std::vector<double>{1.2, 1, 0.8}));
 }
 
 TEST(WeightRatioJudgmentsTest, RecordingOutsideTheAttributesDoesNothing) {
   WizardContext context = test::makeContext(2);
-  test::setOrder(context, {1, 2});
-  WeightRatioJudgments j(context);
+  DirectResult result;
+  test::setOrder(result, {1, 2});
+  WeightRatioJudgments j(context.model, result);
   j.CalcIniWeightRatios();
   EXPECT_TRUE(j.RecordWeightRatios(2, 1, 1, {}).empty());
   EXPECT_TRUE(j.RecordWeightRatios(-1, 1, 1, {}).empty());
