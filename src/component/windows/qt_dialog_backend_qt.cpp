@@ -3,10 +3,12 @@
 // tested on every platform; this file only adds what is particular to a DLL inside a Win32 host.
 
 #include "component/windows/dialog_backend.h"
+#include "component/windows/qt_platform_selection.h"
 #include "component/windows/server_module.h"
 #include "component/wizard_backend_qt.h"
 
 // Qt
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QString>
 #include <QtPlugin>
@@ -78,7 +80,14 @@ std::unique_ptr<DialogBackend> makeDialogBackend(MessageWindow&) {
   if (!stayLoaded()) return nullptr;
   // Null when the host's application cannot show widgets or the object is made on a thread
   // other than the one of the QApplication: the object is then not created (E_FAIL).
-  if (WizardBackendQt::ensureApplication(moduleFolder()) == nullptr) return nullptr;
+  if (QCoreApplication::instance() == nullptr) {
+    // The QApplication made here runs on the windows platform whatever the host's environment
+    // names.
+    const QtPlatformSelection platform;
+    if (WizardBackendQt::ensureApplication(moduleFolder()) == nullptr) return nullptr;
+  } else if (WizardBackendQt::ensureApplication(moduleFolder()) == nullptr) {
+    return nullptr;
+  }
   return std::make_unique<QtDialogBackend>();
 }
 
