@@ -1,10 +1,10 @@
 // Benchmarks of the direct method: recording a judgment and checking the judgment status at
 // the largest size (31 attributes in 10 groups), and a whole run of 30 judgments.
 
-#include "common/recording_ui_services.h"
-#include "direct/direct_a_presenter.h"
-#include "direct/judgment_status_check.h"
-#include "direct/weight_ratio_judgments.h"
+#include "common/core/recording_ui_services.h"
+#include "direct/core/direct_a_presenter.h"
+#include "direct/core/judgment_status_check.h"
+#include "direct/core/weight_ratio_judgments.h"
 
 // Google Benchmark
 #include <benchmark/benchmark.h>

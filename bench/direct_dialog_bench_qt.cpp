@@ -3,12 +3,12 @@
 // benchmark reports its paint events per action (paints) with the widgets that got them in its
 // label.
 
-#include "common/recording_ui_services.h"
-#include "component/wizard_context.h"
-#include "direct/attribute_drop_filter_qt.h"
-#include "direct/cone_area_widget.h"
-#include "direct/direct_a_dialog.h"
-#include "direct/direct_a_events.h"
+#include "common/core/recording_ui_services.h"
+#include "wizard/core/wizard_context.h"
+#include "direct/ui/attribute_drop_filter.h"
+#include "direct/ui/cone_area_widget.h"
+#include "direct/ui/direct_a_dialog.h"
+#include "direct/core/direct_a_events.h"
 #include "paint_counter_qt.h"
 
 // Qt

@@ -1,6 +1,6 @@
 // Reading a full model file: 31 attributes with 11-point value functions.
 
-#include "common/recording_ui_services.h"
+#include "common/core/recording_ui_services.h"
 #include "model/model_file_reader.h"
 #include "model/model_file_writer.h"
 

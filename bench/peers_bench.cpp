@@ -4,14 +4,14 @@
 // the ratios of the medians are printed at the end (run with --benchmark_repetitions and
 // --benchmark_enable_random_interleaving=true, as scripts/bench does, to interleave them).
 
-#include "common/recording_ui_services.h"
+#include "common/core/recording_ui_services.h"
 #include "model/model_file_reader.h"
 #include "model/model_file_writer.h"
 #include "model/value_function.h"
 #include "peers_ratio_reporter.h"
 #include "peers_setup.h"
-#include "tradeoffs/regression.h"
-#include "tradeoffs/trade_off_weights.h"
+#include "tradeoffs/core/regression.h"
+#include "tradeoffs/core/tradeoff_weights.h"
 
 // Google Benchmark
 #include <benchmark/benchmark.h>

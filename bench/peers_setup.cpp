@@ -1,11 +1,11 @@
 #include "peers_setup.h"
 
-#include "common/recording_ui_services.h"
+#include "common/core/recording_ui_services.h"
 #include "model/model_file_reader.h"
 #include "model/model_file_writer.h"
 #include "model/value_function.h"
-#include "tradeoffs/regression.h"
-#include "tradeoffs/trade_off_weights.h"
+#include "tradeoffs/core/regression.h"
+#include "tradeoffs/core/tradeoff_weights.h"
 
 // GSL
 #include <gsl/gsl_errno.h>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/attribute_model.h"
-#include "tradeoffs/judgment_store.h"
+#include "tradeoffs/core/judgment_store.h"
 
 // GSL
 #include <gsl/gsl_interp.h>

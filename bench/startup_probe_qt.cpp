@@ -4,7 +4,7 @@
 
 #include "startup_probe_qt.h"
 
-#include "common/recording_ui_services.h"
+#include "common/core/recording_ui_services.h"
 #include "component/tnw_mavt.h"
 
 // Qt

@@ -5,12 +5,12 @@
 // the maximum of the single actions (p50_us, p90_us, max_us), and the paint events per action
 // (paints) with the widgets that got them in its label.
 
-#include "common/recording_ui_services.h"
-#include "component/wizard_context.h"
-#include "graphs/chart_widget.h"
+#include "common/core/recording_ui_services.h"
+#include "wizard/core/wizard_context.h"
+#include "graphs/ui/chart_widget.h"
 #include "paint_counter_qt.h"
-#include "tradeoffs/trade_offs_a_dialog.h"
-#include "tradeoffs/trade_offs_a_events.h"
+#include "tradeoffs/ui/tradeoffs_a_dialog.h"
+#include "tradeoffs/core/tradeoffs_a_events.h"
 
 // Qt
 #include <QAction>

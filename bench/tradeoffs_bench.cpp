@@ -1,13 +1,13 @@
 // Benchmarks of the trade-off method: the regression, one score-entry step and the charts.
 
-#include "common/recording_ui_services.h"
-#include "component/wizard_context.h"
-#include "graphs/graphs.h"
-#include "graphs/recording_surface.h"
-#include "tradeoffs/judgment_page.h"
-#include "tradeoffs/random_source.h"
-#include "tradeoffs/regression.h"
-#include "tradeoffs/results_page.h"
+#include "common/core/recording_ui_services.h"
+#include "wizard/core/wizard_context.h"
+#include "graphs/core/graphs.h"
+#include "graphs/core/recording_surface.h"
+#include "tradeoffs/core/judgment_page.h"
+#include "tradeoffs/core/random_source.h"
+#include "tradeoffs/core/regression.h"
+#include "tradeoffs/core/results_page.h"
 
 // Google Benchmark
 #include <benchmark/benchmark.h>

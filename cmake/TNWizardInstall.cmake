@@ -20,22 +20,22 @@ install(TARGETS ${TNW_EXPORT_TARGETS} EXPORT TNWizardTargets
 # drive the wizard with dialogs of its own (WizardComponent and its factory). Each includes only
 # headers of this list. The other headers are the implementation and stay in the source tree.
 set(TNW_PUBLIC_HEADERS
-  common/currency.h
-  common/ui_services.h
+  common/core/currency.h
+  common/core/ui_services.h
   component/tnw_mavt.h
-  component/tnw_mavt_events.h
-  component/wizard_component.h
-  component/wizard_context.h
-  component/wizard_dialog.h
-  component/wizard_dialog_factory.h
-  direct/direct_a_events.h
+  component/core/tnw_mavt_events.h
+  component/core/wizard_component.h
+  wizard/core/wizard_context.h
+  wizard/core/wizard_dialog.h
+  wizard/core/wizard_dialog_factory.h
+  direct/core/direct_a_events.h
   model/attribute_model.h
   model/model_file_reader.h
   model/model_file_writer.h
   model/model_read_report.h
   model/value_function.h
-  selmethod/sel_method_events.h
-  tradeoffs/trade_offs_a_events.h)
+  selmethod/core/selmethod_events.h
+  tradeoffs/core/tradeoffs_a_events.h)
 foreach(header ${TNW_PUBLIC_HEADERS})
   get_filename_component(dir ${header} DIRECTORY)
   install(FILES ${PROJECT_SOURCE_DIR}/src/${header}

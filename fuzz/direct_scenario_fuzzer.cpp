@@ -3,8 +3,8 @@
 // the sanitizers it checks that a refusal is located, that a played run has one entry per step,
 // and that an export only comes from a complete run with finite weights.
 
-#include "common/recording_ui_services.h"
-#include "component/wizard_context.h"
+#include "common/core/recording_ui_services.h"
+#include "wizard/core/wizard_context.h"
 #include "fuzz_models.h"
 #include "model_json/direct_player.h"
 #include "model_json/scenario_json.h"

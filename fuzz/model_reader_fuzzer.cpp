@@ -2,7 +2,7 @@
 // Besides the sanitizers, it checks that the report is consistent and that writing what was read
 // and reading it again gives the same file.
 
-#include "common/number_format.h"
+#include "common/core/number_format.h"
 #include "model/model_file_reader.h"
 #include "model/model_file_writer.h"
 #include "model/value_function.h"

@@ -3,11 +3,11 @@
 // that a refusal is located, and that an export only follows a completed fit, with one finite
 // weight per attribute.
 
-#include "component/wizard_context.h"
+#include "wizard/core/wizard_context.h"
 #include "fuzz_models.h"
 #include "model_json/judgments_json.h"
 #include "model_json/tradeoffs_player.h"
-#include "tradeoffs/random_source.h"
+#include "tradeoffs/core/random_source.h"
 
 // Std
 #include <cmath>

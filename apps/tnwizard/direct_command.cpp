@@ -2,8 +2,8 @@
 // dialog uses.
 
 #include "commands.h"
-#include "common/recording_ui_services.h"
-#include "component/wizard_context.h"
+#include "common/core/recording_ui_services.h"
+#include "wizard/core/wizard_context.h"
 #include "model/model_file_reader.h"
 #include "model_json/direct_player.h"
 #include "model_json/scenario_json.h"

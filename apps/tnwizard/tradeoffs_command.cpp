@@ -2,12 +2,12 @@
 // and runs the regression of its Next button, through the dialog's own presenter.
 
 #include "commands.h"
-#include "component/wizard_context.h"
+#include "wizard/core/wizard_context.h"
 #include "console_ui_services.h"
 #include "model/model_file_reader.h"
 #include "model_json/judgments_json.h"
 #include "model_json/tradeoffs_player.h"
-#include "tradeoffs/clock_random_source.h"
+#include "tradeoffs/core/clock_random_source.h"
 
 // Std
 #include <cstdio>

@@ -1,7 +1,7 @@
 // tnwizard value MODEL ATT SCORE...
 
 #include "commands.h"
-#include "common/number_format.h"
+#include "common/core/number_format.h"
 #include "console_ui_services.h"
 #include "model/model_file_reader.h"
 #include "model/value_function.h"

@@ -1,9 +1,9 @@
 #include "component/tnw_mavt.h"
 
-#include "common/ui_services_qt.h"
-#include "component/wizard_backend_qt.h"
-#include "component/wizard_component.h"
-#include "component/wizard_dialog_factory_qt.h"
+#include "common/ui/widget_ui_services.h"
+#include "component/ui/wizard_backend.h"
+#include "component/core/wizard_component.h"
+#include "component/ui/widget_dialog_factory.h"
 
 namespace tnw {
 
@@ -44,7 +44,7 @@ struct TNW_MAVT::Impl : TnwMavtEvents {
     int& depth;
   };
 
-  WizardBackendQt parts;
+  WizardBackend parts;
   WizardComponent component;
   TnwMavtEvents* host = nullptr;
   int depth = 0;
@@ -60,13 +60,13 @@ TNW_MAVT::~TNW_MAVT() {
   // goes once control is back in the event loop.
   m_impl->host = nullptr;
   Impl* impl = m_impl.release();
-  WizardDialogFactoryQt::runLater([impl] { delete impl; });
+  WidgetDialogFactory::runLater([impl] { delete impl; });
 }
 
 void TNW_MAVT::setEvents(TnwMavtEvents* events) { m_impl->host = events; }
 
 void TNW_MAVT::setHelpHandler(HelpHandler handler) {
-  if (UiServicesQt* ui = m_impl->parts.qtUi()) ui->setHelpHandler(std::move(handler));
+  if (WidgetUiServices* ui = m_impl->parts.qtUi()) ui->setHelpHandler(std::move(handler));
 }
 
 void TNW_MAVT::GetCurFileData(const std::string& NorixDir, std::int16_t FileIndex,

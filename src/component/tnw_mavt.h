@@ -1,7 +1,7 @@
 #pragma once
 
-#include "common/ui_services.h"
-#include "component/tnw_mavt_events.h"
+#include "common/core/ui_services.h"
+#include "component/core/tnw_mavt_events.h"
 #include "tnwizard_mavt_export.h"
 
 // Std

@@ -1,6 +1,6 @@
 #include "model/model_check.h"
 
-#include "common/number_format.h"
+#include "common/core/number_format.h"
 #include "model/value_function.h"
 
 // Std

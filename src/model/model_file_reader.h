@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/ui_services.h"
+#include "common/core/ui_services.h"
 #include "model/attribute_model.h"
 #include "model/model_read_report.h"
 

@@ -1,6 +1,6 @@
 #include "model/model_file_writer.h"
 
-#include "common/windows1252.h"
+#include "common/core/windows1252.h"
 
 // Std
 #include <bit>

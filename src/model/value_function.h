@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/currency.h"
+#include "common/core/currency.h"
 #include "model/attribute_model.h"
 
 // Std

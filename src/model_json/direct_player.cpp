@@ -1,8 +1,8 @@
 #include "model_json/direct_player.h"
 
-#include "common/recording_ui_services.h"
-#include "component/wizard_context.h"
-#include "direct/scenario_player.h"
+#include "common/core/recording_ui_services.h"
+#include "wizard/core/wizard_context.h"
+#include "direct/core/scenario_player.h"
 
 // Std
 #include <utility>

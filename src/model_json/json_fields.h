@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model_json/json_input.h"
-#include "wizard/scenario_end.h"
+#include "wizard/core/scenario_end.h"
 
 // JSON
 #include <nlohmann/json.hpp>

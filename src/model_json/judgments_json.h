@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model_json/json_input.h"
-#include "tradeoffs/scenario.h"
+#include "tradeoffs/core/scenario.h"
 
 // JSON
 #include <nlohmann/json.hpp>

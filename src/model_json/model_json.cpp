@@ -1,6 +1,6 @@
 #include "model_json/model_json.h"
 
-#include "common/windows1252.h"
+#include "common/core/windows1252.h"
 
 // Std
 #include <cmath>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "direct/scenario.h"
+#include "direct/core/scenario.h"
 #include "model_json/json_input.h"
 
 // JSON

@@ -1,9 +1,9 @@
 #include "model_json/tradeoffs_player.h"
 
-#include "common/recording_ui_services.h"
-#include "component/wizard_context.h"
-#include "tradeoffs/scenario_player.h"
-#include "tradeoffs/trade_offs_a_events.h"
+#include "common/core/recording_ui_services.h"
+#include "wizard/core/wizard_context.h"
+#include "tradeoffs/core/scenario_player.h"
+#include "tradeoffs/core/tradeoffs_a_events.h"
 
 // Std
 #include <cstdint>

@@ -1,4 +1,4 @@
-#include "common/currency.h"
+#include "common/core/currency.h"
 
 // Std
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "common/number_format.h"
+#include "common/core/number_format.h"
 
 // Std
 #include <cstdint>

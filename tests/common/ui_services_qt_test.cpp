@@ -1,4 +1,4 @@
-#include "common/ui_services_qt.h"
+#include "common/ui/widget_ui_services.h"
 
 // Qt
 #include <QAbstractButton>
@@ -23,7 +23,7 @@ class UiServicesQtTest : public QObject {
   };
 
   // Shows a message box through the services, reads it while it waits and presses OK.
-  static Seen showAndRead(UiServicesQt& ui, const std::string& text, MessageIcon icon) {
+  static Seen showAndRead(WidgetUiServices& ui, const std::string& text, MessageIcon icon) {
     Seen seen;
     QTimer::singleShot(0, [&seen] {
       auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
@@ -45,7 +45,7 @@ class UiServicesQtTest : public QObject {
   }
 
   void messageBoxShowsTitleTextAndIcon() {
-    UiServicesQt ui;
+    WidgetUiServices ui;
     const Seen seen = showAndRead(ui, "Some text.", MessageIcon::Exclamation);
     QCOMPARE(seen.title, QStringLiteral("NORIX"));
     QCOMPARE(seen.text, QStringLiteral("Some text."));
@@ -55,7 +55,7 @@ class UiServicesQtTest : public QObject {
   }
 
   void messageBoxLiftsTheBusyPointerWhileItWaits() {
-    UiServicesQt ui;
+    WidgetUiServices ui;
     ui.setBusy(true);
     const Seen seen = showAndRead(ui, "x", MessageIcon::Information);
     QVERIFY(!seen.cursorWasBusy);
@@ -64,7 +64,7 @@ class UiServicesQtTest : public QObject {
   }
 
   void busyPointerIsTheWaitCursorAndIsRestoredOnce() {
-    UiServicesQt ui;
+    WidgetUiServices ui;
     ui.setBusy(true);
     ui.setBusy(true);
     QVERIFY(QGuiApplication::overrideCursor() != nullptr);
@@ -77,14 +77,14 @@ class UiServicesQtTest : public QObject {
 
   void destroyingTheServicesRestoresThePointer() {
     {
-      UiServicesQt ui;
+      WidgetUiServices ui;
       ui.setBusy(true);
     }
     QCOMPARE(QGuiApplication::overrideCursor(), nullptr);
   }
 
   void helpWithoutAHandlerTellsTheUserWhichFileAndTopic() {
-    UiServicesQt ui;
+    WidgetUiServices ui;
     Seen seen;
     QTimer::singleShot(0, [&seen] {
       auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
@@ -100,7 +100,7 @@ class UiServicesQtTest : public QObject {
   }
 
   void helpGoesToAnInstalledHandler() {
-    UiServicesQt ui;
+    WidgetUiServices ui;
     std::string file;
     int context = 0;
     ui.setHelpHandler([&](const std::string& f, int c) {
@@ -113,7 +113,7 @@ class UiServicesQtTest : public QObject {
   }
 
   void screenSizeIsThePrimaryScreens() {
-    UiServicesQt ui;
+    WidgetUiServices ui;
     const QSize expected = QGuiApplication::primaryScreen()->geometry().size();
     QCOMPARE(ui.screenSize().width, expected.width());
     QCOMPARE(ui.screenSize().height, expected.height());

@@ -1,4 +1,4 @@
-#include "common/windows1252.h"
+#include "common/core/windows1252.h"
 
 // GoogleTest
 #include <gtest/gtest.h>

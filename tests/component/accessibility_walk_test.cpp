@@ -5,16 +5,16 @@
 // control, and no two enabled controls share a mnemonic.
 
 #include "accessibility_checks.h"
-#include "common/recording_ui_services.h"
-#include "component/wizard_context.h"
-#include "direct/direct_a_dialog.h"
+#include "common/core/recording_ui_services.h"
+#include "wizard/core/wizard_context.h"
+#include "direct/ui/direct_a_dialog.h"
 #include "direct_a_dialog_helpers.h"
 #include "direct_test_models.h"
 #include "recording_direct_a_events.h"
-#include "selmethod/sel_method_dialog.h"
+#include "selmethod/ui/selmethod_dialog.h"
 #include "trade_off_fixtures.h"
-#include "tradeoffs/trade_offs_a_dialog.h"
-#include "tradeoffs/trade_offs_a_events.h"
+#include "tradeoffs/ui/tradeoffs_a_dialog.h"
+#include "tradeoffs/core/tradeoffs_a_events.h"
 
 // Qt
 #include <QAbstractButton>

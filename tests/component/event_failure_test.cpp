@@ -2,7 +2,7 @@
 // QApplication: the exception never leaves Qt's event delivery, the user is told in a "NORIX"
 // message box, the wizard ends with UnloadTNWizard(FileIndex, False) and the host goes on.
 
-#include "common/recording_ui_services.h"
+#include "common/core/recording_ui_services.h"
 #include "component/tnw_mavt.h"
 
 // Qt

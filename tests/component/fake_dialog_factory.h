@@ -1,11 +1,11 @@
 #pragma once
 
-#include "component/wizard_context.h"
-#include "component/wizard_dialog_factory.h"
-#include "direct/direct_a_events.h"
-#include "selmethod/sel_method_events.h"
-#include "selmethod/sel_method_presenter.h"
-#include "tradeoffs/trade_offs_a_events.h"
+#include "wizard/core/wizard_context.h"
+#include "wizard/core/wizard_dialog_factory.h"
+#include "direct/core/direct_a_events.h"
+#include "selmethod/core/selmethod_events.h"
+#include "selmethod/core/selmethod_presenter.h"
+#include "tradeoffs/core/tradeoffs_a_events.h"
 
 // Std
 #include <memory>

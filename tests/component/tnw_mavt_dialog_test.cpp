@@ -1,7 +1,7 @@
-#include "common/recording_ui_services.h"
+#include "common/core/recording_ui_services.h"
 #include "component/tnw_mavt.h"
-#include "component/wizard_context.h"
-#include "component/wizard_dialog_factory_qt.h"
+#include "wizard/core/wizard_context.h"
+#include "component/ui/widget_dialog_factory.h"
 
 // Qt
 #include <QApplication>

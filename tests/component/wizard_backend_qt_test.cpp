@@ -4,12 +4,12 @@
 // argument; this file has its own main so that the first case really starts without one.
 // Events are driven with QCoreApplication::processEvents only, as a host's own loop would.
 
-#include "component/wizard_backend_qt.h"
+#include "component/ui/wizard_backend.h"
 
-#include "common/recording_ui_services.h"
-#include "common/ui_services_qt.h"
-#include "component/tnw_mavt_events.h"
-#include "component/wizard_component.h"
+#include "common/core/recording_ui_services.h"
+#include "common/ui/widget_ui_services.h"
+#include "component/core/tnw_mavt_events.h"
+#include "component/core/wizard_component.h"
 
 // Qt
 #include <QApplication>
@@ -70,7 +70,7 @@ QWidget* selMethod() {
 // with a recording host.
 class ShownWizard {
  public:
-  explicit ShownWizard(WizardBackendQt& backend)
+  explicit ShownWizard(WizardBackend& backend)
       : component(backend.factory(), backend.ui(), backend.modelReader()) {
     component.setEvents(&host);
     std::string dir = "/opt/norix";
@@ -84,7 +84,7 @@ class ShownWizard {
 
 // Shows the wizard, presses Cancel on the selection dialog, and checks the event and that the
 // dialogs are gone once the host called UnloadTNWizard (from inside the event, or after it).
-void cancelThenUnload(WizardBackendQt& backend, bool unloadInsideTheEvent) {
+void cancelThenUnload(WizardBackend& backend, bool unloadInsideTheEvent) {
   ShownWizard wizard(backend);
   QCOMPARE(wizard.component.context().model.NumAtt, 6);
   QPointer<QWidget> dialog = selMethod();
@@ -109,7 +109,7 @@ void cancelThenUnload(WizardBackendQt& backend, bool unloadInsideTheEvent) {
 }
 
 // The application a test needs when it runs without the first test of its process.
-bool haveApplication() { return WizardBackendQt::ensureApplication(QString()) != nullptr; }
+bool haveApplication() { return WizardBackend::ensureApplication(QString()) != nullptr; }
 
 // An event filter that fails on every mouse release it sees, as a widget's own handler that
 // nothing of the wizard wraps would.
@@ -135,35 +135,35 @@ class WizardBackendQtMadeApplicationTest : public QObject {
   // Runs first, before anything has made an application.
   void makesTheApplicationWhenTheProcessHasNone() {
     QVERIFY(QCoreApplication::instance() == nullptr);
-    QVERIFY(!WizardBackendQt::madeApplication());
+    QVERIFY(!WizardBackend::madeApplication());
     QTemporaryDir plugins;
     QVERIFY(plugins.isValid());
-    QApplication* app = WizardBackendQt::ensureApplication(plugins.path());
+    QApplication* app = WizardBackend::ensureApplication(plugins.path());
     QVERIFY(app != nullptr);
     QCOMPARE(QCoreApplication::instance(), app);
-    QVERIFY(WizardBackendQt::madeApplication());
+    QVERIFY(WizardBackend::madeApplication());
     QVERIFY(!QApplication::quitOnLastWindowClosed());
     QCOMPARE(QCoreApplication::libraryPaths().value(0), QDir(plugins.path()).canonicalPath());
-    QCOMPARE(WizardBackendQt::ensureApplication(QString()), app);
+    QCOMPARE(WizardBackend::ensureApplication(QString()), app);
   }
 
   void cleanup() { QVERIFY2(noTopLevelWidgetLeft(), "a top-level widget leaked"); }
 
   void cancelRaisesUnloadTNWizardAndUnloadTNWizardReleasesTheDialogs() {
     QVERIFY(haveApplication());
-    WizardBackendQt backend;
+    WizardBackend backend;
     cancelThenUnload(backend, false);
   }
 
   void unloadTNWizardFromInsideTheEventReleasesTheDialogs() {
     QVERIFY(haveApplication());
-    WizardBackendQt backend;
+    WizardBackend backend;
     cancelThenUnload(backend, true);
   }
 
   void destroyingTheComponentReleasesTheShownDialog() {
     QVERIFY(haveApplication());
-    WizardBackendQt backend;
+    WizardBackend backend;
     QPointer<QWidget> dialog;
     {
       ShownWizard wizard(backend);
@@ -178,7 +178,7 @@ class WizardBackendQtMadeApplicationTest : public QObject {
   void aFailureAnywhereInADialogEndsTheWizardInTheMadeApplication() {
     QVERIFY(haveApplication());
     RecordingUiServices ui;
-    WizardBackendQt backend(&ui);
+    WizardBackend backend(&ui);
     ShownWizard wizard(backend);
     QPointer<QWidget> dialog = selMethod();
     QVERIFY(dialog != nullptr);
@@ -211,11 +211,11 @@ class WizardBackendQtMadeApplicationTest : public QObject {
   }
 
   void aSecondBackendUsesTheSameApplication() {
-    QApplication* app = WizardBackendQt::ensureApplication(QString());
+    QApplication* app = WizardBackend::ensureApplication(QString());
     QVERIFY(app != nullptr);
-    QCOMPARE(WizardBackendQt::ensureApplication(QString()), app);
-    QVERIFY(WizardBackendQt::madeApplication());
-    WizardBackendQt backend;
+    QCOMPARE(WizardBackend::ensureApplication(QString()), app);
+    QVERIFY(WizardBackend::madeApplication());
+    WizardBackend backend;
     cancelThenUnload(backend, true);
     QCOMPARE(QCoreApplication::instance(), app);
   }
@@ -231,28 +231,28 @@ class WizardBackendQtHostApplicationTest : public QObject {
   void usesTheHostsApplication() {
     QCoreApplication* hosts = QCoreApplication::instance();
     QVERIFY(hosts != nullptr);
-    QCOMPARE(static_cast<QCoreApplication*>(WizardBackendQt::ensureApplication(QString())), hosts);
-    QVERIFY(!WizardBackendQt::madeApplication());
-    WizardBackendQt backend;
+    QCOMPARE(static_cast<QCoreApplication*>(WizardBackend::ensureApplication(QString())), hosts);
+    QVERIFY(!WizardBackend::madeApplication());
+    WizardBackend backend;
     cancelThenUnload(backend, false);
     QCOMPARE(QCoreApplication::instance(), hosts);
-    QVERIFY(!WizardBackendQt::madeApplication());
+    QVERIFY(!WizardBackend::madeApplication());
   }
 
   void refusesTheApplicationOfAnotherThread() {
     QApplication* fromThread = qApp;
-    std::thread other([&fromThread] { fromThread = WizardBackendQt::ensureApplication({}); });
+    std::thread other([&fromThread] { fromThread = WizardBackend::ensureApplication({}); });
     other.join();
     QVERIFY(fromThread == nullptr);
-    QVERIFY(!WizardBackendQt::madeApplication());
+    QVERIFY(!WizardBackend::madeApplication());
   }
 
   void usesTheHostsUiServicesWhenGiven() {
     RecordingUiServices hostUi;
-    WizardBackendQt withHostUi(&hostUi);
+    WizardBackend withHostUi(&hostUi);
     QCOMPARE(&withHostUi.ui(), static_cast<UiServices*>(&hostUi));
     QVERIFY(withHostUi.qtUi() == nullptr);
-    WizardBackendQt withQtUi;
+    WizardBackend withQtUi;
     QVERIFY(withQtUi.qtUi() != nullptr);
     QCOMPARE(&withQtUi.ui(), static_cast<UiServices*>(withQtUi.qtUi()));
   }
@@ -265,8 +265,8 @@ class WizardBackendQtCoreApplicationTest : public QObject {
  private slots:
   void refusesAnApplicationWithoutWidgets() {
     QVERIFY(QCoreApplication::instance() != nullptr);
-    QVERIFY(WizardBackendQt::ensureApplication(QString()) == nullptr);
-    QVERIFY(!WizardBackendQt::madeApplication());
+    QVERIFY(WizardBackend::ensureApplication(QString()) == nullptr);
+    QVERIFY(!WizardBackend::madeApplication());
     QVERIFY(qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr);
   }
 };

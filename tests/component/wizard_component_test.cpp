@@ -1,6 +1,6 @@
-#include "component/wizard_component.h"
+#include "component/core/wizard_component.h"
 
-#include "common/recording_ui_services.h"
+#include "common/core/recording_ui_services.h"
 #include "fake_dialog_factory.h"
 
 // Std

@@ -1,7 +1,7 @@
 // How the component ends the wizard after one of its dialogs' handlers failed, with fake dialogs.
 
-#include "common/recording_ui_services.h"
-#include "component/wizard_component.h"
+#include "common/core/recording_ui_services.h"
+#include "component/core/wizard_component.h"
 #include "fake_dialog_factory.h"
 
 // Std

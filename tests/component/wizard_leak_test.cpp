@@ -5,7 +5,7 @@
 // (judgments, regression, charts, export), a cancel on the method's first page, and a way back
 // from the method to the selection dialog followed by a cancel there.
 
-#include "common/recording_ui_services.h"
+#include "common/core/recording_ui_services.h"
 #include "component/tnw_mavt.h"
 
 // Qt

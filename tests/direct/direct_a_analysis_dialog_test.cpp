@@ -1,10 +1,10 @@
 // The direct method's analysis controls driven through the real widgets: the line under the
 // status lights that names a conflict, and the exact weight ranges beside the results grid.
 
-#include "common/recording_ui_services.h"
-#include "direct/attribute_button_widget.h"
-#include "direct/direct_a_dialog.h"
-#include "direct/exact_weight_bounds.h"
+#include "common/core/recording_ui_services.h"
+#include "direct/ui/attribute_button_widget.h"
+#include "direct/ui/direct_a_dialog.h"
+#include "direct/core/exact_weight_bounds.h"
 #include "direct_a_dialog_helpers.h"
 #include "direct_test_models.h"
 #include "recording_direct_a_events.h"

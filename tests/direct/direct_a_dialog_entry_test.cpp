@@ -2,9 +2,9 @@
 // real widgets: nothing is recorded while a check fails, and no button is left drawn pressed; and
 // the keys the ratio boxes drop.
 
-#include "common/recording_ui_services.h"
-#include "common/ui_services_qt.h"
-#include "direct/direct_a_dialog.h"
+#include "common/core/recording_ui_services.h"
+#include "common/ui/widget_ui_services.h"
+#include "direct/ui/direct_a_dialog.h"
 #include "direct_a_dialog_helpers.h"
 #include "direct_test_models.h"
 #include "recording_direct_a_events.h"
@@ -52,7 +52,7 @@ class DirectADialogEntryTest : public QObject {
 
   WizardContext m_context;
   RecordingUiServices m_ui;
-  UiServicesQt m_realUi;
+  WidgetUiServices m_realUi;
   test::RecordingDirectAEvents m_events;
   std::unique_ptr<DirectADialog> m_dialog;
 };

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "direct/attribute_drop_filter_qt.h"
-#include "direct/group_box_widget.h"
+#include "direct/ui/attribute_drop_filter.h"
+#include "direct/ui/group_box_widget.h"
 
 // Qt
 #include <QAbstractButton>

@@ -1,8 +1,8 @@
 // Ratio entry, pasting, help, keyboard use, layout and resumption on the real frmDirectA.
 
-#include "common/recording_ui_services.h"
-#include "direct/attribute_button_widget.h"
-#include "direct/direct_a_dialog.h"
+#include "common/core/recording_ui_services.h"
+#include "direct/ui/attribute_button_widget.h"
+#include "direct/ui/direct_a_dialog.h"
 #include "direct_a_dialog_helpers.h"
 #include "direct_test_models.h"
 #include "model/model_file_reader.h"

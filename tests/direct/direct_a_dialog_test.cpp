@@ -1,11 +1,11 @@
 // The direct method driven end to end through the real widgets of frmDirectA.
 
-#include "direct/direct_a_dialog.h"
+#include "direct/ui/direct_a_dialog.h"
 
-#include "common/recording_ui_services.h"
-#include "direct/attribute_button_widget.h"
-#include "direct/cone_area_widget.h"
-#include "direct/status_lights_widget.h"
+#include "common/core/recording_ui_services.h"
+#include "direct/ui/attribute_button_widget.h"
+#include "direct/ui/cone_area_widget.h"
+#include "direct/ui/status_lights_widget.h"
 #include "direct_a_dialog_helpers.h"
 #include "direct_test_models.h"
 #include "recording_direct_a_events.h"

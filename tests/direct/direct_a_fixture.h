@@ -1,7 +1,7 @@
 #pragma once
 
-#include "common/recording_ui_services.h"
-#include "direct/direct_a_presenter.h"
+#include "common/core/recording_ui_services.h"
+#include "direct/core/direct_a_presenter.h"
 #include "direct_test_models.h"
 #include "recording_direct_a_events.h"
 

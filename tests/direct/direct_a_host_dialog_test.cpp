@@ -2,7 +2,7 @@
 // selection dialog and frmDirectA, with every event that reaches the host in order. The
 // dialogs live inside the component's shared library, so they are found by name only.
 
-#include "common/recording_ui_services.h"
+#include "common/core/recording_ui_services.h"
 #include "component/tnw_mavt.h"
 #include "direct_a_dialog_helpers.h"
 

@@ -1,4 +1,4 @@
-#include "direct/direct_a_presenter.h"
+#include "direct/core/direct_a_presenter.h"
 
 #include "direct_a_fixture.h"
 

@@ -1,4 +1,4 @@
-#include "direct/direct_export.h"
+#include "direct/core/direct_export.h"
 
 // GoogleTest
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "component/wizard_context.h"
-#include "direct/direct_result.h"
+#include "wizard/core/wizard_context.h"
+#include "direct/core/direct_result.h"
 
 // Std
 #include <string>

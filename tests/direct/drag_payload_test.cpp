@@ -1,4 +1,4 @@
-#include "direct/drag_payload.h"
+#include "direct/core/drag_payload.h"
 
 // GoogleTest
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "direct/exact_weight_bounds.h"
+#include "direct/core/exact_weight_bounds.h"
 
 #include "model/attribute_model.h"
 

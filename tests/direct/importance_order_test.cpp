@@ -1,4 +1,4 @@
-#include "direct/importance_order.h"
+#include "direct/core/importance_order.h"
 
 // GoogleTest
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-#include "direct/judgment_diagnosis.h"
+#include "direct/core/judgment_diagnosis.h"
 
-#include "direct/judgment_status_check.h"
+#include "direct/core/judgment_status_check.h"
 #include "direct_a_fixture.h"
 #include "direct_test_models.h"
 

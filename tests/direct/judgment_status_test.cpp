@@ -1,5 +1,5 @@
-#include "direct/judgment_status_check.h"
-#include "direct/status_lamps.h"
+#include "direct/core/judgment_status_check.h"
+#include "direct/core/status_lamps.h"
 #include "direct_test_models.h"
 
 // GoogleTest

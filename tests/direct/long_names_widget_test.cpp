@@ -1,6 +1,6 @@
-#include "direct/attribute_button_widget.h"
-#include "direct/clickable_label_widget.h"
-#include "direct/direct_order_page_widget.h"
+#include "direct/ui/attribute_button_widget.h"
+#include "direct/ui/clickable_label_widget.h"
+#include "direct/ui/direct_order_page_widget.h"
 
 // Qt
 #include <QApplication>

@@ -1,8 +1,8 @@
-#include "direct/preference_chart_widget.h"
+#include "direct/ui/preference_chart_widget.h"
 
-#include "direct/cone_area_widget.h"
-#include "direct/preference_cone.h"
-#include "tradeoffs/elided_label_widget.h"
+#include "direct/ui/cone_area_widget.h"
+#include "direct/core/preference_cone.h"
+#include "common/ui/elided_label_widget.h"
 
 // Qt
 #include <QApplication>

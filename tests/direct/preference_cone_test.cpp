@@ -1,6 +1,6 @@
-#include "direct/preference_cone.h"
+#include "direct/core/preference_cone.h"
 
-#include "common/number_format.h"
+#include "common/core/number_format.h"
 
 // Std
 #include <cmath>

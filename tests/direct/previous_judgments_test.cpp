@@ -1,4 +1,4 @@
-#include "direct/previous_judgments.h"
+#include "direct/core/previous_judgments.h"
 
 #include "direct_test_models.h"
 

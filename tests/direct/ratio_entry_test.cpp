@@ -1,5 +1,5 @@
-#include "direct/ratio_bound_check.h"
-#include "direct/ratio_key_filter.h"
+#include "direct/core/ratio_bound_check.h"
+#include "direct/core/ratio_key_filter.h"
 
 // GoogleTest
 #include <gtest/gtest.h>

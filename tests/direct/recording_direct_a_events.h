@@ -1,6 +1,6 @@
 #pragma once
 
-#include "direct/direct_a_events.h"
+#include "direct/core/direct_a_events.h"
 
 // Std
 #include <string>

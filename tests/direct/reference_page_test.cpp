@@ -1,8 +1,8 @@
-#include "direct/reference_page.h"
+#include "direct/core/reference_page.h"
 
-#include "common/recording_ui_services.h"
-#include "direct/ordering_page.h"
-#include "direct/status_lamps.h"
+#include "common/core/recording_ui_services.h"
+#include "direct/core/ordering_page.h"
+#include "direct/core/status_lamps.h"
 #include "direct_a_fixture.h"
 #include "direct_test_models.h"
 #include "recording_direct_a_events.h"

@@ -1,4 +1,4 @@
-#include "direct/results_grid.h"
+#include "direct/core/results_grid.h"
 
 #include "direct_test_models.h"
 

@@ -1,6 +1,6 @@
-#include "direct/scenario_player.h"
+#include "direct/core/scenario_player.h"
 
-#include "common/recording_ui_services.h"
+#include "common/core/recording_ui_services.h"
 #include "direct_test_models.h"
 #include "recording_direct_a_events.h"
 

@@ -1,4 +1,4 @@
-#include "direct/target_list.h"
+#include "direct/core/target_list.h"
 
 #include "direct_test_models.h"
 

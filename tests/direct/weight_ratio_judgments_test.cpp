@@ -1,4 +1,4 @@
-#include "direct/weight_ratio_judgments.h"
+#include "direct/core/weight_ratio_judgments.h"
 
 #include "direct_test_models.h"
 

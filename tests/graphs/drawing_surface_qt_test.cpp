@@ -1,9 +1,9 @@
-#include "graphs/drawing_surface_qt.h"
+#include "graphs/ui/painter_surface.h"
 
-#include "graphs/chart_export_qt.h"
-#include "graphs/chart_widget.h"
-#include "graphs/graphs.h"
-#include "graphs/palette.h"
+#include "graphs/ui/chart_export.h"
+#include "graphs/ui/chart_widget.h"
+#include "graphs/core/graphs.h"
+#include "graphs/core/palette.h"
 
 // Qt
 #include <QApplication>
@@ -51,19 +51,19 @@ class DrawingSurfaceQtTest : public QObject {
   void cleanup() { QVERIFY(QApplication::topLevelWidgets().isEmpty()); }
 
   void paletteIsTheClassicSixteenColours() {
-    QCOMPARE(DrawingSurfaceQt::paletteColour(0), QColor(0, 0, 0));
-    QCOMPARE(DrawingSurfaceQt::paletteColour(9), QColor(0, 0, 255));
-    QCOMPARE(DrawingSurfaceQt::paletteColour(10), QColor(0, 255, 0));
-    QCOMPARE(DrawingSurfaceQt::paletteColour(12), QColor(255, 0, 0));
-    QCOMPARE(DrawingSurfaceQt::paletteColour(13), QColor(255, 0, 255));
-    QCOMPARE(DrawingSurfaceQt::paletteColour(15), QColor(255, 255, 255));
-    QCOMPARE(DrawingSurfaceQt::paletteColour(16), QColor(0, 0, 0));
+    QCOMPARE(PainterSurface::paletteColour(0), QColor(0, 0, 0));
+    QCOMPARE(PainterSurface::paletteColour(9), QColor(0, 0, 255));
+    QCOMPARE(PainterSurface::paletteColour(10), QColor(0, 255, 0));
+    QCOMPARE(PainterSurface::paletteColour(12), QColor(255, 0, 0));
+    QCOMPARE(PainterSurface::paletteColour(13), QColor(255, 0, 255));
+    QCOMPARE(PainterSurface::paletteColour(15), QColor(255, 255, 255));
+    QCOMPARE(PainterSurface::paletteColour(16), QColor(0, 0, 0));
   }
 
   void scaleMapsTheCornersOntoTheArea() {
     QImage image(310, 300, QImage::Format_RGB32);
     QPainter p(&image);
-    DrawingSurfaceQt s(p, QRectF(10, 0, 310, 300));
+    PainterSurface s(p, QRectF(10, 0, 310, 300));
     chartScale(s);
     QCOMPARE(s.toDevice(-15, 120), QPointF(10, 0));
     QCOMPARE(s.toDevice(140, -30), QPointF(320, 300));
@@ -73,7 +73,7 @@ class DrawingSurfaceQtTest : public QObject {
   void textIsMeasuredInUserUnitsWithTheHeightSignedAsTheAxis() {
     QImage image(310, 300, QImage::Format_RGB32);
     QPainter p(&image);
-    DrawingSurfaceQt s(p, QRectF(0, 0, 310, 300));
+    PainterSurface s(p, QRectF(0, 0, 310, 300));
     chartScale(s);
     const QFontMetricsF fm(p.font(), &image);
     QCOMPARE(s.textWidth("0.0000"), fm.horizontalAdvance(QStringLiteral("0.0000")) / 2.0);
@@ -92,7 +92,7 @@ class DrawingSurfaceQtTest : public QObject {
     image.fill(Qt::white);
     {
       QPainter p(&image);
-      DrawingSurfaceQt s(p, QRectF(0, 0, 310, 300));
+      PainterSurface s(p, QRectF(0, 0, 310, 300));
       chartScale(s);
       s.setLineStyle(LineStyle::Dot);
       s.line(0, 50, 100, 50, 9);
@@ -112,7 +112,7 @@ class DrawingSurfaceQtTest : public QObject {
     QFont base;
     base.setPixelSize(20);
     p.setFont(base);
-    DrawingSurfaceQt s(p, QRectF(0, 0, 620, 600));
+    PainterSurface s(p, QRectF(0, 0, 620, 600));
     chartScale(s);
     const std::string name = "Fuel consumption";
     s.setItemTexts({name, "Price"}, 25.0, 27.0);
@@ -123,7 +123,7 @@ class DrawingSurfaceQtTest : public QObject {
     QVERIFY(onRow <= 25.0);
     QVERIFY(onRow > 12.0);
     QVERIFY(!s.itemTextsTurned());
-    QVERIFY(s.itemFont().pointSizeF() >= DrawingSurfaceQt::kMinimumPoints);
+    QVERIFY(s.itemFont().pointSizeF() >= PainterSurface::kMinimumPoints);
     QVERIFY(s.itemFont().pointSizeF() < 15.0);
     // Other texts on the row, and the names elsewhere, keep the painter's font.
     QCOMPARE(s.textWidth("0.2500"),
@@ -137,7 +137,7 @@ class DrawingSurfaceQtTest : public QObject {
     for (int i = 1; i <= 31; ++i) names.push_back("Attribute " + std::to_string(i));
     {
       QPainter p(&image);
-      DrawingSurfaceQt s(p, QRectF(0, 0, 620, 600));
+      PainterSurface s(p, QRectF(0, 0, 620, 600));
       chartScale(s);
       s.setItemTexts(names, 100.0 / 31 * 0.95, 27.0);
       s.setCurrentY(-2.0);
@@ -170,14 +170,14 @@ class DrawingSurfaceQtTest : public QObject {
       QFont base;
       base.setPointSizeF(10.0);
       // Room for a fraction of a name, or of a scale label: the minimum size, in points.
-      const QFont tiny = DrawingSurfaceQt::fontFitting(base, &image, names, dpi / 20.0);
-      QCOMPARE(tiny.pointSizeF(), DrawingSurfaceQt::kMinimumPoints);
-      QCOMPARE(DrawingSurfaceQt::fittedFont(base, &image, dpi / 10.0).pointSizeF(),
-               DrawingSurfaceQt::kMinimumPoints);
+      const QFont tiny = PainterSurface::fontFitting(base, &image, names, dpi / 20.0);
+      QCOMPARE(tiny.pointSizeF(), PainterSurface::kMinimumPoints);
+      QCOMPARE(PainterSurface::fittedFont(base, &image, dpi / 10.0).pointSizeF(),
+               PainterSurface::kMinimumPoints);
       // Room enough: the font stays.
-      QCOMPARE(DrawingSurfaceQt::fontFitting(base, &image, names, dpi * 10.0), base);
-      const QFont some = DrawingSurfaceQt::fontFitting(base, &image, names, dpi * 1.0);
-      QVERIFY(some.pointSizeF() < 10.0 && some.pointSizeF() > DrawingSurfaceQt::kMinimumPoints);
+      QCOMPARE(PainterSurface::fontFitting(base, &image, names, dpi * 10.0), base);
+      const QFont some = PainterSurface::fontFitting(base, &image, names, dpi * 1.0);
+      QVERIFY(some.pointSizeF() < 10.0 && some.pointSizeF() > PainterSurface::kMinimumPoints);
     }
   }
 
@@ -186,7 +186,7 @@ class DrawingSurfaceQtTest : public QObject {
     image.fill(Qt::white);
     {
       QPainter p(&image);
-      DrawingSurfaceQt s(p, QRectF(0, 0, 100, 100));
+      PainterSurface s(p, QRectF(0, 0, 100, 100));
       chartScale(s);
       const double nan = std::numeric_limits<double>::quiet_NaN();
       s.line(0, nan, 100, 0, 0);
@@ -203,9 +203,9 @@ class DrawingSurfaceQtTest : public QObject {
     g.GridColour = 9;
     g.DrawFrame = true;
     const auto draw = [&](void (Graphs::*routine)(DrawingSurface&, const ChartData&) const) {
-      return ChartExportQt::toImage(
+      return ChartExport::toImage(
           [&](QPainter& p, const QRectF& area) {
-            DrawingSurfaceQt s(p, area);
+            PainterSurface s(p, area);
             (g.*routine)(s, d);
           },
           QSize(465, 450));
@@ -229,8 +229,8 @@ class DrawingSurfaceQtTest : public QObject {
     image.fill(Qt::white);
     const QRectF area(60, 20, 465, 450);
     QPainter painter(&image);
-    painter.setFont(DrawingSurfaceQt::fittedFont(painter.font(), &image, area.width()));
-    DrawingSurfaceQt s(painter, area);
+    painter.setFont(PainterSurface::fittedFont(painter.font(), &image, area.width()));
+    PainterSurface s(painter, area);
     g.Display_HLCGraphAMain(s, d);
     const QFont font = painter.font();
     painter.end();
@@ -260,9 +260,9 @@ class DrawingSurfaceQtTest : public QObject {
     Graphs g;
     QTemporaryDir dir;
     const QString path = dir.filePath(QStringLiteral("chart.svg"));
-    QVERIFY(ChartExportQt::toSvg(
+    QVERIFY(ChartExport::toSvg(
         [&](QPainter& p, const QRectF& area) {
-          DrawingSurfaceQt s(p, area);
+          PainterSurface s(p, area);
           g.Display_VBarGraphMain(s, d);
         },
         path, QSize(465, 450), QStringLiteral("Weights")));
@@ -279,7 +279,7 @@ class DrawingSurfaceQtTest : public QObject {
     const ChartData d = threeItems();
     Graphs g;
     const ChartWidget::Painter chart = [&](QPainter& p, const QRectF& area) {
-      DrawingSurfaceQt s(p, area);
+      PainterSurface s(p, area);
       g.Display_HLCGraphBMain(s, d);
     };
     QTemporaryDir dir;
@@ -290,7 +290,7 @@ class DrawingSurfaceQtTest : public QObject {
       QVERIFY(old.open(QIODevice::WriteOnly));
       old.write("old picture");
     }
-    QVERIFY(ChartExportQt::toSvg(chart, path, QSize(465, 450), QStringLiteral("Ranges")));
+    QVERIFY(ChartExport::toSvg(chart, path, QSize(465, 450), QStringLiteral("Ranges")));
     QFile file(path);
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray svg = file.readAll();
@@ -298,9 +298,9 @@ class DrawingSurfaceQtTest : public QObject {
     QVERIFY(!svg.contains("old picture"));
     // A path that cannot be written fails: a folder that does not exist, or a folder itself.
     const QString missing = dir.filePath(QStringLiteral("no such folder/chart.svg"));
-    QVERIFY(!ChartExportQt::toSvg(chart, missing, QSize(465, 450), QStringLiteral("Ranges")));
+    QVERIFY(!ChartExport::toSvg(chart, missing, QSize(465, 450), QStringLiteral("Ranges")));
     QVERIFY(!QFile::exists(missing));
-    QVERIFY(!ChartExportQt::toSvg(chart, dir.path(), QSize(465, 450), QStringLiteral("Ranges")));
+    QVERIFY(!ChartExport::toSvg(chart, dir.path(), QSize(465, 450), QStringLiteral("Ranges")));
     QVERIFY(QFileInfo(dir.path()).isDir());
   }
 
@@ -343,9 +343,9 @@ class DrawingSurfaceQtTest : public QObject {
       QPrinter printer(QPrinter::HighResolution);
       printer.setOutputFormat(QPrinter::PdfFormat);
       printer.setOutputFileName(path);
-      ChartExportQt::toPage(
+      ChartExport::toPage(
           [&](QPainter& p, const QRectF& area) {
-            DrawingSurfaceQt s(p, area);
+            PainterSurface s(p, area);
             g.Display_HLCGraphAMain(s, d);
           },
           printer);

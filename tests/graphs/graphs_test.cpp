@@ -1,7 +1,7 @@
-#include "graphs/graphs.h"
+#include "graphs/core/graphs.h"
 
-#include "graphs/palette.h"
-#include "graphs/recording_surface.h"
+#include "graphs/core/palette.h"
+#include "graphs/core/recording_surface.h"
 
 // Std
 #include <algorithm>

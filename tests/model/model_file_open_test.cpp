@@ -1,7 +1,7 @@
 // What OpenRelatedFileForTNW reads from a path: regular files only, and no more of them than a
 // model file can hold.
 
-#include "common/recording_ui_services.h"
+#include "common/core/recording_ui_services.h"
 #include "model/model_file_reader.h"
 #include "model/model_file_writer.h"
 #include "model_fixtures.h"

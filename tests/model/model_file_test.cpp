@@ -1,4 +1,4 @@
-#include "common/recording_ui_services.h"
+#include "common/core/recording_ui_services.h"
 #include "model/model_file_reader.h"
 #include "model/model_file_writer.h"
 #include "model_fixtures.h"

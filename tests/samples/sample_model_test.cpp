@@ -1,5 +1,5 @@
 #include "builtin_sample.h"
-#include "common/recording_ui_services.h"
+#include "common/core/recording_ui_services.h"
 #include "model/model_file_reader.h"
 #include "model/value_function.h"
 

@@ -1,7 +1,7 @@
-#include "selmethod/sel_method_dialog.h"
+#include "selmethod/ui/selmethod_dialog.h"
 
-#include "common/recording_ui_services.h"
-#include "component/wizard_context.h"
+#include "common/core/recording_ui_services.h"
+#include "wizard/core/wizard_context.h"
 
 // Qt
 #include <QApplication>

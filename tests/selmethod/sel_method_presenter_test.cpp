@@ -1,7 +1,7 @@
-#include "selmethod/sel_method_presenter.h"
+#include "selmethod/core/selmethod_presenter.h"
 
-#include "common/recording_ui_services.h"
-#include "component/wizard_context.h"
+#include "common/core/recording_ui_services.h"
+#include "wizard/core/wizard_context.h"
 
 // Std
 #include <string>

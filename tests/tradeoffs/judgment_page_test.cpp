@@ -1,7 +1,7 @@
-#include "tradeoffs/judgment_page.h"
+#include "tradeoffs/core/judgment_page.h"
 
-#include "common/recording_ui_services.h"
-#include "component/wizard_context.h"
+#include "common/core/recording_ui_services.h"
+#include "wizard/core/wizard_context.h"
 #include "trade_off_fixtures.h"
 
 // Std

@@ -1,10 +1,10 @@
-#include "tradeoffs/leave_one_out.h"
+#include "tradeoffs/core/leave_one_out.h"
 
 #include "model/value_function.h"
 #include "regression_fixtures.h"
 #include "trade_off_fixtures.h"
-#include "tradeoffs/regression.h"
-#include "tradeoffs/trade_off_weights.h"
+#include "tradeoffs/core/regression.h"
+#include "tradeoffs/core/tradeoff_weights.h"
 
 // Std
 #include <cmath>

@@ -1,7 +1,7 @@
-#include "tradeoffs/pair_generator.h"
+#include "tradeoffs/core/pair_generator.h"
 
 #include "trade_off_fixtures.h"
-#include "tradeoffs/clock_random_source.h"
+#include "tradeoffs/core/clock_random_source.h"
 
 // Std
 #include <cmath>

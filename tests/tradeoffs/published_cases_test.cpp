@@ -2,8 +2,8 @@
 // least-squares results, and a two-attribute trade-off example whose answer is known exactly.
 
 #include "regression_fixtures.h"
-#include "tradeoffs/regression.h"
-#include "tradeoffs/trade_off_weights.h"
+#include "tradeoffs/core/regression.h"
+#include "tradeoffs/core/tradeoff_weights.h"
 
 // Std
 #include <array>

@@ -2,7 +2,7 @@
 // the record, the shared tables and the weights.
 
 #include "regression_fixtures.h"
-#include "tradeoffs/regression.h"
+#include "tradeoffs/core/regression.h"
 
 // Std
 #include <cmath>

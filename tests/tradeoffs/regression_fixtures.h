@@ -1,9 +1,9 @@
 #pragma once
 
-#include "tradeoffs/judgment_store.h"
-#include "tradeoffs/multi_regression_data.h"
-#include "tradeoffs/regression_work.h"
-#include "tradeoffs/trade_off_weights.h"
+#include "tradeoffs/core/judgment_store.h"
+#include "tradeoffs/core/multi_regression_data.h"
+#include "tradeoffs/core/regression_work.h"
+#include "tradeoffs/core/tradeoff_weights.h"
 
 // Std
 #include <cstdint>

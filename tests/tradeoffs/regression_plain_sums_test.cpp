@@ -3,8 +3,8 @@
 // 2K columns. Random judgments for 3 to 31 attributes, with the cases that touch the edges: the
 // artificial observation, a judgment on one attribute, attributes never judged, dense rows.
 
-#include "tradeoffs/regression.h"
-#include "tradeoffs/trade_off_weights.h"
+#include "tradeoffs/core/regression.h"
+#include "tradeoffs/core/tradeoff_weights.h"
 
 // Std
 #include <algorithm>

@@ -2,8 +2,8 @@
 // model with an intercept, solved by Gaussian elimination with partial pivoting. Dense random
 // observations first, then judgments as the page records them.
 
-#include "tradeoffs/regression.h"
-#include "tradeoffs/trade_off_weights.h"
+#include "tradeoffs/core/regression.h"
+#include "tradeoffs/core/tradeoff_weights.h"
 
 // Std
 #include <algorithm>

@@ -1,7 +1,7 @@
-#include "tradeoffs/regression.h"
+#include "tradeoffs/core/regression.h"
 
 #include "regression_fixtures.h"
-#include "tradeoffs/trade_off_weights.h"
+#include "tradeoffs/core/tradeoff_weights.h"
 
 // Std
 #include <cmath>

@@ -1,6 +1,6 @@
-#include "tradeoffs/results_page.h"
+#include "tradeoffs/core/results_page.h"
 
-#include "graphs/recording_surface.h"
+#include "graphs/core/recording_surface.h"
 #include "trade_off_fixtures.h"
 
 // GoogleTest

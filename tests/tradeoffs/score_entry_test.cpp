@@ -1,4 +1,4 @@
-#include "tradeoffs/score_entry.h"
+#include "tradeoffs/core/score_entry.h"
 
 // GoogleTest
 #include <gtest/gtest.h>

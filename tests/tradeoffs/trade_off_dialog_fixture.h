@@ -1,11 +1,11 @@
 #pragma once
 
-#include "common/recording_ui_services.h"
-#include "component/wizard_context.h"
+#include "common/core/recording_ui_services.h"
+#include "wizard/core/wizard_context.h"
 #include "trade_off_fixtures.h"
-#include "tradeoffs/trade_offs_a_dialog.h"
-#include "tradeoffs/trade_offs_a_events.h"
-#include "tradeoffs/trade_offs_a_presenter.h"
+#include "tradeoffs/ui/tradeoffs_a_dialog.h"
+#include "tradeoffs/core/tradeoffs_a_events.h"
+#include "tradeoffs/core/tradeoffs_a_presenter.h"
 
 // Qt
 #include <QApplication>

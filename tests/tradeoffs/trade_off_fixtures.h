@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/attribute_model.h"
-#include "tradeoffs/random_source.h"
+#include "tradeoffs/core/random_source.h"
 
 // Std
 #include <string>

@@ -1,9 +1,9 @@
-#include "common/number_format.h"
-#include "graphs/chart_widget.h"
-#include "graphs/palette.h"
+#include "common/core/number_format.h"
+#include "graphs/ui/chart_widget.h"
+#include "graphs/core/palette.h"
 #include "trade_off_dialog_fixture.h"
-#include "tradeoffs/judgment_page.h"
-#include "tradeoffs/pc_point_widget.h"
+#include "tradeoffs/core/judgment_page.h"
+#include "tradeoffs/ui/pc_point_widget.h"
 
 // Qt
 #include <QAction>

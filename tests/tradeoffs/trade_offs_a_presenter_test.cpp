@@ -1,9 +1,9 @@
-#include "tradeoffs/trade_offs_a_presenter.h"
+#include "tradeoffs/core/tradeoffs_a_presenter.h"
 
-#include "common/recording_ui_services.h"
-#include "component/wizard_context.h"
+#include "common/core/recording_ui_services.h"
+#include "wizard/core/wizard_context.h"
 #include "trade_off_fixtures.h"
-#include "tradeoffs/trade_offs_a_events.h"
+#include "tradeoffs/core/tradeoffs_a_events.h"
 
 // GoogleTest
 #include <gtest/gtest.h>

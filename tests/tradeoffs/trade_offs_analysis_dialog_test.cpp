@@ -2,7 +2,7 @@
 // driven through the real widgets.
 
 #include "trade_off_dialog_fixture.h"
-#include "tradeoffs/leave_one_out.h"
+#include "tradeoffs/core/leave_one_out.h"
 
 // Qt
 #include <QLabel>

@@ -1,12 +1,12 @@
 // A model the trade-off method cannot honour ends the method on loading, with a message that
 // names the attribute, before any judgment; nothing can be entered, fitted or exported.
 
-#include "common/recording_ui_services.h"
-#include "component/wizard_context.h"
+#include "common/core/recording_ui_services.h"
+#include "wizard/core/wizard_context.h"
 #include "model/model_check.h"
 #include "trade_off_fixtures.h"
-#include "tradeoffs/trade_offs_a_events.h"
-#include "tradeoffs/trade_offs_a_presenter.h"
+#include "tradeoffs/core/tradeoffs_a_events.h"
+#include "tradeoffs/core/tradeoffs_a_presenter.h"
 
 // Std
 #include <functional>

@@ -2,9 +2,9 @@
 // opened without a nested event loop, printing to a PDF file when it is accepted, and the
 // print-out read as a printer would take it at 3, 6 and 31 attributes.
 
-#include "graphs/drawing_surface_qt.h"
+#include "graphs/ui/painter_surface.h"
 #include "trade_off_dialog_fixture.h"
-#include "tradeoffs/trade_offs_printout_qt.h"
+#include "tradeoffs/ui/tradeoffs_printout.h"
 
 // Qt
 #include <QComboBox>
@@ -191,7 +191,7 @@ void TradeOffsPrintDialogTest::unloadingTheWizardWithThePrintDialogOpenLeavesNot
 void TradeOffsPrintDialogTest::printOutKeepsEveryTextReadableAtThreeSixAndThirtyOneAttributes() {
   for (const int n : {3, 6, 31}) {
     auto d = resultsOf(n);
-    const TradeOffsPrintoutQt printout = d->printout();
+    const TradeOffsPrintout printout = d->printout();
     TextRecorder page;
     QPainter painter(&page);
     const QRectF rect(0, 0, page.width(), page.height());
@@ -204,7 +204,7 @@ void TradeOffsPrintDialogTest::printOutKeepsEveryTextReadableAtThreeSixAndThirty
       printout.renderPage(painter, rect, i);
       QVERIFY(!page.texts().empty());
       for (const auto& t : page.texts()) {
-        QVERIFY2(t.points >= DrawingSurfaceQt::kMinimumPoints - 1e-9,
+        QVERIFY2(t.points >= PainterSurface::kMinimumPoints - 1e-9,
                  qPrintable(QStringLiteral("%1 at %2 pt").arg(t.text).arg(t.points)));
         all += t.text + QLatin1Char(' ');
       }

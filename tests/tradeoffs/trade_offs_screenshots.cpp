@@ -2,11 +2,11 @@
 // model through the real widgets and saves both pages, the three charts and a PDF print-out.
 // Usage: trade_offs_screenshots OUTPUT_DIR
 
-#include "common/number_format.h"
-#include "graphs/chart_widget.h"
+#include "common/core/number_format.h"
+#include "graphs/ui/chart_widget.h"
 #include "model/value_function.h"
 #include "trade_off_dialog_fixture.h"
-#include "tradeoffs/trade_offs_results_widget.h"
+#include "tradeoffs/ui/tradeoffs_results_widget.h"
 
 // Qt
 #include <QAction>

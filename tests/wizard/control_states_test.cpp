@@ -1,4 +1,4 @@
-#include "wizard/control_states.h"
+#include "wizard/core/control_states.h"
 
 // GoogleTest
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "wizard/wizard_presenter.h"
+#include "wizard/core/wizard_presenter.h"
 
 // GoogleTest
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "component/tnw_mavt_events.h"
+#include "component/core/tnw_mavt_events.h"
 
 // Windows
 #include <oaidl.h>

@@ -6,7 +6,7 @@
 #include "component/windows/dialog_backend.h"
 #include "component/windows/server_module.h"
 #include "component/windows/server_registration.h"
-#include "component/wizard_component.h"
+#include "component/core/wizard_component.h"
 
 // Windows
 #include <olectl.h>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "common/ui_services.h"
-#include "component/wizard_component.h"
-#include "component/wizard_dialog_factory.h"
+#include "common/core/ui_services.h"
+#include "component/core/wizard_component.h"
+#include "wizard/core/wizard_dialog_factory.h"
 
 // Std
 #include <memory>

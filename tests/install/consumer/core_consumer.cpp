@@ -1,7 +1,7 @@
 // A program that uses the Qt-free core alone (TNWizard::core): reads a model file and values the
 // first attribute's first point.
 
-#include <common/ui_services.h>
+#include <common/core/ui_services.h>
 #include <model/model_file_reader.h>
 #include <model/value_function.h>
 

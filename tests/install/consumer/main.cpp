@@ -2,7 +2,7 @@
 // presses Cancel on the selection dialog and checks that the events arrive as documented.
 
 #include <component/tnw_mavt.h>
-#include <component/wizard_context.h>
+#include <wizard/core/wizard_context.h>
 
 #include <QApplication>
 #include <QPushButton>

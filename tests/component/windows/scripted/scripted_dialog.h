@@ -1,6 +1,6 @@
 #pragma once
 
-#include "component/wizard_dialog.h"
+#include "wizard/core/wizard_dialog.h"
 
 // Std
 #include <memory>

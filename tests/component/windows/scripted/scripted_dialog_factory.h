@@ -1,7 +1,7 @@
 #pragma once
 
-#include "common/ui_services.h"
-#include "component/wizard_dialog_factory.h"
+#include "common/core/ui_services.h"
+#include "wizard/core/wizard_dialog_factory.h"
 
 // Std
 #include <map>

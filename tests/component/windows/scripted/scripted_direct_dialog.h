@@ -1,6 +1,6 @@
 #pragma once
 
-#include "direct/scenario_player.h"
+#include "direct/core/scenario_player.h"
 #include "scripted/scripted_dialog.h"
 #include "scripted/scripted_scenario.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "scripted/scripted_dialog.h"
-#include "selmethod/sel_method_presenter.h"
+#include "selmethod/core/selmethod_presenter.h"
 
 namespace tnw {
 

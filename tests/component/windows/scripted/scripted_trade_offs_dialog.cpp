@@ -1,9 +1,9 @@
 #include "scripted/scripted_trade_offs_dialog.h"
 
-#include "component/wizard_context.h"
+#include "wizard/core/wizard_context.h"
 #include "model_json/judgments_json.h"
 #include "scripted/scripted_dialogs.h"
-#include "tradeoffs/trade_offs_a_events.h"
+#include "tradeoffs/core/tradeoffs_a_events.h"
 
 // Std
 #include <cstdio>

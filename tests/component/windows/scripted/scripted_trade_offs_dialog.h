@@ -2,9 +2,9 @@
 
 #include "scripted/scripted_dialog.h"
 #include "scripted/scripted_scenario.h"
-#include "tradeoffs/clock_random_source.h"
-#include "tradeoffs/scenario_player.h"
-#include "tradeoffs/trade_offs_a_events.h"
+#include "tradeoffs/core/clock_random_source.h"
+#include "tradeoffs/core/scenario_player.h"
+#include "tradeoffs/core/tradeoffs_a_events.h"
 
 namespace tnw {
 

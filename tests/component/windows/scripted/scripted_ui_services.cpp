@@ -1,6 +1,6 @@
 #include "scripted/scripted_ui_services.h"
 
-#include "common/win_help.h"
+#include "common/core/win_help.h"
 
 namespace tnw {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/ui_services.h"
+#include "common/core/ui_services.h"
 #include "scripted/scripted_trace.h"
 
 namespace tnw {

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "common/core/ui_services.h"
+
+// Std
+#include <string>
+#include <vector>
+
+namespace tnw {
+
+// UI services that show nothing and record every request, for tests and headless runs.
+class RecordingUiServices : public UiServices {
+ public:
+  // One message box that was shown.
+  struct Message {
+    std::string text;
+    MessageIcon icon = MessageIcon::Information;
+    std::string title;
+  };
+
+  void messageBox(const std::string& text, MessageIcon icon, const std::string& title) override {
+    m_messages.push_back({text, icon, title});
+  }
+  void beep() override { ++m_beeps; }
+  void setBusy(bool busy) override {
+    m_busy = busy;
+    if (busy) ++m_busyCount;
+  }
+  void showHelp(const std::string& helpFile, int context) override {
+    m_helpFile = helpFile;
+    m_helpContext = context;
+  }
+  ScreenSize screenSize() const override { return m_screen; }
+
+  // The message boxes shown so far, in order.
+  const std::vector<Message>& messages() const { return m_messages; }
+  // Forgets the recorded message boxes.
+  void clearMessages() { m_messages.clear(); }
+  // How often the beep sounded.
+  int beeps() const { return m_beeps; }
+  // Whether the busy pointer is showing now.
+  bool busy() const { return m_busy; }
+  // How often the busy pointer was turned on.
+  int busyCount() const { return m_busyCount; }
+  // The last help file and context asked for (empty and 0 when none).
+  const std::string& helpFile() const { return m_helpFile; }
+  int helpContext() const { return m_helpContext; }
+  // Sets the screen size reported to callers.
+  void setScreenSize(ScreenSize size) { m_screen = size; }
+
+ private:
+  std::vector<Message> m_messages;
+  int m_beeps = 0;
+  bool m_busy = false;
+  int m_busyCount = 0;
+  std::string m_helpFile;
+  int m_helpContext = 0;
+  ScreenSize m_screen{1024, 768};
+};
+
+}  // namespace tnw

@@ -1,0 +1,139 @@
+#include "common/ui/accessibility.h"
+
+// Qt
+#include <QEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QRegularExpression>
+#include <QTabBar>
+#include <QTableView>
+
+namespace tnw {
+
+namespace {
+
+// The ring's width and its distance from the control's edge, in pixels.
+constexpr int kRingWidth = 2;
+constexpr int kRingGap = 1;
+
+}  // namespace
+
+void setAccessibleText(QWidget* widget, const QString& name, const QString& description) {
+  if (widget == nullptr) return;
+  if (!name.isNull() && widget->accessibleName() != name) widget->setAccessibleName(name);
+  if (widget->accessibleDescription() != description) {
+    widget->setAccessibleDescription(description);
+  }
+}
+
+void applyAccessibleTexts(QWidget* root, std::initializer_list<AccessibleText> texts) {
+  for (const AccessibleText& t : texts) {
+    const QString objectName = QString::fromUtf8(t.objectName);
+    const QString name = t.name != nullptr ? QString::fromUtf8(t.name) : QString();
+    const QString description = QString::fromUtf8(t.description);
+    // A control array's elements are named name_index.
+    const QRegularExpression element(QStringLiteral("^%1(_\\d+)?$")
+                                         .arg(QRegularExpression::escape(objectName)));
+    for (QWidget* w : root->findChildren<QWidget*>(element)) {
+      setAccessibleText(w, name, description);
+    }
+    if (root->objectName() == objectName) setAccessibleText(root, name, description);
+  }
+}
+
+void nameControlsByBuddies(QWidget* root) {
+  for (const QLabel* label : root->findChildren<QLabel*>()) {
+    QWidget* buddy = label->buddy();
+    if (buddy == nullptr || !buddy->accessibleName().isEmpty()) continue;
+    QString name = label->text();
+    name.remove(QRegularExpression(QStringLiteral("&(?!&)")));
+    name = name.trimmed();
+    if (name.endsWith(QLatin1Char(':'))) name.chop(1);
+    if (!name.isEmpty()) buddy->setAccessibleName(name);
+  }
+}
+
+void describeTabs(QWidget* root, const char* barName, std::initializer_list<const char*> texts) {
+  for (QTabBar* bar : root->findChildren<QTabBar*>(QString::fromUtf8(barName))) {
+    int i = 0;
+    for (const char* text : texts) {
+      const QString tip = QString::fromUtf8(text);
+      if (i < bar->count() && bar->tabToolTip(i) != tip) bar->setTabToolTip(i, tip);
+      ++i;
+    }
+  }
+}
+
+void makeTablesTabbable(QWidget* root) {
+  for (QTableView* table : root->findChildren<QTableView*>()) {
+    if (table->tabKeyNavigation()) table->setTabKeyNavigation(false);
+  }
+}
+
+FocusRingQt* FocusRingQt::attach(QWidget* target) {
+  if (target == nullptr || target->parentWidget() == nullptr) return nullptr;
+  for (FocusRingQt* ring :
+       target->parentWidget()->findChildren<FocusRingQt*>(QString(), Qt::FindDirectChildrenOnly)) {
+    if (ring->target() == target) return ring;
+  }
+  return new FocusRingQt(target);
+}
+
+FocusRingQt::FocusRingQt(QWidget* target) : QWidget(target->parentWidget()), m_target(target) {
+  setObjectName(QStringLiteral("focusRing"));
+  setAttribute(Qt::WA_TransparentForMouseEvents);
+  setAttribute(Qt::WA_NoSystemBackground);
+  setFocusPolicy(Qt::NoFocus);
+  hide();
+  target->installEventFilter(this);
+}
+
+void FocusRingQt::follow() {
+  const int m = kRingWidth + kRingGap;
+  setGeometry(m_target->geometry().adjusted(-m, -m, m, m));
+  raise();
+}
+
+bool FocusRingQt::eventFilter(QObject* watched, QEvent* event) {
+  if (watched != m_target) return QWidget::eventFilter(watched, event);
+  switch (event->type()) {
+    case QEvent::FocusIn:
+      follow();
+      show();
+      break;
+    case QEvent::FocusOut:
+    case QEvent::Hide:
+      hide();
+      break;
+    case QEvent::Move:
+    case QEvent::Resize:
+      if (isVisible()) follow();
+      break;
+    default:
+      break;
+  }
+  return false;
+}
+
+void FocusRingQt::paintEvent(QPaintEvent*) {
+  QPainter p(this);
+  QPen pen(palette().color(QPalette::Highlight), kRingWidth);
+  pen.setJoinStyle(Qt::MiterJoin);
+  p.setPen(pen);
+  p.setBrush(Qt::NoBrush);
+  const qreal half = kRingWidth / 2.0;
+  p.drawRect(QRectF(rect()).adjusted(half, half, -half, -half));
+}
+
+void describeWizardButtons(QWidget* root) {
+  applyAccessibleTexts(
+      root, {{"cmdBack", nullptr, "Goes back to the previous step"},
+             {"cmdNext", nullptr, "Goes on to the next step"},
+             {"cmdFinish", nullptr, "Ends the wizard and hands the weights to the host"},
+             {"cmdCancel", nullptr, "Ends the wizard without handing any weights to the host"},
+             {"cmdHelp", nullptr, "Shows the help for this step"},
+             {"cmdTNWizardHelp", nullptr, "Shows the help for this step"},
+             {"cmdPrint", nullptr, "Prints the results"}});
+}
+
+}  // namespace tnw

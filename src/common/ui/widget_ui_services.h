@@ -1,0 +1,45 @@
+#pragma once
+
+#include "common/core/ui_services.h"
+
+// Std
+#include <functional>
+#include <string>
+
+namespace tnw {
+
+// The UI services on Qt: message boxes, the beep, the busy pointer, help and the screen size.
+class WidgetUiServices : public UiServices {
+ public:
+  // Opens a help file at a context number; hosts install one for their own help viewer.
+  using HelpHandler = std::function<void(const std::string& helpFile, int context)>;
+
+  WidgetUiServices() = default;
+  // Restores the default pointer if it is still busy.
+  ~WidgetUiServices() override;
+  WidgetUiServices(const WidgetUiServices&) = delete;
+  WidgetUiServices& operator=(const WidgetUiServices&) = delete;
+
+  // Shows a modal QMessageBox with the icon, title and text and one OK button.
+  void messageBox(const std::string& text, MessageIcon icon, const std::string& title) override;
+  // Sounds the desktop's beep.
+  void beep() override;
+  // Shows the wait cursor over the whole application, or restores the previous one.
+  void setBusy(bool busy) override;
+  // Calls the installed help handler; without one, opens the file with WinHelp on Windows and
+  // elsewhere tells the user which file and topic would open.
+  void showHelp(const std::string& helpFile, int context) override;
+  // The size of the primary screen in device-independent pixels.
+  ScreenSize screenSize() const override;
+
+  // Installs the handler for help requests; an empty handler restores the default.
+  void setHelpHandler(HelpHandler handler) { m_helpHandler = std::move(handler); }
+  // The text the default help handler shows for a help file and context.
+  static std::string defaultHelpText(const std::string& helpFile, int context);
+
+ private:
+  HelpHandler m_helpHandler;
+  bool m_busy = false;
+};
+
+}  // namespace tnw

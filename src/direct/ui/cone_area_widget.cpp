@@ -1,0 +1,180 @@
+#include "direct/ui/cone_area_widget.h"
+
+#include "direct/core/preference_cone.h"
+
+// Qt
+#include <QFrame>
+#include <QMouseEvent>
+#include <QPainter>
+
+// Std
+#include <algorithm>
+
+namespace tnw::direct {
+namespace {
+
+constexpr int kHandlePixels = 11;
+// The cone's fill: light peach, 0xC0E0FF in the system's BGR notation.
+const QColor kConeFill(255, 224, 192);
+
+}  // namespace
+
+ConeAreaWidget::ConeAreaWidget(QWidget* parent) : QWidget(parent) {
+  setObjectName(QStringLiteral("picTradeOffsRange"));
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+  policy.setHeightForWidth(true);
+  setSizePolicy(policy);
+  for (int i = 0; i < 2; ++i) {
+    auto* h = new QFrame(this);
+    h->setObjectName(QStringLiteral("picHandle_%1").arg(i));
+    h->setFixedSize(kHandlePixels, kHandlePixels);
+    h->setFrameShape(QFrame::Box);
+    h->setAutoFillBackground(true);
+    QPalette pal = h->palette();
+    pal.setColor(QPalette::Window, i == 0 ? QColor(0, 0, 160) : QColor(160, 0, 0));
+    h->setPalette(pal);
+    h->setCursor(Qt::SizeAllCursor);
+    h->setToolTip(i == 0 ? tr("Drag to set one end of the interval")
+                         : tr("Drag to set the other end of the interval"));
+    h->installEventFilter(this);
+    m_handles[static_cast<std::size_t>(i)] = h;
+  }
+  m_handlePos = {QPointF(0, m_side), QPointF(0, m_side)};
+  layoutHandles();
+}
+
+void ConeAreaWidget::setAreaSide(double side) {
+  if (side <= 0.0 || side == m_side) return;
+  m_side = side;
+  layoutHandles();
+  update();
+}
+
+void ConeAreaWidget::setHandlePosition(int index, QPointF areaPoint) {
+  if (index < 0 || index > 1) return;
+  m_handlePos[static_cast<std::size_t>(index)] = areaPoint;
+  layoutHandles();
+}
+
+QPointF ConeAreaWidget::handlePosition(int index) const {
+  if (index < 0 || index > 1) return {};
+  return m_handlePos[static_cast<std::size_t>(index)];
+}
+
+void ConeAreaWidget::setCone(const QPolygonF& areaPolygon) {
+  m_cone = areaPolygon;
+  update();
+}
+
+void ConeAreaWidget::setHandlesVisible(bool visible) {
+  for (QFrame* h : m_handles) h->setVisible(visible);
+}
+
+QFrame* ConeAreaWidget::handle(int index) const {
+  if (index < 0 || index > 1) return nullptr;
+  return m_handles[static_cast<std::size_t>(index)];
+}
+
+QRectF ConeAreaWidget::squareRect() const {
+  const int side = std::min(width(), height());
+  return QRectF(0, height() - side, side, side);
+}
+
+double ConeAreaWidget::scale() const { return squareRect().width() / m_side; }
+
+QPointF ConeAreaWidget::toPixels(QPointF areaPoint) const {
+  const QRectF sq = squareRect();
+  return sq.topLeft() + areaPoint * scale();
+}
+
+QPointF ConeAreaWidget::toArea(QPointF pixelPoint) const {
+  const double s = scale();
+  if (s <= 0.0) return {};
+  return (pixelPoint - squareRect().topLeft()) / s;
+}
+
+QSize ConeAreaWidget::sizeHint() const { return {240, 240}; }
+
+QSize ConeAreaWidget::minimumSizeHint() const { return {160, 160}; }
+
+void ConeAreaWidget::layoutHandles() {
+  // The handles are placed on the square in pixels, kept whole inside it by the cone geometry.
+  const QRectF sq = squareRect();
+  const PreferenceCone pixels(static_cast<float>(sq.width()), static_cast<float>(kHandlePixels));
+  for (std::size_t i = 0; i < m_handles.size(); ++i) {
+    const QPointF c = toPixels(m_handlePos[i]) - sq.topLeft();
+    const IntPoint at =
+        pixels.handleTopLeft({static_cast<float>(c.x()), static_cast<float>(c.y())});
+    m_handles[i]->move(qRound(sq.left()) + at.x, qRound(sq.top()) + at.y);
+  }
+}
+
+void ConeAreaWidget::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  layoutHandles();
+}
+
+void ConeAreaWidget::paintEvent(QPaintEvent*) {
+  QPainter p(this);
+  p.fillRect(rect(), palette().color(QPalette::Window));
+  const QRectF sq = squareRect();
+  p.fillRect(sq, palette().color(QPalette::Base));
+  p.setRenderHint(QPainter::Antialiasing);
+  // Grid lines at the reach of the handles: a ratio of 1 lies on their crossing.
+  p.setPen(QPen(palette().color(QPalette::Mid), 1, Qt::DotLine));
+  const QPointF reach = toPixels(QPointF(0.7 * m_side, 0.3 * m_side));
+  p.drawLine(QPointF(reach.x(), sq.top()), QPointF(reach.x(), sq.bottom()));
+  p.drawLine(QPointF(sq.left(), reach.y()), QPointF(sq.right(), reach.y()));
+  p.drawLine(sq.bottomLeft(), toPixels(QPointF(m_side, 0)));
+  if (m_cone.size() >= 3) {
+    QPolygonF px;
+    for (const QPointF& pt : m_cone) px << toPixels(pt);
+    p.setPen(QPen(palette().color(QPalette::Base), 1));
+    p.setBrush(kConeFill);
+    p.drawPolygon(px, Qt::WindingFill);
+    p.setPen(QPen(QColor(200, 120, 40), 1.5));
+    p.drawLine(px[0], px[1]);
+    p.drawLine(px[0], px[2]);
+  }
+  p.setRenderHint(QPainter::Antialiasing, false);
+  p.setPen(palette().color(QPalette::Dark));
+  p.setBrush(Qt::NoBrush);
+  p.drawRect(sq.adjusted(0, 0, -1, -1));
+}
+
+bool ConeAreaWidget::eventFilter(QObject* watched, QEvent* event) {
+  const auto it = std::find(m_handles.begin(), m_handles.end(), watched);
+  if (it == m_handles.end()) return QWidget::eventFilter(watched, event);
+  const int index = static_cast<int>(it - m_handles.begin());
+  switch (event->type()) {
+    case QEvent::MouseButtonPress: {
+      auto* me = static_cast<QMouseEvent*>(event);
+      if (me->button() != Qt::LeftButton) return false;
+      m_dragging = index;
+      // Measured from the handle's centre: the point goes where the handle is dragged, also for
+      // a handle kept inside the square beside its point.
+      m_grabOffset = me->position() - QPointF(kHandlePixels / 2.0, kHandlePixels / 2.0);
+      return true;
+    }
+    case QEvent::MouseMove: {
+      if (m_dragging != index) return false;
+      auto* me = static_cast<QMouseEvent*>(event);
+      const QPointF centre = (*it)->mapTo(this, me->position()) - m_grabOffset;
+      QPointF area = toArea(centre);
+      area.setX(std::clamp(area.x(), 0.0, m_side));
+      area.setY(std::clamp(area.y(), 0.0, m_side));
+      emit handleDragged(index, area);
+      return true;
+    }
+    case QEvent::MouseButtonRelease:
+      if (m_dragging != index) return false;
+      m_dragging = -1;
+      emit handleReleased(index);
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace tnw::direct

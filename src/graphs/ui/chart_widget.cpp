@@ -1,0 +1,56 @@
+#include "graphs/ui/chart_widget.h"
+
+// Qt
+#include <QPainter>
+
+namespace tnw {
+
+ChartWidget::ChartWidget(QWidget* parent) : QWidget(parent) {
+  setBackgroundRole(QPalette::Base);
+  setAutoFillBackground(true);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void ChartWidget::setPainter(Painter painter) {
+  m_painter = std::move(painter);
+  redraw();
+}
+
+void ChartWidget::redraw() {
+  m_stale = true;
+  update();
+}
+
+QSize ChartWidget::sizeHint() const {
+  const int em = fontMetrics().height();
+  return {em * 24, em * 16};
+}
+
+QSize ChartWidget::minimumSizeHint() const {
+  const int em = fontMetrics().height();
+  return {em * 16, em * 11};
+}
+
+void ChartWidget::paintEvent(QPaintEvent*) {
+  ++m_paintCount;
+  if (!m_painter) return;
+  const qreal ratio = devicePixelRatioF();
+  const QSize pixels(qRound(width() * ratio), qRound(height() * ratio));
+  if (m_stale || m_picture.size() != pixels || m_picture.devicePixelRatio() != ratio) {
+    m_picture = QImage(pixels, QImage::Format_RGB32);
+    m_picture.setDevicePixelRatio(ratio);
+    // The picture measures texts as the widget would.
+    m_picture.setDotsPerMeterX(qRound(logicalDpiX() / 0.0254));
+    m_picture.setDotsPerMeterY(qRound(logicalDpiY() / 0.0254));
+    m_picture.fill(palette().color(QPalette::Base));
+    QPainter picture(&m_picture);
+    picture.setFont(font());
+    m_painter(picture, QRectF(rect()));
+    ++m_drawCount;
+    m_stale = false;
+  }
+  QPainter p(this);
+  p.drawImage(QPointF(0, 0), m_picture);
+}
+
+}  // namespace tnw
