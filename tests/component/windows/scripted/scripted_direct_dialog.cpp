@@ -74,7 +74,7 @@ void ScriptedDirectDialog::finishing(int step, bool finishEnabled) {
 }
 
 std::string ScriptedDirectDialog::arraysText() const {
-  const DirectExport::Weights& exported = m_player.exported();
+  const direct::DirectExport::Weights& exported = m_player.exported();
   return " Weights" + numbers(exported.Weights) + " WeightsH" + numbers(exported.WeightsH) +
          " WeightsL" + numbers(exported.WeightsL);
 }

@@ -26,7 +26,7 @@ std::string numbers(const std::vector<double>& values) {
 }  // namespace
 
 ScriptedTradeOffsDialog::ScriptedTradeOffsDialog(std::string name, WizardContext& context,
-                                                 TradeOffsAEvents& events, UiServices& ui,
+                                                 tradeoffs::TradeOffsAEvents& events, UiServices& ui,
                                                  ScriptedScenario& scenario, MessageWindow& window,
                                                  const ScriptedTrace& trace)
     : ScriptedDialog(std::move(name), {780, 580}, window, trace),
@@ -41,7 +41,7 @@ ScriptedTradeOffsDialog::ScriptedTradeOffsDialog(std::string name, WizardContext
 void ScriptedTradeOffsDialog::act() {
   if (m_played || m_run.value.is_null()) return;
   m_played = true;
-  TradeOffScenario run;
+  tradeoffs::TradeOffScenario run;
   const int numAtt = m_context.model.attributeCount();
   if (const auto error = readTradeOffScenario(m_run.value, m_run.pointer, numAtt, run)) {
     trace("scenario error: " + error->text());
@@ -67,7 +67,7 @@ void ScriptedTradeOffsDialog::UnloadTNWizard(std::int16_t fIndex, bool WeightsDo
   m_events.UnloadTNWizard(fIndex, WeightsDone);
 }
 
-void ScriptedTradeOffsDialog::judgmentEntered(const TradeOffJudgment& judgment, bool entered) {
+void ScriptedTradeOffsDialog::judgmentEntered(const tradeoffs::TradeOffJudgment& judgment, bool entered) {
   const std::string pair = std::to_string(judgment.first) + "," + std::to_string(judgment.second);
   trace(entered ? "judged " + pair : "pair " + pair + " refused");
 }
@@ -78,7 +78,7 @@ void ScriptedTradeOffsDialog::finishing(int step, const std::string& comment, bo
 }
 
 std::unique_ptr<WizardDialog> makeScriptedTradeOffsDialog(std::string name, WizardContext& context,
-                                                          TradeOffsAEvents& events, UiServices& ui,
+                                                          tradeoffs::TradeOffsAEvents& events, UiServices& ui,
                                                           ScriptedScenario& scenario,
                                                           MessageWindow& window,
                                                           const ScriptedTrace& trace) {

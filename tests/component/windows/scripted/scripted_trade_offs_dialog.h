@@ -20,11 +20,11 @@ struct WizardContext;
 // presenter's events pass through the dialog on their way to the component, so that after Finish it
 // traces the exported arrays as the host left them.
 class ScriptedTradeOffsDialog : public ScriptedDialog,
-                                private TradeOffsAEvents,
-                                private TradeOffObserver {
+                                private tradeoffs::TradeOffsAEvents,
+                                private tradeoffs::TradeOffObserver {
  public:
   // A loaded trade-off dialog (loading sends its instruction through events).
-  ScriptedTradeOffsDialog(std::string name, WizardContext& context, TradeOffsAEvents& events,
+  ScriptedTradeOffsDialog(std::string name, WizardContext& context, tradeoffs::TradeOffsAEvents& events,
                           UiServices& ui, ScriptedScenario& scenario, MessageWindow& window,
                           const ScriptedTrace& trace);
 
@@ -38,13 +38,13 @@ class ScriptedTradeOffsDialog : public ScriptedDialog,
   void SendMasseges(const std::string& Msg) override;
   void ShowTNWSelMethod() override;
   void UnloadTNWizard(std::int16_t fIndex, bool WeightsDone) override;
-  void judgmentEntered(const TradeOffJudgment& judgment, bool entered) override;
+  void judgmentEntered(const tradeoffs::TradeOffJudgment& judgment, bool entered) override;
   void finishing(int step, const std::string& comment, bool finishEnabled) override;
 
   WizardContext& m_context;
-  TradeOffsAEvents& m_events;
-  ClockRandomSource m_random;
-  TradeOffScenarioPlayer m_player;
+  tradeoffs::TradeOffsAEvents& m_events;
+  tradeoffs::ClockRandomSource m_random;
+  tradeoffs::TradeOffScenarioPlayer m_player;
   ScriptedScenario::Run m_run;
   bool m_played = false;
 };
