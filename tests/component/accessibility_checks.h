@@ -1,5 +1,10 @@
 #pragma once
 
+#include "direct/ui/cone_area_widget.h"
+#include "direct/ui/status_lights_widget.h"
+#include "graphs/ui/chart_widget.h"
+#include "tradeoffs/ui/pc_graph_widget.h"
+
 // Qt
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -29,9 +34,13 @@ inline QString accessibleText(QWidget* w, QAccessible::Text role) {
 }
 
 // The custom-painted controls of the dialogs, which Qt knows nothing about.
+// Their classes are named through their meta-objects, so a class that moves to another
+// namespace is still recognised here (a class name spelt out would silently match nothing).
 inline bool isCustomPainted(const QWidget* w) {
-  return w->inherits("tnw::ConeAreaWidget") || w->inherits("tnw::PcGraphWidget") ||
-         w->inherits("tnw::ChartWidget") || w->inherits("tnw::StatusLightsWidget");
+  return qobject_cast<const direct::ConeAreaWidget*>(w) != nullptr ||
+         qobject_cast<const tradeoffs::PcGraphWidget*>(w) != nullptr ||
+         qobject_cast<const ChartWidget*>(w) != nullptr ||
+         qobject_cast<const direct::StatusLightsWidget*>(w) != nullptr;
 }
 
 // Whether a control is one the user works with: it takes input or the focus.
@@ -55,11 +64,31 @@ inline QString who(const QWidget* w) {
                                        QString::fromUtf8(w->metaObject()->className()));
 }
 
+// Where an interface's children disagree with it (empty when nowhere): each child is given
+// again as the same interface, knows its index, and names the interface as its parent; an index
+// outside the children gives none.
+inline QString childrenProblem(QAccessibleInterface* iface) {
+  const int count = iface->childCount();
+  if (iface->child(-1) != nullptr || iface->child(count) != nullptr) {
+    return QStringLiteral("a child outside the %1 children").arg(count);
+  }
+  for (int i = 0; i < count; ++i) {
+    QAccessibleInterface* child = iface->child(i);
+    if (child == nullptr) return QStringLiteral("child %1 missing").arg(i);
+    if (iface->child(i) != child) return QStringLiteral("child %1 not kept").arg(i);
+    if (iface->indexOfChild(child) != i) return QStringLiteral("child %1 at another index").arg(i);
+    if (child->parent() != iface) return QStringLiteral("child %1 has another parent").arg(i);
+  }
+  return {};
+}
+
 // What is missing in the accessible interface of a custom-painted control (empty when none).
 inline QString customInterfaceProblem(QWidget* w) {
   QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(w);
   if (iface == nullptr) return QStringLiteral("no accessible interface");
-  if (w->inherits("tnw::StatusLightsWidget")) {
+  if (QAccessible::queryAccessibleInterface(w) != iface) return QStringLiteral("not kept");
+  if (const QString problem = childrenProblem(iface); !problem.isEmpty()) return problem;
+  if (qobject_cast<const direct::StatusLightsWidget*>(w) != nullptr) {
     return iface->text(QAccessible::Value).isEmpty() ? QStringLiteral("lamps: no state as text")
                                                      : QString();
   }
@@ -69,7 +98,7 @@ inline QString customInterfaceProblem(QWidget* w) {
     focusable = focusable || (part->focusPolicy() & Qt::TabFocus) != 0;
   }
   if (!focusable) return QStringLiteral("cannot take the focus");
-  if (w->inherits("tnw::ChartWidget")) {
+  if (qobject_cast<const ChartWidget*>(w) != nullptr) {
     return iface->tableInterface() == nullptr ? QStringLiteral("chart: no table") : QString();
   }
   // The cone and the panel: two value objects (the handles, the points A and B).
