@@ -6,8 +6,14 @@
 #include <QGuiApplication>
 #include <QMessageBox>
 #include <QScreen>
+#include <QTextBrowser>
+#include <QTextDocument>
 #include <QTimer>
 #include <QtTest>
+
+// Std
+#include <string>
+#include <vector>
 
 namespace tnw {
 
@@ -36,6 +42,19 @@ class UiServicesQtTest : public QObject {
     });
     ui.messageBox(text, icon, "NORIX");
     return seen;
+  }
+
+ private:
+  // The help windows open now.
+  static QList<QTextBrowser*> helpWindows() {
+    QList<QTextBrowser*> found;
+    for (QWidget* w : QApplication::topLevelWidgets()) {
+      auto* browser = qobject_cast<QTextBrowser*>(w);
+      if (browser != nullptr && w->objectName() == QLatin1String("helpBrowser")) {
+        found.append(browser);
+      }
+    }
+    return found;
   }
 
  private slots:
@@ -83,6 +102,8 @@ class UiServicesQtTest : public QObject {
     QCOMPARE(QGuiApplication::overrideCursor(), nullptr);
   }
 
+#ifdef _WIN32
+  // Windows: where WinHelp cannot open the file, the user is told which file and topic.
   void helpWithoutAHandlerTellsTheUserWhichFileAndTopic() {
     WidgetUiServices ui;
     Seen seen;
@@ -98,6 +119,47 @@ class UiServicesQtTest : public QObject {
     QVERIFY(seen.text.contains(QStringLiteral("C:\\NORIX\\NORIX.HLP")));
     QVERIFY(seen.text.contains(QStringLiteral("4005025")));
   }
+#else
+  // Elsewhere the component's own pages stand in for the host's help file, in one window.
+  void helpWithoutAHandlerShowsTheComponentsPagesInOneWindow() {
+    WidgetUiServices ui;
+    ui.showHelp("C:\\NORIX\\NORIX.HLP", 4005025);
+    QCOMPARE(helpWindows().size(), 1);
+    QTextBrowser* browser = helpWindows().front();
+    QCOMPARE(browser->source(), QUrl(QStringLiteral("qrc:/tnw/help/index.html")));
+    QVERIFY(browser->toPlainText().contains(QStringLiteral("Choosing the elicitation method")));
+    QVERIFY(browser->isVisible());
+    QCOMPARE(browser->windowModality(), Qt::NonModal);
+    QVERIFY(QApplication::activeModalWidget() == nullptr);
+
+    ui.showHelpTopic("C:\\NORIX\\NORIX.HLP", 4005025, {"selmethod", "selection"});
+    QCOMPARE(helpWindows().size(), 1);
+    QCOMPARE(helpWindows().front(), browser);
+    QCOMPARE(browser->source(), QUrl(QStringLiteral("qrc:/tnw/help/selmethod.html#selection")));
+    QVERIFY(browser->toPlainText().contains(QStringLiteral("Direct")));
+
+    // A page name that is not one of the shipped pages' shows the contents instead.
+    ui.showHelpTopic("C:\\NORIX\\NORIX.HLP", 4005025, {"../selmethod", "selection"});
+    QCOMPARE(browser->source(), QUrl(QStringLiteral("qrc:/tnw/help/index.html#selection")));
+    delete browser;
+  }
+
+  void everyDialogsPageHasItsStepsAnchors() {
+    WidgetUiServices ui;
+    const std::vector<HelpTopic> topics = {{"selmethod", "selection"}, {"direct_a", "ordering"},
+                                           {"direct_a", "reference"},  {"direct_a", "judgment"},
+                                           {"direct_a", "results"},    {"tradeoffs_a", "judgment"},
+                                           {"tradeoffs_a", "results"}};
+    for (const HelpTopic& topic : topics) {
+      ui.showHelpTopic("C:\\NORIX\\NORIX.HLP", 4005025, topic);
+      QTextBrowser* browser = helpWindows().front();
+      const QString anchor = QString::fromStdString(topic.anchor);
+      QVERIFY2(browser->document()->toHtml().contains(QStringLiteral("name=\"%1\"").arg(anchor)),
+               qPrintable(browser->source().toString()));
+    }
+    delete helpWindows().front();
+  }
+#endif
 
   void helpGoesToAnInstalledHandler() {
     WidgetUiServices ui;
@@ -110,6 +172,10 @@ class UiServicesQtTest : public QObject {
     ui.showHelp("/opt/norix\\NORIX.HLP", 4005025);
     QCOMPARE(file, std::string("/opt/norix\\NORIX.HLP"));
     QCOMPARE(context, 4005025);
+    file.clear();
+    ui.showHelpTopic("/opt/norix\\NORIX.HLP", 4005025, {"direct_a", "judgment"});
+    QCOMPARE(file, std::string("/opt/norix\\NORIX.HLP"));
+    QVERIFY(helpWindows().isEmpty());
   }
 
   void screenSizeIsThePrimaryScreens() {

@@ -1,12 +1,13 @@
 #include "common/core/recording_ui_services.h"
 #include "component/tnw_mavt.h"
-#include "wizard/core/wizard_context.h"
 #include "component/ui/widget_dialog_factory.h"
+#include "wizard/core/wizard_context.h"
 
 // Qt
 #include <QApplication>
 #include <QListWidget>
 #include <QPushButton>
+#include <QTextBrowser>
 #include <QtTest>
 
 // Std
@@ -233,6 +234,32 @@ class TnwMavtDialogTest : public QObject {
     QTest::mouseClick(button(selMethod(), "cmdHelp"), Qt::LeftButton);
     QCOMPARE(file, std::string("C:\\NORIX\\NORIX.HLP"));
     QCOMPARE(context, 4005025);
+    QCOMPARE(countTopLevel("helpBrowser"), 0);
+    wizard.UnloadTNWizard();
+  }
+
+  void helpWithoutAHandlerShowsTheSelectionPageInTheHelpWindow() {
+    TNW_MAVT wizard;
+    std::string dir = "C:\\NORIX";
+    wizard.GetCurFileData(dir, 1, TNW_SAMPLE_MODEL);
+    wizard.ShowTNWizard();
+    QVERIFY(selMethod() != nullptr);
+    QTest::mouseClick(button(selMethod(), "cmdHelp"), Qt::LeftButton);
+    QCOMPARE(countTopLevel("helpBrowser"), 1);
+    auto* browser = qobject_cast<QTextBrowser*>(topLevel("helpBrowser"));
+    QVERIFY(browser != nullptr);
+    QVERIFY(browser->isVisible());
+    QCOMPARE(browser->source(), QUrl(QStringLiteral("qrc:/tnw/help/selmethod.html#selection")));
+    QVERIFY(browser->toPlainText().contains(QStringLiteral("Choosing the elicitation method")));
+    QVERIFY(!browser->windowTitle().isEmpty());
+    // Not blocked by a modal dialog: either none is open or the help window is one of its.
+    QWidget* modal = QApplication::activeModalWidget();
+    QVERIFY(modal == nullptr || browser->parentWidget() == modal);
+    // Pressed again, the same window comes back.
+    QTest::mouseClick(button(selMethod(), "cmdHelp"), Qt::LeftButton);
+    QCOMPARE(countTopLevel("helpBrowser"), 1);
+    QCOMPARE(topLevel("helpBrowser"), static_cast<QWidget*>(browser));
+    delete browser;
     wizard.UnloadTNWizard();
   }
 

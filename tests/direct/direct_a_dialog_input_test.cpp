@@ -40,6 +40,7 @@ class DirectADialogInputTest : public QObject {
   void theWholeMethodCanBeDoneWithTheKeyboard();
   void tabVisitsTheControlsInTheOrderShown();
   void helpOpensTheHostsHelpFileAtItsContext();
+  void helpNamesTheStepItIsPressedOn();
   void closeBoxCancels();
   void aModelWithoutUsableAttributesStillCancels();
   void noTextIsClippedOnAnyStep();
@@ -305,6 +306,33 @@ void DirectADialogInputTest::helpOpensTheHostsHelpFileAtItsContext() {
   QTest::mouseClick(button("cmdHelp"), Qt::LeftButton);
   QCOMPARE(m_ui.helpFile(), std::string("C:\\NORIX\\NORIX.HLP"));
   QCOMPARE(m_ui.helpContext(), 4005025);
+  QCOMPARE(m_ui.helpTopic().page, std::string("direct_a"));
+  QCOMPARE(m_ui.helpTopic().anchor, std::string("ordering"));
+}
+
+void DirectADialogInputTest::helpNamesTheStepItIsPressedOn() {
+  // Presses Help and gives the page and anchor it asked for, as "page#anchor".
+  const auto helpAnchor = [this] {
+    QTest::mouseClick(button("cmdHelp"), Qt::LeftButton);
+    return m_ui.helpTopic().page + "#" + m_ui.helpTopic().anchor;
+  };
+  open(test::makeContext(2));
+  QCOMPARE(helpAnchor(), std::string("direct_a#ordering"));
+  QVERIFY(test::dragAndDrop(test::orderBox(m_dialog.get(), 1), QStringLiteral("A0")));
+  QVERIFY(test::dragAndDrop(test::orderBox(m_dialog.get(), 2), QStringLiteral("A1")));
+  QTest::mouseClick(button("cmdNext"), Qt::LeftButton);
+  QCOMPARE(m_dialog->presenter().WizardStep(), 1);
+  QCOMPARE(helpAnchor(), std::string("direct_a#reference"));
+  QTest::mouseClick(control<QPushButton>(m_dialog.get(), "cmdAttButtons", 0), Qt::LeftButton);
+  QTest::mouseClick(button("cmdNext"), Qt::LeftButton);
+  QCOMPARE(m_dialog->presenter().WizardStep(), 2);
+  QCOMPARE(helpAnchor(), std::string("direct_a#judgment"));
+  typeInto(lowerBox(), QStringLiteral("0.5"));
+  typeInto(upperBox(), QStringLiteral("0.8"));
+  QTest::mouseClick(control<QPushButton>(m_dialog.get(), "cmdEnter"), Qt::LeftButton);
+  QTest::mouseClick(button("cmdNext"), Qt::LeftButton);
+  QCOMPARE(m_dialog->presenter().WizardStep(), 3);
+  QCOMPARE(helpAnchor(), std::string("direct_a#results"));
 }
 
 void DirectADialogInputTest::closeBoxCancels() {

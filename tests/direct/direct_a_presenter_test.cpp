@@ -92,6 +92,8 @@ TEST_F(DirectAPresenterTest, HelpOpensTheHostsHelpFileAtItsContext) {
   p.cmdHelp_Click();
   EXPECT_EQ(ui.helpFile(), "C:\\NORIX\\NORIX.HLP");
   EXPECT_EQ(ui.helpContext(), 4005025);
+  EXPECT_EQ(ui.helpTopic().page, "direct_a");
+  EXPECT_EQ(ui.helpTopic().anchor, "ordering");
 }
 
 TEST_F(DirectAPresenterTest, CancelOnAnyStepExportsNothingAndUnloadsWithWeightsDoneFalse) {

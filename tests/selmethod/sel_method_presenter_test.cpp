@@ -156,6 +156,8 @@ TEST_F(SelMethodPresenterTest, HelpOpensTheHostsHelpFileAtTheWizardsTopic) {
   presenter.cmdHelp_Click();
   EXPECT_EQ(ui.helpFile(), "C:\\NORIX\\NORIX.HLP");
   EXPECT_EQ(ui.helpContext(), 4005025);
+  EXPECT_EQ(ui.helpTopic().page, "selmethod");
+  EXPECT_EQ(ui.helpTopic().anchor, "selection");
 }
 
 TEST_F(SelMethodPresenterTest, ActivationDisablesBackAndFinishAgain) {

@@ -1,6 +1,6 @@
 #include "common/core/number_format.h"
-#include "graphs/ui/chart_widget.h"
 #include "graphs/core/palette.h"
+#include "graphs/ui/chart_widget.h"
 #include "trade_off_dialog_fixture.h"
 #include "tradeoffs/core/judgment_page.h"
 #include "tradeoffs/ui/pc_point_widget.h"
@@ -446,6 +446,18 @@ void TradeOffsADialogTest::helpOpensTheHostsHelpFileAtTheWizardTopic() {
   auto d = open(3);
   clickButton(d.get(), "cmdTNWizardHelp");
   QCOMPARE(m_ui.helpFile(), std::string("C:\\NORIX\\NORIX.HLP"));
+  QCOMPARE(m_ui.helpContext(), 4005025);
+  // The help names the page it was pressed on, for viewers with a page per step.
+  QCOMPARE(m_ui.helpTopic().page, std::string("tradeoffs_a"));
+  QCOMPARE(m_ui.helpTopic().anchor, std::string("judgment"));
+  typeScores(d.get(), "6", "2", "3", "7");
+  enterTradeOff(d.get());
+  clickButton(d.get(), "cmdNext");
+  QCOMPARE(child<QStackedWidget>(d.get(), "pages")->currentWidget()->objectName(),
+           QStringLiteral("pageResults"));
+  clickButton(d.get(), "cmdTNWizardHelp");
+  QCOMPARE(m_ui.helpTopic().page, std::string("tradeoffs_a"));
+  QCOMPARE(m_ui.helpTopic().anchor, std::string("results"));
   QCOMPARE(m_ui.helpContext(), 4005025);
 }
 

@@ -30,6 +30,10 @@ class RecordingUiServices : public UiServices {
     m_helpFile = helpFile;
     m_helpContext = context;
   }
+  void showHelpTopic(const std::string& helpFile, int context, const HelpTopic& topic) override {
+    m_helpTopic = topic;
+    showHelp(helpFile, context);
+  }
   ScreenSize screenSize() const override { return m_screen; }
 
   // The message boxes shown so far, in order.
@@ -45,6 +49,8 @@ class RecordingUiServices : public UiServices {
   // The last help file and context asked for (empty and 0 when none).
   const std::string& helpFile() const { return m_helpFile; }
   int helpContext() const { return m_helpContext; }
+  // The dialog page and step anchor of the last help request that gave one.
+  const HelpTopic& helpTopic() const { return m_helpTopic; }
   // Sets the screen size reported to callers.
   void setScreenSize(ScreenSize size) { m_screen = size; }
 
@@ -55,6 +61,7 @@ class RecordingUiServices : public UiServices {
   int m_busyCount = 0;
   std::string m_helpFile;
   int m_helpContext = 0;
+  HelpTopic m_helpTopic;
   ScreenSize m_screen{1024, 768};
 };
 

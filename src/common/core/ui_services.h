@@ -14,6 +14,15 @@ struct ScreenSize {
   int height = 0;
 };
 
+// Where in the wizard a help request comes from: the dialog's help page and the step's anchor on
+// it, for help viewers that show one page per dialog.
+struct HelpTopic {
+  // The dialog's page: "selmethod", "direct_a" or "tradeoffs_a".
+  std::string page;
+  // The step's anchor on that page, e.g. "ordering".
+  std::string anchor;
+};
+
 // What the wizard asks of its user-interface layer; the Qt layer and tests implement it.
 class UiServices {
  public:
@@ -27,6 +36,12 @@ class UiServices {
   virtual void setBusy(bool busy) = 0;
   // Opens the help file at a context number.
   virtual void showHelp(const std::string& helpFile, int context) = 0;
+  // Opens help for a step of a dialog: the help file at a context number, or a viewer that
+  // knows the dialog's page and the step's anchor. By default the same as showHelp.
+  virtual void showHelpTopic(const std::string& helpFile, int context, const HelpTopic& topic) {
+    static_cast<void>(topic);
+    showHelp(helpFile, context);
+  }
   // The size of the screen dialogs are centred on.
   virtual ScreenSize screenSize() const = 0;
 };

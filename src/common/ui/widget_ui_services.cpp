@@ -9,6 +9,8 @@
 
 #ifdef _WIN32
 #include "common/core/win_help.h"
+#else
+#include "common/ui/help_browser.h"
 #endif
 
 namespace tnw {
@@ -35,7 +37,8 @@ WidgetUiServices::~WidgetUiServices() {
   if (m_busy && QGuiApplication::instance() != nullptr) QGuiApplication::restoreOverrideCursor();
 }
 
-void WidgetUiServices::messageBox(const std::string& text, MessageIcon icon, const std::string& title) {
+void WidgetUiServices::messageBox(const std::string& text, MessageIcon icon,
+                                  const std::string& title) {
   QMessageBox box(toQtIcon(icon), QString::fromStdString(title), QString::fromStdString(text),
                   QMessageBox::Ok, QApplication::activeModalWidget());
   box.setObjectName(QStringLiteral("NorixMessageBox"));
@@ -60,6 +63,11 @@ void WidgetUiServices::setBusy(bool busy) {
 }
 
 void WidgetUiServices::showHelp(const std::string& helpFile, int context) {
+  showHelpTopic(helpFile, context, HelpTopic{});
+}
+
+void WidgetUiServices::showHelpTopic(const std::string& helpFile, int context,
+                                     [[maybe_unused]] const HelpTopic& topic) {
   if (m_helpHandler) {
     m_helpHandler(helpFile, context);
     return;
@@ -72,8 +80,11 @@ void WidgetUiServices::showHelp(const std::string& helpFile, int context) {
   if (owner == nullptr) owner = QApplication::activeWindow();
   const HWND ownerWindow = owner != nullptr ? reinterpret_cast<HWND>(owner->winId()) : nullptr;
   if (showWinHelp(ownerWindow, helpFile, context)) return;
-#endif
   messageBox(defaultHelpText(helpFile, context), MessageIcon::Information, "NORIX");
+#else
+  // Elsewhere there is no WinHelp: the pages shipped with the component stand in for the file.
+  HelpBrowser::show(topic.page, topic.anchor);
+#endif
 }
 
 std::string WidgetUiServices::defaultHelpText(const std::string& helpFile, int context) {

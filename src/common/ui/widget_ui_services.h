@@ -27,14 +27,17 @@ class WidgetUiServices : public UiServices {
   // Shows the wait cursor over the whole application, or restores the previous one.
   void setBusy(bool busy) override;
   // Calls the installed help handler; without one, opens the file with WinHelp on Windows and
-  // elsewhere tells the user which file and topic would open.
+  // elsewhere shows the contents of the component's help pages.
   void showHelp(const std::string& helpFile, int context) override;
+  // Calls the installed help handler; without one, opens the file with WinHelp on Windows and
+  // elsewhere shows the dialog's help page at the step's anchor in the help window.
+  void showHelpTopic(const std::string& helpFile, int context, const HelpTopic& topic) override;
   // The size of the primary screen in device-independent pixels.
   ScreenSize screenSize() const override;
 
   // Installs the handler for help requests; an empty handler restores the default.
   void setHelpHandler(HelpHandler handler) { m_helpHandler = std::move(handler); }
-  // The text the default help handler shows for a help file and context.
+  // The text shown on Windows when WinHelp cannot open the help file at the context.
   static std::string defaultHelpText(const std::string& helpFile, int context);
 
  private:

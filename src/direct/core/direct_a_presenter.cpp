@@ -78,7 +78,20 @@ void DirectAPresenter::cmdCancel_Click() {
 }
 
 void DirectAPresenter::cmdHelp_Click() {
-  m_shared.ui.showHelp(m_context.NorixDir + "\\" + kHelpFile, kHelpContext);
+  m_shared.ui.showHelpTopic(m_context.NorixDir + "\\" + kHelpFile, kHelpContext, helpTopic());
+}
+
+HelpTopic DirectAPresenter::helpTopic() const {
+  switch (step()) {
+    case kReferenceStep:
+      return {"direct_a", "reference"};
+    case kJudgmentStep:
+      return {"direct_a", "judgment"};
+    case kResultsStep:
+      return {"direct_a", "results"};
+    default:
+      return {"direct_a", "ordering"};
+  }
 }
 
 void DirectAPresenter::Timer1_Timer() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/core/ui_services.h"
 #include "direct/core/direct_a_shared.h"
 #include "direct/core/direct_export.h"
 #include "direct/core/exact_weight_bounds.h"
@@ -58,6 +59,8 @@ class DirectAPresenter : public wizard::WizardPresenter {
   void cmdFinish_Click();
   void cmdCancel_Click();
   void cmdHelp_Click();
+  // The help page of this dialog and the current step's anchor on it.
+  HelpTopic helpTopic() const;
   // A tick of Timer1: blinks the indicator and the status lamps.
   void Timer1_Timer();
 

@@ -112,6 +112,9 @@ class ScenarioPlayer {
     void showHelp(const std::string& helpFile, int context) override {
       m_ui.showHelp(helpFile, context);
     }
+    void showHelpTopic(const std::string& helpFile, int context, const HelpTopic& topic) override {
+      m_ui.showHelpTopic(helpFile, context, topic);
+    }
     ScreenSize screenSize() const override { return m_ui.screenSize(); }
     // The texts shown so far.
     const std::vector<std::string>& texts() const { return m_texts; }

@@ -44,7 +44,9 @@ void SelMethodPresenter::cmdNext_Click() {
 
 void SelMethodPresenter::cmdCancel_Click() { m_events.UnloadTNWizard(m_context.FileIndex, false); }
 
-void SelMethodPresenter::cmdHelp_Click() { m_ui.showHelp(helpFile(), kHelpContext); }
+void SelMethodPresenter::cmdHelp_Click() {
+  m_ui.showHelpTopic(helpFile(), kHelpContext, helpTopic());
+}
 
 void SelMethodPresenter::ShowMethodDescription(int index) {
   m_page.ShowMethodDescription(index);

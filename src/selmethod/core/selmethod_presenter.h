@@ -46,6 +46,8 @@ class SelMethodPresenter : public wizard::WizardPresenter {
   void cmdCancel_Click();
   // Help: opens the host's help file at the wizard's topic.
   void cmdHelp_Click();
+  // The help page of this dialog and the selection step's anchor on it.
+  static HelpTopic helpTopic() { return {"selmethod", "selection"}; }
 
   // Shows the description of method index (0..4) in the two labels; other indexes do nothing.
   void ShowMethodDescription(int index);

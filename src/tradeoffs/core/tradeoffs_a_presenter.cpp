@@ -1,9 +1,9 @@
 #include "tradeoffs/core/tradeoffs_a_presenter.h"
 
 #include "common/core/ui_services.h"
-#include "wizard/core/wizard_context.h"
 #include "model/model_check.h"
 #include "tradeoffs/core/tradeoffs_a_events.h"
+#include "wizard/core/wizard_context.h"
 
 namespace tnw::tradeoffs {
 
@@ -122,7 +122,11 @@ void TradeOffsAPresenter::cmdFinish_Click() {
 void TradeOffsAPresenter::cmdCancel_Click() { m_events.UnloadTNWizard(m_context.FileIndex, false); }
 
 void TradeOffsAPresenter::cmdTNWizardHelp_Click() {
-  m_ui.showHelp(m_context.NorixDir + "\\" + "NORIX.HLP", kHelpContext);
+  m_ui.showHelpTopic(m_context.NorixDir + "\\" + "NORIX.HLP", kHelpContext, helpTopic());
+}
+
+HelpTopic TradeOffsAPresenter::helpTopic() const {
+  return {"tradeoffs_a", step() == kResultsStep ? "results" : "judgment"};
 }
 
 void TradeOffsAPresenter::tsComparisonApproaches_Click(int tab) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/core/ui_services.h"
 #include "tradeoffs/core/judgment_page.h"
 #include "tradeoffs/core/leave_one_out.h"
 #include "tradeoffs/core/multi_regression_data.h"
@@ -85,6 +86,8 @@ class TradeOffsAPresenter : public wizard::WizardPresenter {
   void cmdFinish_Click();
   void cmdCancel_Click();
   void cmdTNWizardHelp_Click();
+  // The help page of this dialog and the current page's anchor on it.
+  HelpTopic helpTopic() const;
   // Tabs of the judgment page (1 numerical, 2 verbal) and of the results page (1 weights,
   // 2 regression status).
   void tsComparisonApproaches_Click(int tab);
