@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QGuiApplication>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QScreen>
 #include <QTextBrowser>
 #include <QTextDocument>
@@ -61,6 +62,25 @@ class UiServicesQtTest : public QObject {
   void cleanup() {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
+  }
+
+  void askYesNoReturnsTheButtonPressedAndDefaultsToNo() {
+    WidgetUiServices ui;
+    for (const QMessageBox::StandardButton press : {QMessageBox::Yes, QMessageBox::No}) {
+      QString text;
+      bool defaultIsNo = false;
+      QTimer::singleShot(0, [&text, &defaultIsNo, press] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (box == nullptr) return;
+        text = box->text();
+        defaultIsNo = box->defaultButton() == box->button(QMessageBox::No);
+        box->button(press)->click();
+      });
+      const bool yes = ui.askYesNo("Discard 2 judgments?", "NORIX");
+      QCOMPARE(yes, press == QMessageBox::Yes);
+      QCOMPARE(text, QStringLiteral("Discard 2 judgments?"));
+      QVERIFY(defaultIsNo);
+    }
   }
 
   void messageBoxShowsTitleTextAndIcon() {

@@ -4,6 +4,7 @@
 
 // Std
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tnw {
@@ -16,6 +17,12 @@ class RecordingUiServices : public UiServices {
     std::string text;
     MessageIcon icon = MessageIcon::Information;
     std::string title;
+  };
+  // One request for a file name.
+  struct FileRequest {
+    std::string caption;
+    std::string filter;
+    std::string suggestedName;
   };
 
   void messageBox(const std::string& text, MessageIcon icon, const std::string& title) override {
@@ -35,6 +42,19 @@ class RecordingUiServices : public UiServices {
     showHelp(helpFile, context);
   }
   ScreenSize screenSize() const override { return m_screen; }
+  bool askYesNo(const std::string& text, const std::string& title) override {
+    m_questions.push_back({text, MessageIcon::Question, title});
+    return m_answer;
+  }
+  std::string chooseOpenFile(const std::string& caption, const std::string& filter) override {
+    m_fileRequests.push_back({caption, filter, {}});
+    return m_openFile;
+  }
+  std::string chooseSaveFile(const std::string& caption, const std::string& filter,
+                             const std::string& suggestedName) override {
+    m_fileRequests.push_back({caption, filter, suggestedName});
+    return m_saveFile;
+  }
 
   // The message boxes shown so far, in order.
   const std::vector<Message>& messages() const { return m_messages; }
@@ -53,6 +73,16 @@ class RecordingUiServices : public UiServices {
   const HelpTopic& helpTopic() const { return m_helpTopic; }
   // Sets the screen size reported to callers.
   void setScreenSize(ScreenSize size) { m_screen = size; }
+  // The yes/no questions asked so far, in order (icon Question).
+  const std::vector<Message>& questions() const { return m_questions; }
+  // Sets the answer to every later question (Yes by default).
+  void setAnswer(bool yes) { m_answer = yes; }
+  // The file names asked for so far, in order.
+  const std::vector<FileRequest>& fileRequests() const { return m_fileRequests; }
+  // Sets the file chosen by every later request to read (empty: cancelled).
+  void setOpenFile(std::string path) { m_openFile = std::move(path); }
+  // Sets the file chosen by every later request to write (empty: cancelled).
+  void setSaveFile(std::string path) { m_saveFile = std::move(path); }
 
  private:
   std::vector<Message> m_messages;
@@ -63,6 +93,11 @@ class RecordingUiServices : public UiServices {
   int m_helpContext = 0;
   HelpTopic m_helpTopic;
   ScreenSize m_screen{1024, 768};
+  std::vector<Message> m_questions;
+  bool m_answer = true;
+  std::vector<FileRequest> m_fileRequests;
+  std::string m_openFile;
+  std::string m_saveFile;
 };
 
 }  // namespace tnw

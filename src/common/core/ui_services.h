@@ -44,6 +44,28 @@ class UiServices {
   }
   // The size of the screen dialogs are centred on.
   virtual ScreenSize screenSize() const = 0;
+  // Asks a question with Yes and No buttons; true for Yes. Where nobody can answer, Yes.
+  virtual bool askYesNo(const std::string& text, const std::string& title) {
+    static_cast<void>(text);
+    static_cast<void>(title);
+    return true;
+  }
+  // Asks for a file to read, e.g. with the filter "JSON files (*.json)"; empty when cancelled
+  // or where nobody can choose.
+  virtual std::string chooseOpenFile(const std::string& caption, const std::string& filter) {
+    static_cast<void>(caption);
+    static_cast<void>(filter);
+    return {};
+  }
+  // Asks for a file to write, offering a suggested name; empty when cancelled or where nobody
+  // can choose.
+  virtual std::string chooseSaveFile(const std::string& caption, const std::string& filter,
+                                     const std::string& suggestedName) {
+    static_cast<void>(caption);
+    static_cast<void>(filter);
+    static_cast<void>(suggestedName);
+    return {};
+  }
 };
 
 }  // namespace tnw

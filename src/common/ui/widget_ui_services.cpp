@@ -2,6 +2,7 @@
 
 // Qt
 #include <QApplication>
+#include <QFileDialog>
 #include <QGuiApplication>
 #include <QMessageBox>
 #include <QScreen>
@@ -90,6 +91,36 @@ void WidgetUiServices::showHelpTopic(const std::string& helpFile, int context,
 std::string WidgetUiServices::defaultHelpText(const std::string& helpFile, int context) {
   return "No help viewer is installed. The help file \"" + helpFile + "\" would open at topic " +
          std::to_string(context) + ".";
+}
+
+bool WidgetUiServices::askYesNo(const std::string& text, const std::string& title) {
+  QMessageBox box(QMessageBox::Question, QString::fromStdString(title),
+                  QString::fromStdString(text), QMessageBox::Yes | QMessageBox::No,
+                  QApplication::activeModalWidget());
+  box.setObjectName(QStringLiteral("NorixQuestionBox"));
+  box.setTextFormat(Qt::PlainText);
+  box.setDefaultButton(QMessageBox::No);
+  const bool busy = m_busy;
+  if (busy) setBusy(false);
+  const bool yes = box.exec() == QMessageBox::Yes;
+  if (busy) setBusy(true);
+  return yes;
+}
+
+std::string WidgetUiServices::chooseOpenFile(const std::string& caption,
+                                             const std::string& filter) {
+  return QFileDialog::getOpenFileName(QApplication::activeModalWidget(),
+                                      QString::fromStdString(caption), QString(),
+                                      QString::fromStdString(filter))
+      .toStdString();
+}
+
+std::string WidgetUiServices::chooseSaveFile(const std::string& caption, const std::string& filter,
+                                             const std::string& suggestedName) {
+  return QFileDialog::getSaveFileName(
+             QApplication::activeModalWidget(), QString::fromStdString(caption),
+             QString::fromStdString(suggestedName), QString::fromStdString(filter))
+      .toStdString();
 }
 
 ScreenSize WidgetUiServices::screenSize() const {

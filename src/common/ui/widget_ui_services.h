@@ -34,6 +34,13 @@ class WidgetUiServices : public UiServices {
   void showHelpTopic(const std::string& helpFile, int context, const HelpTopic& topic) override;
   // The size of the primary screen in device-independent pixels.
   ScreenSize screenSize() const override;
+  // Asks with a QMessageBox that has Yes and No buttons.
+  bool askYesNo(const std::string& text, const std::string& title) override;
+  // Asks with the platform's file dialog for an existing file.
+  std::string chooseOpenFile(const std::string& caption, const std::string& filter) override;
+  // Asks with the platform's file dialog for a file to write; confirms overwriting.
+  std::string chooseSaveFile(const std::string& caption, const std::string& filter,
+                             const std::string& suggestedName) override;
 
   // Installs the handler for help requests; an empty handler restores the default.
   void setHelpHandler(HelpHandler handler) { m_helpHandler = std::move(handler); }
