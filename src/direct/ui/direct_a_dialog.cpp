@@ -106,6 +106,7 @@ DirectADialog::~DirectADialog() {
   // The presenter outlives the widgets' last signals only if it stops calling back first.
   m_presenter.setChangeListener({});
   m_timer.stop();
+  deleteViews();
 }
 
 QSize DirectADialog::initialSize() const {

@@ -87,8 +87,10 @@ TradeOffsADialog::TradeOffsADialog(WizardContext& context, UiServices& ui, Trade
 }
 
 TradeOffsADialog::~TradeOffsADialog() {
-  // The presenter may outlive the widgets by a moment; it must not render into them.
+  // The widgets go first, while the presenter they read is still alive; it must not render into
+  // them as they go.
   m_presenter->setChangeListener({});
+  deleteViews();
 }
 
 const TradeOffsAPresenter& TradeOffsADialog::presenter() const { return *m_presenter; }

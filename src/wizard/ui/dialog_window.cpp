@@ -78,6 +78,10 @@ void DialogWindow::settleSize() {
   if (!testAttribute(Qt::WA_Resized)) adjustSize();
 }
 
+void DialogWindow::deleteViews() {
+  while (!children().isEmpty()) delete children().constFirst();
+}
+
 void DialogWindow::reject() { closeRequested(); }
 
 void DialogWindow::setFailureHandler(FailureHandler handler) {

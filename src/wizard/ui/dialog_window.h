@@ -57,6 +57,10 @@ class DialogWindow : public QDialog, public WizardDialog {
   // exception they throw ends the wizard and never reaches Qt's event loop.
   bool event(QEvent* event) override;
 
+  // Deletes the dialog's widgets and helper objects at once. A dialog calls it first in its
+  // destructor, so that no view, painter or accessible interface outlives the presenter it reads.
+  void deleteViews();
+
   // What the close box and Escape do; the dialogs run their Cancel handler.
   virtual void closeRequested() = 0;
   // Runs each time the dialog becomes the active window.
