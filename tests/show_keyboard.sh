@@ -1,10 +1,11 @@
 # Keyboard helpers for the drivers that run the real `tnwizard show` under xvfb with xdotool.
 # Sourced by a driver after it has started the program in the background as $pid.
 
-# Waits until a visible window has exactly this title, and gives it the keyboard.
+# Waits until a visible window has exactly this title, and gives it the keyboard. A loaded
+# machine may take many seconds to start the program: wait up to a minute.
 window() {
   local id=""
-  for _ in $(seq 100); do
+  for _ in $(seq 600); do
     id=$(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | tail -1 || true)
     if [ -n "$id" ]; then
       xdotool windowactivate --sync "$id" 2>/dev/null || xdotool windowfocus --sync "$id"

@@ -18,18 +18,23 @@ set -euo pipefail
 QT_QPA_PLATFORM=xcb "$1" show >"$2/show.out" 2>"$2/show.err" &
 pid=$!
 id=""
-for _ in $(seq 100); do
+# A loaded machine may take many seconds to start the program: wait up to a minute.
+for _ in $(seq 600); do
   id=$(xdotool search --name '^Tarnel Wizard$' 2>/dev/null | head -1 || true)
   [ -n "$id" ] && break
   sleep 0.1
 done
 [ -n "$id" ] || { kill "$pid"; echo "no selection dialog appeared"; exit 1; }
-xdotool windowfocus --sync "$id"
-sleep 0.3
-xdotool key --clearmodifiers Escape
+# Escape until the program ends: a key that arrives before the dialog takes the keyboard is lost.
+for _ in $(seq 30); do
+  kill -0 "$pid" 2>/dev/null || break
+  xdotool windowfocus --sync "$id" 2>/dev/null || true
+  xdotool key --clearmodifiers Escape 2>/dev/null || true
+  sleep 1
+done
 wait "$pid"
 DRIVE
-timeout 60 xvfb-run -a -s "-screen 0 1280x1024x24" bash "$out/drive.sh" "$tnwizard" "$out"
+timeout 120 xvfb-run -a -s "-screen 0 1280x1024x24" bash "$out/drive.sh" "$tnwizard" "$out"
 
 expected='{"event":"SendMasseges","msg":"Select a method to make value judgments between the attributes."}
 {"event":"UnloadTNWizard","fIndex":1,"weightsDone":false}'
