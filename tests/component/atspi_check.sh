@@ -27,7 +27,10 @@ key space alt+n
 window 'Tarnel Wizard: Estimate intervals of the weight ratios'
 /usr/bin/python3 "$4" direct >"$2/direct.txt"
 key alt+c
-wait "$pid" || true
+# Cancel ends the program with its own status; a signal (a status above 128) is a crash.
+status=0
+wait "$pid" || status=$?
+[ "$status" -le 128 ] || { echo "tnwizard show ended by signal $((status - 128))"; exit 1; }
 
 "$1" show >"$2/tradeoffs.out" 2>"$2/tradeoffs.err" &
 pid=$!
