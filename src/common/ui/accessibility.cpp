@@ -4,7 +4,6 @@
 #include <QEvent>
 #include <QLabel>
 #include <QPainter>
-#include <QRegularExpression>
 #include <QTabBar>
 #include <QTableView>
 
@@ -15,6 +14,32 @@ namespace {
 // The ring's width and its distance from the control's edge, in pixels.
 constexpr int kRingWidth = 2;
 constexpr int kRingGap = 1;
+
+// Whether name is base itself or an element of the control array base: base_index.
+bool namesElementOf(const QString& name, const QString& base) {
+  if (!name.startsWith(base)) return false;
+  if (name.size() == base.size()) return true;
+  if (name.size() < base.size() + 2 || name.at(base.size()) != QLatin1Char('_')) return false;
+  for (qsizetype i = base.size() + 1; i < name.size(); ++i) {
+    if (!name.at(i).isDigit()) return false;
+  }
+  return true;
+}
+
+// A label's text as read aloud: without its mnemonic marks ("&&" stands for one "&").
+QString withoutMnemonics(const QString& text) {
+  QString plain;
+  plain.reserve(text.size());
+  for (qsizetype i = 0; i < text.size(); ++i) {
+    if (text.at(i) != QLatin1Char('&')) {
+      plain.append(text.at(i));
+    } else if (i + 1 < text.size() && text.at(i + 1) == QLatin1Char('&')) {
+      plain.append(QLatin1Char('&'));
+      ++i;
+    }
+  }
+  return plain;
+}
 
 }  // namespace
 
@@ -32,10 +57,8 @@ void applyAccessibleTexts(QWidget* root, std::initializer_list<AccessibleText> t
     const QString name = t.name != nullptr ? QString::fromUtf8(t.name) : QString();
     const QString description = QString::fromUtf8(t.description);
     // A control array's elements are named name_index.
-    const QRegularExpression element(QStringLiteral("^%1(_\\d+)?$")
-                                         .arg(QRegularExpression::escape(objectName)));
-    for (QWidget* w : root->findChildren<QWidget*>(element)) {
-      setAccessibleText(w, name, description);
+    for (QWidget* w : root->findChildren<QWidget*>()) {
+      if (namesElementOf(w->objectName(), objectName)) setAccessibleText(w, name, description);
     }
     if (root->objectName() == objectName) setAccessibleText(root, name, description);
   }
@@ -45,9 +68,7 @@ void nameControlsByBuddies(QWidget* root) {
   for (const QLabel* label : root->findChildren<QLabel*>()) {
     QWidget* buddy = label->buddy();
     if (buddy == nullptr || !buddy->accessibleName().isEmpty()) continue;
-    QString name = label->text();
-    name.remove(QRegularExpression(QStringLiteral("&(?!&)")));
-    name = name.trimmed();
+    QString name = withoutMnemonics(label->text()).trimmed();
     if (name.endsWith(QLatin1Char(':'))) name.chop(1);
     if (!name.isEmpty()) buddy->setAccessibleName(name);
   }
