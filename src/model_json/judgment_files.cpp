@@ -12,7 +12,7 @@
 namespace tnw {
 namespace {
 
-using nlohmann::json;
+using json = nlohmann::ordered_json;
 
 constexpr const char* kCannotAccess = "There are problems in accessing the relevant data.";
 
@@ -68,8 +68,11 @@ std::string writeTradeOffJudgments(const std::vector<tradeoffs::TradeOffJudgment
 
 std::string writeDirectIntervals(const direct::DirectScenario& scenario) {
   std::string out = "{";
-  if (scenario.order) out += "\"order\": " + dumped(json(*scenario.order)) + ", ";
-  if (scenario.reference) out += "\"reference\": " + std::to_string(*scenario.reference) + ", ";
+  if (scenario.order) out += "\"order\": " + dumped(json(*scenario.order)) + ",";
+  if (scenario.reference) {
+    out += (scenario.order ? " " : "") + std::string("\"reference\": ") +
+           std::to_string(*scenario.reference) + ",";
+  }
   std::vector<json> steps;
   for (const direct::ScenarioStep& s : scenario.steps) {
     json step = json::object();

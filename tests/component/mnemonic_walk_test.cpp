@@ -212,6 +212,10 @@ void MnemonicWalkTest::noPageOfTheTradeOffDialogHasASharedMnemonic() {
   verifyUnique(d.get(), "judgments again, Finish enabled, manual");
   approaches->setCurrentIndex(1);
   verifyUnique(d.get(), "judgments again, Finish enabled, verbal");
+  // A recorded judgment enables Save judgments.
+  click("cmdTradeOffEnter");
+  QVERIFY(control<QPushButton>(d.get(), "cmdSaveJudgments")->isEnabled());
+  verifyUnique(d.get(), "judgments again, one recorded, Save enabled");
 }
 
 }  // namespace tnw
