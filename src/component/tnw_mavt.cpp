@@ -4,15 +4,28 @@
 #include "component/ui/wizard_backend.h"
 #include "component/core/wizard_component.h"
 #include "component/ui/widget_dialog_factory.h"
+#include "model_json/judgment_files.h"
 
 namespace tnw {
+
+namespace {
+
+// The dialogs save and load judgments in the JSON forms the command line reads.
+JudgmentFiles jsonJudgmentFiles() {
+  static const JsonJudgmentsFile tradeOffs;
+  static const JsonIntervalsFile direct;
+  return {&tradeOffs, &direct};
+}
+
+}  // namespace
 
 // Everything a wizard object owns. It forwards the events to the host's listener and counts
 // how deep it is inside them, so that a host destroying the object from inside an event does
 // not pull the data and dialogs from under the frames still to return.
 struct TNW_MAVT::Impl : TnwMavtEvents {
   explicit Impl(UiServices* hostUi)
-      : parts(hostUi), component(parts.factory(), parts.ui(), parts.modelReader()) {
+      : parts(hostUi, jsonJudgmentFiles()),
+        component(parts.factory(), parts.ui(), parts.modelReader()) {
     component.setEvents(this);
   }
 

@@ -15,6 +15,7 @@
 #include "trade_off_fixtures.h"
 #include "tradeoffs/ui/tradeoffs_a_dialog.h"
 #include "tradeoffs/core/tradeoffs_a_events.h"
+#include "model_json/judgment_files.h"
 
 // Qt
 #include <QAbstractButton>
@@ -30,6 +31,10 @@
 
 namespace tnw {
 namespace {
+
+// The file forms the component hands the dialogs, so that Save and Load are walked too.
+const JsonJudgmentsFile kJudgmentsFile;
+const JsonIntervalsFile kIntervalsFile;
 
 using namespace tnw::direct;
 
@@ -97,7 +102,7 @@ void AccessibilityWalkTest::theSelectionDialogIsAccessible() {
 void AccessibilityWalkTest::everyStepOfTheDirectDialogIsAccessible() {
   WizardContext context = test::makeContext(3);
   test::RecordingDirectAEvents events;
-  auto d = std::make_unique<DirectADialog>(context, m_ui, events);
+  auto d = std::make_unique<DirectADialog>(context, m_ui, events, nullptr, &kIntervalsFile);
   d->show();
   waitForWindow(d.get());
   const auto click = [&d](const char* name, int index = -1) {
@@ -141,7 +146,8 @@ void AccessibilityWalkTest::everyPageOfTheTradeOffDialogIsAccessible() {
   WizardContext context;
   context.model = testing::makeModel(3);
   testing::SequenceRandomSource random{{0.2f, 0.7f, 0.4f, 0.9f, 0.1f, 0.6f}};
-  auto d = std::make_unique<tradeoffs::TradeOffsADialog>(context, m_ui, m_events, &random);
+  auto d = std::make_unique<tradeoffs::TradeOffsADialog>(context, m_ui, m_events, &random,
+                                                         &kJudgmentsFile);
   d->showModal();
   waitForWindow(d.get());
   const auto click = [&d](const char* name) {
@@ -168,7 +174,8 @@ void AccessibilityWalkTest::theScoreBoxesNameTheirAlternativeAndAttribute() {
   WizardContext context;
   context.model = testing::makeModel(3);
   testing::SequenceRandomSource random{{0.2f, 0.7f, 0.4f, 0.9f, 0.1f, 0.6f}};
-  auto d = std::make_unique<tradeoffs::TradeOffsADialog>(context, m_ui, m_events, &random);
+  auto d = std::make_unique<tradeoffs::TradeOffsADialog>(context, m_ui, m_events, &random,
+                                                         &kJudgmentsFile);
   d->showModal();
   waitForWindow(d.get());
   const auto name = [&d](const char* box) {

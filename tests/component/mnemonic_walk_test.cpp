@@ -12,6 +12,7 @@
 #include "trade_off_fixtures.h"
 #include "tradeoffs/ui/tradeoffs_a_dialog.h"
 #include "tradeoffs/core/tradeoffs_a_events.h"
+#include "model_json/judgment_files.h"
 
 // Qt
 #include <QAbstractButton>
@@ -30,6 +31,10 @@
 
 namespace tnw {
 namespace {
+
+// The file forms the component hands the dialogs, so that Save and Load are walked too.
+const JsonJudgmentsFile kJudgmentsFile;
+const JsonIntervalsFile kIntervalsFile;
 
 using test::control;
 
@@ -134,7 +139,7 @@ void MnemonicWalkTest::theSelectionDialogHasNoSharedMnemonic() {
 void MnemonicWalkTest::noStepOfTheDirectDialogHasASharedMnemonic() {
   WizardContext context = test::makeContext(3);
   test::RecordingDirectAEvents events;
-  auto d = std::make_unique<direct::DirectADialog>(context, m_ui, events);
+  auto d = std::make_unique<direct::DirectADialog>(context, m_ui, events, nullptr, &kIntervalsFile);
   d->show();
   waitForWindow(d.get());
   const auto click = [&d](const char* name, int index = -1) {
@@ -179,7 +184,8 @@ void MnemonicWalkTest::noPageOfTheTradeOffDialogHasASharedMnemonic() {
   WizardContext context;
   context.model = testing::makeModel(3);
   testing::SequenceRandomSource random{{0.2f, 0.7f, 0.4f, 0.9f, 0.1f, 0.6f}};
-  auto d = std::make_unique<tradeoffs::TradeOffsADialog>(context, m_ui, m_events, &random);
+  auto d = std::make_unique<tradeoffs::TradeOffsADialog>(context, m_ui, m_events, &random,
+                                                         &kJudgmentsFile);
   d->showModal();
   waitForWindow(d.get());
   const auto click = [&d](const char* name) {
@@ -206,6 +212,10 @@ void MnemonicWalkTest::noPageOfTheTradeOffDialogHasASharedMnemonic() {
   verifyUnique(d.get(), "judgments again, Finish enabled, manual");
   approaches->setCurrentIndex(1);
   verifyUnique(d.get(), "judgments again, Finish enabled, verbal");
+  // A recorded judgment enables Save judgments.
+  click("cmdTradeOffEnter");
+  QVERIFY(control<QPushButton>(d.get(), "cmdSaveJudgments")->isEnabled());
+  verifyUnique(d.get(), "judgments again, one recorded, Save enabled");
 }
 
 }  // namespace tnw

@@ -7,6 +7,7 @@
 #include "model/value_function.h"
 #include "trade_off_dialog_fixture.h"
 #include "tradeoffs/ui/tradeoffs_results_widget.h"
+#include "model_json/judgment_files.h"
 
 // Qt
 #include <QAction>
@@ -108,7 +109,30 @@ void makeIndifferent(TradeOffsADialog& d, const WizardContext& c, const double w
   typeScore(&d, "txtTradeOffBSecondScore", std::to_string(std::lround(score)).c_str());
 }
 
+// The judgment page as the component shows it, with Save and Load of the judgments, after three
+// judgments.
+bool savedJudgmentsShot(const QDir& dir) {
+  WizardContext context;
+  context.model = carModel();
+  RecordingUiServices ui;
+  NullEvents events;
+  SequenceRandomSource random(draws(100));
+  const JsonJudgmentsFile file;
+  TradeOffsADialog d(context, ui, events, &random, &file);
+  d.resize(d.sizeHint().expandedTo(QSize(860, 600)));
+  d.show();
+  if (!QTest::qWaitForWindowExposed(&d)) return false;
+  const double weights[4] = {0.4, 0.2, 0.15, 0.25};
+  const double errors[3] = {1.2, 0.8, 1.5};
+  for (const double error : errors) {
+    makeIndifferent(d, context, weights, error);
+    clickButton(&d, "cmdTradeOffEnter");
+  }
+  return save(&d, dir, "tradeoffs-saved-judgments.png");
+}
+
 int run(const QDir& dir) {
+  if (!savedJudgmentsShot(dir)) return 1;
   WizardContext context;
   context.model = carModel();
   RecordingUiServices ui;

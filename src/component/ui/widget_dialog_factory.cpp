@@ -25,7 +25,8 @@ std::unique_ptr<WizardDialog> settled(std::unique_ptr<Dialog> dialog) {
 
 }  // namespace
 
-WidgetDialogFactory::WidgetDialogFactory(UiServices& ui) : m_ui(ui) {}
+WidgetDialogFactory::WidgetDialogFactory(UiServices& ui, JudgmentFiles files)
+    : m_ui(ui), m_files(files) {}
 
 bool WidgetDialogFactory::haveApplication() const {
   // Widgets made without a QApplication would abort the host's process.
@@ -41,15 +42,17 @@ std::unique_ptr<WizardDialog> WidgetDialogFactory::createSelMethod(
 }
 
 std::unique_ptr<WizardDialog> WidgetDialogFactory::createDirectA(WizardContext& context,
-                                                                   direct::DirectAEvents& events) {
+                                                                 direct::DirectAEvents& events) {
   if (!haveApplication()) return nullptr;
-  return settled(std::make_unique<direct::DirectADialog>(context, m_ui, events));
+  return settled(
+      std::make_unique<direct::DirectADialog>(context, m_ui, events, nullptr, m_files.direct));
 }
 
 std::unique_ptr<WizardDialog> WidgetDialogFactory::createTradeOffsA(
     WizardContext& context, tradeoffs::TradeOffsAEvents& events) {
   if (!haveApplication()) return nullptr;
-  return settled(std::make_unique<tradeoffs::TradeOffsADialog>(context, m_ui, events));
+  return settled(std::make_unique<tradeoffs::TradeOffsADialog>(context, m_ui, events, nullptr,
+                                                               m_files.tradeOffs));
 }
 
 void WidgetDialogFactory::release(std::unique_ptr<WizardDialog> dialog) {

@@ -5,16 +5,33 @@
 // Std
 #include <functional>
 
+namespace tnw::direct {
+class IntervalsFile;
+}  // namespace tnw::direct
+namespace tnw::tradeoffs {
+class JudgmentsFile;
+}  // namespace tnw::tradeoffs
+
 namespace tnw {
 
 class UiServices;
+
+// The file forms the methods' dialogs save and load their judgments with (they must outlive the
+// factory); a dialog without one does not offer Save and Load.
+struct JudgmentFiles {
+  // The trade-off judgments, as `tnwizard tradeoffs` reads them.
+  const tradeoffs::JudgmentsFile* tradeOffs = nullptr;
+  // The direct method's order, reference and intervals, as `tnwizard direct` reads them.
+  const direct::IntervalsFile* direct = nullptr;
+};
 
 // Makes the wizard's Qt dialogs and releases them with deleteLater, so a dialog released from
 // inside one of its own handlers lives until control is back in the event loop.
 class WidgetDialogFactory : public WizardDialogFactory {
  public:
-  // A factory whose dialogs show their messages, beeps, pointer and help through ui.
-  explicit WidgetDialogFactory(UiServices& ui);
+  // A factory whose dialogs show their messages, beeps, pointer and help through ui, and save
+  // and load judgments with files.
+  explicit WidgetDialogFactory(UiServices& ui, JudgmentFiles files = {});
 
   // A new frmTNWSelMethod; null without a QApplication.
   std::unique_ptr<WizardDialog> createSelMethod(WizardContext& context,
@@ -35,6 +52,7 @@ class WidgetDialogFactory : public WizardDialogFactory {
   bool haveApplication() const;
 
   UiServices& m_ui;
+  JudgmentFiles m_files;
 };
 
 }  // namespace tnw

@@ -40,10 +40,10 @@ class GuardedApplication : public QApplication {
 
 }  // namespace
 
-WizardBackend::WizardBackend(UiServices* hostUi)
+WizardBackend::WizardBackend(UiServices* hostUi, JudgmentFiles files)
     : m_ownUi(hostUi == nullptr ? std::make_unique<WidgetUiServices>() : nullptr),
       m_ui(hostUi == nullptr ? *m_ownUi : *hostUi),
-      m_factory(m_ui) {}
+      m_factory(m_ui, files) {}
 
 WizardBackend::~WizardBackend() = default;
 

@@ -22,8 +22,8 @@ class WizardBackend {
  public:
   // Parts that show messages, the beep, the busy pointer and help with Qt, or through hostUi
   // when it is given (hostUi must outlive the backend). Dialogs are made only once a
-  // QApplication exists.
-  explicit WizardBackend(UiServices* hostUi = nullptr);
+  // QApplication exists. The dialogs save and load judgments with files.
+  explicit WizardBackend(UiServices* hostUi = nullptr, JudgmentFiles files = {});
   ~WizardBackend();
   WizardBackend(const WizardBackend&) = delete;
   WizardBackend& operator=(const WizardBackend&) = delete;

@@ -3,7 +3,6 @@
 #include "common/ui/wizard_buttons.h"
 #include "direct/ui/cone_area_widget.h"
 #include "direct/ui/control_rendering.h"
-
 #include "direct/ui/direct_accessibility.h"
 #include "direct/ui/direct_judgment_page_widget.h"
 #include "direct/ui/direct_order_page_widget.h"
@@ -52,8 +51,11 @@ QLabel* makeLabel(const char* name, QWidget* parent) {
 }  // namespace
 
 DirectADialog::DirectADialog(WizardContext& context, UiServices& ui, DirectAEvents& events,
-                             QWidget* parent)
-    : DialogWindow(parent), m_context(context), m_presenter(context, ui, events) {
+                             QWidget* parent, const IntervalsFile* intervalsFile)
+    : DialogWindow(parent),
+      m_context(context),
+      m_presenter(context, ui, events),
+      m_saved(context, ui, m_presenter, intervalsFile) {
   setObjectName(QStringLiteral("frmDirectA"));
   setWindowTitle(QString::fromUtf8(DirectAPresenter::kDesignCaption));
   setSizeGripEnabled(true);
@@ -222,6 +224,10 @@ void DirectADialog::connectJudgmentPage() {
           }));
   connect(page->restartButton(), &QPushButton::clicked, this,
           guarded(this, [this] { m_presenter.cmdReStart_Click(); }));
+  connect(page->saveButton(), &QPushButton::clicked, this,
+          guarded(this, [this] { m_saved.cmdSaveJudgments_Click(); }));
+  connect(page->loadButton(), &QPushButton::clicked, this,
+          guarded(this, [this] { m_saved.cmdLoadJudgments_Click(); }));
 }
 
 void DirectADialog::connectButtons() {
@@ -297,6 +303,8 @@ void DirectADialog::renderControls() {
   renderButton(m_cmdHelp, p.cmdHelp());
   m_orderPage->renderControls(p.ordering());
   m_judgmentPage->renderControls(p.judgment());
+  renderButton(m_judgmentPage->saveButton(), m_saved.cmdSaveJudgments());
+  renderButton(m_judgmentPage->loadButton(), m_saved.cmdLoadJudgments());
   renderLabel(m_refName, p.lblRefAtt());
   renderLabel(m_refLow, p.judgment().lblRefRangeLow());
   renderLabel(m_refHigh, p.judgment().lblRefRangeHigh());

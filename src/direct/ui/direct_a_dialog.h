@@ -2,6 +2,7 @@
 
 #include "wizard/ui/dialog_window.h"
 #include "direct/core/direct_a_presenter.h"
+#include "direct/core/saved_intervals.h"
 
 // Qt
 #include <QTimer>
@@ -29,14 +30,17 @@ class DirectADialog : public DialogWindow {
 
  public:
   // Builds and loads the dialog: the presenter's Form_Load runs here, so the load message
-  // reaches events before the constructor returns.
+  // reaches events before the constructor returns. With an intervals file form the judgment
+  // step offers Save and Load of its judgments (it must outlive the dialog).
   DirectADialog(WizardContext& context, UiServices& ui, DirectAEvents& events,
-                QWidget* parent = nullptr);
+                QWidget* parent = nullptr, const IntervalsFile* intervalsFile = nullptr);
   // Stops Timer1 and the presenter's change notifications before the widgets go.
   ~DirectADialog() override;
 
   // The presenter behind the dialog.
   const DirectAPresenter& presenter() const { return m_presenter; }
+  // Save and Load of the judgment step.
+  const SavedIntervals& savedIntervals() const { return m_saved; }
   // Timer1, which blinks the indicator and the status lamps.
   const QTimer& timer() const { return m_timer; }
 
@@ -62,6 +66,7 @@ class DirectADialog : public DialogWindow {
 
   WizardContext& m_context;
   DirectAPresenter m_presenter;
+  SavedIntervals m_saved;
   QTimer m_timer;
   QStackedWidget* m_stack = nullptr;
   QWidget* m_header = nullptr;

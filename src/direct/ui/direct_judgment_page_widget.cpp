@@ -59,6 +59,7 @@ DirectJudgmentPageWidget::DirectJudgmentPageWidget(QWidget* parent) : QWidget(pa
   m_lights = new StatusLightsWidget(this);
 
   auto* buttons = new QHBoxLayout;
+  addSavedJudgmentButtons(buttons);
   buttons->addStretch(1);
   buttons->addWidget(m_enter);
   buttons->addWidget(m_restart);
@@ -265,6 +266,25 @@ void DirectJudgmentPageWidget::renderOrderTab(const JudgmentPage& page,
     m_orderGroups = groupOf;
     m_orderList->setOrder(result.FinalGroupCount, groupOf);
   }
+}
+
+// Save and Load of the judgments, at the left of Enter and Re-start All; hidden until the dialog
+// has a file form to offer them with.
+void DirectJudgmentPageWidget::addSavedJudgmentButtons(QHBoxLayout* row) {
+  const auto make = [this, row](const char* name, const QString& text, const QString& tip) {
+    auto* b = new QPushButton(text, this);
+    b->setObjectName(QString::fromLatin1(name));
+    b->setToolTip(tip);
+    b->setAutoDefault(false);
+    b->setVisible(false);
+    row->addWidget(b);
+    return b;
+  };
+  m_save = make("cmdSaveJudgments", tr("Sa&ve judgments..."),
+                tr("Save the order, the reference and the intervals to a file the command line "
+                   "reads"));
+  m_load = make("cmdLoadJudgments", tr("&Load judgments..."),
+                tr("Load intervals from a file in place of the ones given"));
 }
 
 }  // namespace tnw::direct

@@ -6,6 +6,7 @@
 #include <QWidget>
 
 class QComboBox;
+class QHBoxLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -52,6 +53,9 @@ class DirectJudgmentPageWidget : public QWidget {
   // The buttons (cmdEnter, cmdReStart).
   QPushButton* enterButton() const { return m_enter; }
   QPushButton* restartButton() const { return m_restart; }
+  // Save and Load of the judgments (cmdSaveJudgments, cmdLoadJudgments).
+  QPushButton* saveButton() const { return m_save; }
+  QPushButton* loadButton() const { return m_load; }
   // The drawing area (picTradeOffsRange) and the status lights (picJudgmentState).
   ConeAreaWidget* coneArea() const { return m_cone; }
   StatusLightsWidget* statusLights() const { return m_lights; }
@@ -66,12 +70,15 @@ class DirectJudgmentPageWidget : public QWidget {
   QWidget* buildTargetFrame();
   QWidget* buildRatioFrame();
   QWidget* buildTabs();
+  void addSavedJudgmentButtons(QHBoxLayout* row);
   void renderTargets(const JudgmentPage& page);
   void renderCone(const JudgmentPage& page);
   void renderOrderTab(const JudgmentPage& page, const OrderingPage& ordering,
                       const DirectResult& result);
 
   QComboBox* m_targetList = nullptr;
+  QPushButton* m_save = nullptr;
+  QPushButton* m_load = nullptr;
   QLabel* m_targetName = nullptr;
   QLabel* m_targetLow = nullptr;
   QLabel* m_targetHigh = nullptr;

@@ -1,7 +1,7 @@
 #include "tradeoffs/core/scenario_player.h"
 
-#include "common/core/number_format.h"
 #include "wizard/core/wizard_context.h"
+#include "tradeoffs/core/judgment_entry.h"
 
 namespace tnw::tradeoffs {
 
@@ -26,42 +26,8 @@ void TradeOffScenarioPlayer::play(const TradeOffScenario& scenario, TradeOffObse
   end(scenario.end, observer);
 }
 
-// Chooses the pair in the two lists in an order that the lists do not refuse on the way. An
-// exchange of the two attributes goes through a third one when the model has one; with two
-// attributes the lists refuse it, as they do in the dialog.
-bool TradeOffScenarioPlayer::choosePair(const TradeOffJudgment& j) {
-  const JudgmentPage& page = m_presenter.judgmentPage();
-  if (j.first == page.SecondAttIndex() && j.second == page.FirstAttIndex()) {
-    for (int t = 0; t < m_context.model.attributeCount(); ++t) {
-      if (t != j.first && t != j.second) {
-        m_presenter.lstTradeOffFirstC_Click(t);
-        break;
-      }
-    }
-  }
-  if (j.first == page.SecondAttIndex()) {
-    m_presenter.lstTradeOffSecondC_Click(j.second);
-    m_presenter.lstTradeOffFirstC_Click(j.first);
-  } else {
-    m_presenter.lstTradeOffFirstC_Click(j.first);
-    m_presenter.lstTradeOffSecondC_Click(j.second);
-  }
-  return page.FirstAttIndex() == j.first && page.SecondAttIndex() == j.second;
-}
-
 bool TradeOffScenarioPlayer::enter(const TradeOffJudgment& j) {
-  if (!choosePair(j)) return false;
-  // Boxes in the order (1) A first, (2) A second, (3) B first, (4) B second.
-  const double boxes[4] = {j.scores[0], j.scores[2], j.scores[1], j.scores[3]};
-  for (int i = 0; i < 4; ++i) m_presenter.setScoreText(i, generalText(boxes[i]));
-  if (j.response == 0) {
-    m_presenter.tsComparisonApproaches_Click(1);
-  } else {
-    m_presenter.tsComparisonApproaches_Click(2);
-    m_presenter.optPCVerbal_Click(j.response + 3);
-  }
-  m_presenter.cmdTradeOffEnter_Click();
-  return true;
+  return enterJudgment(m_presenter, m_context.model.attributeCount(), j);
 }
 
 void TradeOffScenarioPlayer::end(ScenarioEnd how, TradeOffObserver& observer) {

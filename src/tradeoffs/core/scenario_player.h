@@ -65,7 +65,6 @@ class TradeOffScenarioPlayer {
   TradeOffOutcome outcome() const;
 
  private:
-  bool choosePair(const TradeOffJudgment& judgment);
   bool enter(const TradeOffJudgment& judgment);
   void end(ScenarioEnd how, TradeOffObserver& observer);
 

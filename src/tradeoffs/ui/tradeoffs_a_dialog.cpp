@@ -11,6 +11,7 @@
 #include "tradeoffs/ui/tradeoffs_printout.h"
 #include "tradeoffs/ui/tradeoffs_results_widget.h"
 #include "tradeoffs/ui/tradeoffs_accessibility.h"
+#include "tradeoffs/core/saved_judgments.h"
 
 // Qt
 #include <QAction>
@@ -58,13 +59,14 @@ void renderButton(QPushButton* button, const wizard::ButtonState& state) {
 }  // namespace
 
 TradeOffsADialog::TradeOffsADialog(WizardContext& context, UiServices& ui, TradeOffsAEvents& events,
-                                   RandomSource* random)
+                                   RandomSource* random, const JudgmentsFile* judgmentsFile)
     : m_context(context) {
   if (random == nullptr) {
     m_ownRandom = std::make_unique<ClockRandomSource>();
     random = m_ownRandom.get();
   }
   m_presenter = std::make_unique<TradeOffsAPresenter>(context, ui, events, *random);
+  m_saved = std::make_unique<SavedJudgments>(context, ui, *m_presenter, judgmentsFile);
   setObjectName(QStringLiteral("frmTradeOffsA"));
   setWindowTitle(QString::fromLatin1(TradeOffsAPresenter::kCaption));
   buildFrame();
@@ -72,6 +74,7 @@ TradeOffsADialog::TradeOffsADialog(WizardContext& context, UiServices& ui, Trade
   connectJudgment();
   connectScores();
   connectResults();
+  connectSavedJudgments();
   const QString dir = hostDirectory(context);
   m_judgment->controls().framePCGraph->setDragCursor(
       PcGraphWidget::PointA,
@@ -192,6 +195,15 @@ void TradeOffsADialog::connectJudgment() {
           }));
 }
 
+void TradeOffsADialog::connectSavedJudgments() {
+  const auto& c = m_judgment->controls();
+  SavedJudgments* saved = m_saved.get();
+  connect(c.cmdSaveJudgments, &QPushButton::clicked, this,
+          guarded(this, [this, saved] { act([saved] { saved->cmdSaveJudgments_Click(); }); }));
+  connect(c.cmdLoadJudgments, &QPushButton::clicked, this,
+          guarded(this, [this, saved] { act([saved] { saved->cmdLoadJudgments_Click(); }); }));
+}
+
 void TradeOffsADialog::connectScores() {
   const auto& c = m_judgment->controls();
   TradeOffsAPresenter* p = m_presenter.get();
@@ -257,6 +269,8 @@ void TradeOffsADialog::render() {
   m_rendering = true;
   if (p.step() == TradeOffsAPresenter::kJudgmentStep) {
     m_judgment->render(p.judgmentPage(), m_context.model);
+    renderButton(m_judgment->controls().cmdSaveJudgments, m_saved->cmdSaveJudgments());
+    renderButton(m_judgment->controls().cmdLoadJudgments, m_saved->cmdLoadJudgments());
   } else {
     m_results->render(p.resultsPage(), p.tsTabsW(), p.worstJudgmentLines());
   }

@@ -18,7 +18,9 @@ class UiServices;
 
 namespace tnw::tradeoffs {
 
+class JudgmentsFile;
 class RandomSource;
+class SavedJudgments;
 class ScoreBoxFilter;
 class TradeOffsAEvents;
 class TradeOffsAccessibilityQt;
@@ -38,14 +40,17 @@ class TradeOffsADialog : public DialogWindow {
 
  public:
   // Builds and loads the dialog (the presenter's Form_Load runs here). Without a random source
-  // the scores are drawn from the clock.
+  // the scores are drawn from the clock; with a judgments file form the judgment page offers
+  // Save and Load of its judgments (it must outlive the dialog).
   TradeOffsADialog(WizardContext& context, UiServices& ui, TradeOffsAEvents& events,
-                   RandomSource* random = nullptr);
+                   RandomSource* random = nullptr, const JudgmentsFile* judgmentsFile = nullptr);
   ~TradeOffsADialog() override;
 
   // The presenter behind the dialog.
   const TradeOffsAPresenter& presenter() const;
   TradeOffsAPresenter& presenter();
+  // Save and Load of the judgment page.
+  const SavedJudgments& savedJudgments() const { return *m_saved; }
   // The judgment page (step 1) and the results page (step 2).
   TradeOffsJudgmentWidget* judgmentPage() const { return m_judgment; }
   TradeOffsResultsWidget* resultsPage() const { return m_results; }
@@ -66,6 +71,7 @@ class TradeOffsADialog : public DialogWindow {
   void connectJudgment();
   void connectScores();
   void connectResults();
+  void connectSavedJudgments();
   // Runs a user action unless the signal came from rendering.
   template <typename Action>
   void act(Action action);
@@ -75,6 +81,7 @@ class TradeOffsADialog : public DialogWindow {
   WizardContext& m_context;
   std::unique_ptr<RandomSource> m_ownRandom;
   std::unique_ptr<TradeOffsAPresenter> m_presenter;
+  std::unique_ptr<SavedJudgments> m_saved;
   QLabel* m_instruction = nullptr;
   QStackedWidget* m_pages = nullptr;
   TradeOffsJudgmentWidget* m_judgment = nullptr;

@@ -107,6 +107,7 @@ TradeOffsJudgmentWidget::TradeOffsJudgmentWidget(QWidget* parent) : QWidget(pare
   m_c.cmdTradeOffClearAll->setAutoDefault(false);
   m_c.cmdTradeOffEnter->setAutoDefault(false);
   auto* buttons = new QHBoxLayout;
+  addSavedJudgmentButtons(buttons);
   buttons->addStretch(1);
   buttons->addWidget(m_c.cmdTradeOffClearAll);
   buttons->addWidget(m_c.cmdTradeOffEnter);
@@ -348,6 +349,24 @@ QWidget* TradeOffsJudgmentWidget::buildVerbalAlternatives() {
     grid->addWidget(m_c.verbalScore[b], b < 2 ? 1 : 2, (b % 2) + 1);
   }
   return box;
+}
+
+// Save and Load of the judgments, at the left of the page's own buttons; hidden until the dialog
+// has a file form to offer them with.
+void TradeOffsJudgmentWidget::addSavedJudgmentButtons(QHBoxLayout* row) {
+  const auto make = [this, row](const char* name, const QString& text, const QString& tip) {
+    auto* b = new QPushButton(text, this);
+    b->setObjectName(QString::fromLatin1(name));
+    b->setToolTip(tip);
+    b->setAutoDefault(false);
+    b->setVisible(false);
+    row->addWidget(b);
+    return b;
+  };
+  m_c.cmdSaveJudgments = make("cmdSaveJudgments", tr("Sa&ve judgments..."),
+                              tr("Save the recorded judgments to a file the command line reads"));
+  m_c.cmdLoadJudgments = make("cmdLoadJudgments", tr("&Load judgments..."),
+                              tr("Load judgments from a file in place of the recorded ones"));
 }
 
 }  // namespace tnw::tradeoffs

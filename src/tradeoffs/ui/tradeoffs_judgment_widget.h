@@ -11,6 +11,7 @@
 
 class QAction;
 class QButtonGroup;
+class QHBoxLayout;
 class QLabel;
 class QLineEdit;
 class QListWidget;
@@ -74,6 +75,9 @@ class TradeOffsJudgmentWidget : public QWidget {
     QButtonGroup* verbalGroup = nullptr;
     QPushButton* cmdTradeOffClearAll = nullptr;
     QPushButton* cmdTradeOffEnter = nullptr;
+    // Save and Load of the judgments.
+    QPushButton* cmdSaveJudgments = nullptr;
+    QPushButton* cmdLoadJudgments = nullptr;
   };
 
   // Builds the page with every control.
@@ -105,6 +109,7 @@ class TradeOffsJudgmentWidget : public QWidget {
   QWidget* buildScores();
   QWidget* buildVerbal();
   QWidget* buildVerbalAlternatives();
+  void addSavedJudgmentButtons(QHBoxLayout* row);
   QToolBar* buildStepToolbar(int box);
   void renderSelection(const JudgmentControls& s);
   void renderScores(const JudgmentControls& s);
