@@ -1,23 +1,12 @@
 #include "component/tnw_mavt.h"
 
 #include "common/ui/widget_ui_services.h"
-#include "component/ui/wizard_backend.h"
 #include "component/core/wizard_component.h"
+#include "component/json_judgment_files.h"
 #include "component/ui/widget_dialog_factory.h"
-#include "model_json/judgment_files.h"
+#include "component/ui/wizard_backend.h"
 
 namespace tnw {
-
-namespace {
-
-// The dialogs save and load judgments in the JSON forms the command line reads.
-JudgmentFiles jsonJudgmentFiles() {
-  static const JsonJudgmentsFile tradeOffs;
-  static const JsonIntervalsFile direct;
-  return {&tradeOffs, &direct};
-}
-
-}  // namespace
 
 // Everything a wizard object owns. It forwards the events to the host's listener and counts
 // how deep it is inside them, so that a host destroying the object from inside an event does

@@ -2,10 +2,11 @@
 // the process's QApplication. The Qt parts are assembled by WizardBackend, which is built and
 // tested on every platform; this file only adds what is particular to a DLL inside a Win32 host.
 
+#include "component/json_judgment_files.h"
+#include "component/ui/wizard_backend.h"
 #include "component/windows/dialog_backend.h"
 #include "component/windows/qt_platform_selection.h"
 #include "component/windows/server_module.h"
-#include "component/ui/wizard_backend.h"
 
 // Qt
 #include <QCoreApplication>
@@ -43,7 +44,8 @@ class QtDialogBackend final : public DialogBackend {
   WizardComponent::ModelReader modelReader() override { return m_parts.modelReader(); }
 
  private:
-  WizardBackend m_parts;
+  // The dialogs save and load judgments in the command line's JSON forms.
+  WizardBackend m_parts{nullptr, jsonJudgmentFiles()};
 };
 
 std::once_flag g_pinOnce;
