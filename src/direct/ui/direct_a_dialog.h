@@ -1,13 +1,15 @@
 #pragma once
 
-#include "wizard/ui/dialog_window.h"
 #include "direct/core/direct_a_presenter.h"
+#include "graphs/ui/results_printout.h"
+#include "wizard/ui/dialog_window.h"
 
 // Qt
 #include <QTimer>
 
 class QLabel;
 class QLineEdit;
+class QPagedPaintDevice;
 class QPushButton;
 class QStackedWidget;
 
@@ -39,6 +41,10 @@ class DirectADialog : public DialogWindow {
   const DirectAPresenter& presenter() const { return m_presenter; }
   // Timer1, which blinks the indicator and the status lamps.
   const QTimer& timer() const { return m_timer; }
+  // The print-out of the results step as it is shown now.
+  ResultsPrintout printout() const;
+  // Prints the results step on a printer or PDF writer, without asking (Print asks first).
+  void printResults(QPagedPaintDevice& device) const;
 
  protected:
   // The close box and Escape do what Cancel does.
@@ -52,6 +58,9 @@ class DirectADialog : public DialogWindow {
   void connectReferencePage();
   void connectJudgmentPage();
   void connectButtons();
+  void connectExports();
+  void setUpChart();
+  QString suggestedName(const char* suffix) const;
   void render();
   void renderControls();
   void renderHeader();
@@ -61,6 +70,7 @@ class DirectADialog : public DialogWindow {
   void applyTabOrder(int step);
 
   WizardContext& m_context;
+  UiServices& m_ui;
   DirectAPresenter m_presenter;
   QTimer m_timer;
   QStackedWidget* m_stack = nullptr;
@@ -81,6 +91,7 @@ class DirectADialog : public DialogWindow {
   QPushButton* m_cmdFinish = nullptr;
   QPushButton* m_cmdCancel = nullptr;
   QPushButton* m_cmdHelp = nullptr;
+  QPushButton* m_cmdPrint = nullptr;
   QList<QWidget*> m_tabChain;
   bool m_rendering = false;
   bool m_renderAgain = false;
