@@ -75,6 +75,7 @@ class DirectAExportsDialogTest : public QObject {
   void saveChartAsSvgWritesTheChartOrSaysWhyItCannot();
   void cancellingTheSvgFileWritesNothing();
   void tabReachesTheExportButtonsAfterTheGridsAndChart();
+  void ctrlCOnTheGridCopiesTheWholeGridAndTheChart();
 
  private:
   QPushButton* button(const char* name) const { return m_f->button(name); }
@@ -233,6 +234,22 @@ void DirectAExportsDialogTest::tabReachesTheExportButtonsAfterTheGridsAndChart()
   QTest::keyClick(button("cmdCopy"), Qt::Key_Space);
   QVERIFY(QGuiApplication::clipboard()->mimeData()->hasText());
   QVERIFY(QGuiApplication::clipboard()->mimeData()->text().startsWith(QStringLiteral("ID\t")));
+}
+
+void DirectAExportsDialogTest::ctrlCOnTheGridCopiesTheWholeGridAndTheChart() {
+  m_f->m_dialog->activateWindow();
+  QVERIFY(QTest::qWaitForWindowActive(m_f->m_dialog.get()));
+  QTableWidget* grid = m_f->gridTN();
+  grid->setFocus(Qt::TabFocusReason);
+  QTRY_COMPARE(QApplication::focusWidget(), static_cast<QWidget*>(grid));
+  QGuiApplication::clipboard()->clear();
+  QTest::keyClick(grid, Qt::Key_C, Qt::ControlModifier);
+  const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+  QVERIFY(data != nullptr);
+  QVERIFY2(data->text().startsWith(QStringLiteral("ID\tAttributes\tWeights\t")),
+           qPrintable(data->text()));
+  QCOMPARE(data->text().count(QStringLiteral("\r\n")), grid->rowCount() + 1);
+  QVERIFY(data->hasImage());
 }
 
 }  // namespace tnw::direct

@@ -76,6 +76,7 @@ class TradeOffsExportsDialogTest : public QObject {
   void saveChartAsSvgWritesTheChartInView();
   void cancellingTheSvgFileWritesNothing();
   void printStaysAsItWas();
+  void ctrlCOnTheWeightEstimatesCopiesTheGridAndTheChart();
 
  private:
   QPushButton* button(const char* name) const {
@@ -215,6 +216,20 @@ void TradeOffsExportsDialogTest::printStaysAsItWas() {
   // The exports ask for no file and show no message on their own.
   QVERIFY(m_ui->fileRequests().empty());
   QVERIFY(m_ui->messages().empty());
+}
+
+void TradeOffsExportsDialogTest::ctrlCOnTheWeightEstimatesCopiesTheGridAndTheChart() {
+  m_dialog->activateWindow();
+  QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
+  grid()->setFocus(Qt::TabFocusReason);
+  QTRY_COMPARE(QApplication::focusWidget(), static_cast<QWidget*>(grid()));
+  QGuiApplication::clipboard()->clear();
+  QTest::keyClick(grid(), Qt::Key_C, Qt::ControlModifier);
+  const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+  QVERIFY(data != nullptr);
+  QCOMPARE(data->text(), shownLines(*grid(), QLatin1Char('\t')).join(QStringLiteral("\r\n")) +
+                             QStringLiteral("\r\n"));
+  QVERIFY(data->hasImage());
 }
 
 }  // namespace tnw::tradeoffs

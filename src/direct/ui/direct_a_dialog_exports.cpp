@@ -12,6 +12,7 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTableWidget>
 
 namespace tnw::direct {
@@ -43,6 +44,10 @@ void DirectADialog::connectExports() {
                                    QString::fromUtf8(ResultsPage::kChartTitle),
                                    suggestedName("_chart.svg"));
           }));
+  // Ctrl+C anywhere on the results step copies as Copy does.
+  auto* copy = new QShortcut(QKeySequence::Copy, m_resultsPage);
+  copy->setContext(Qt::WidgetWithChildrenShortcut);
+  connect(copy, &QShortcut::activated, page->copyButton(), &QPushButton::click);
   connect(m_cmdPrint, &QPushButton::clicked, this, guarded(this, [this] {
             ResultsPrintout::openPrintDialog(
                 this, windowTitle(),

@@ -26,6 +26,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QTableWidget>
@@ -302,6 +303,10 @@ void TradeOffsADialog::connectExports() {
                                    QString::fromUtf8(ResultsPage::kChartTitle),
                                    suggestedName("_chart.svg"));
           }));
+  // Ctrl+C anywhere on the weight estimates copies as Copy does.
+  auto* copy = new QShortcut(QKeySequence::Copy, c.picWeightEst);
+  copy->setContext(Qt::WidgetWithChildrenShortcut);
+  connect(copy, &QShortcut::activated, c.cmdCopy, &QPushButton::click);
 }
 
 QString TradeOffsADialog::suggestedName(const char* suffix) const {
