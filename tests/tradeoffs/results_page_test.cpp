@@ -123,5 +123,28 @@ TEST(ResultsPageTest, EnteringThePageFillsItFromTheResultItWasBuiltOver) {
   EXPECT_EQ(empty.chartKey(), "");
 }
 
+TEST(ResultsPageTest, TableTextIsTheWeightGridAsShownForClipboardAndCsv) {
+  const ResultsInput c = resultsContext();
+  ResultsPage p;
+  p.SetgirdWeights(c.model);
+  p.FillWeightData(c.weights);
+  const TextTable table = p.tableText();
+  ASSERT_EQ(table.size(), 3U);
+  EXPECT_EQ(table[0], (std::vector<std::string>{"Attributes", "Weights", "Est.High", "Est.Low"}));
+  EXPECT_EQ(table[1], p.gridWeights().cells[1]);
+  EXPECT_EQ(table[2][1], "0.6000");
+  EXPECT_EQ(TableText::toCsv(table), "Attributes,Weights,Est.High,Est.Low\r\n" + table[1][0] +
+                                         ",0.4000,0.5000,0.3000\r\n" + table[2][0] +
+                                         ",0.6000,0.7500,0.4500\r\n");
+}
+
+TEST(ResultsPageTest, ExportButtonsHaveTheirCaptionsAndAreEnabled) {
+  const ResultsPage p;
+  EXPECT_EQ(p.cmdCopy().caption, "Cop&y");
+  EXPECT_EQ(p.cmdSaveCsv().caption, "Save as CS&V");
+  EXPECT_EQ(p.cmdSaveSvg().caption, "Save chart as SV&G");
+  EXPECT_TRUE(p.cmdCopy().enabled && p.cmdSaveCsv().enabled && p.cmdSaveSvg().enabled);
+}
+
 }  // namespace
 }  // namespace tnw::tradeoffs

@@ -1,5 +1,8 @@
 #include "direct/core/results_page.h"
 
+#include "graphs/core/graphs.h"
+#include "model/attribute_names.h"
+
 // Std
 #include <algorithm>
 #include <cstddef>
@@ -28,6 +31,43 @@ void ResultsPage::initializePage() {
   m_exactBounds =
       ExactWeightBounds::compute(firstN(result.LowerWeights), firstN(result.UpperWeights),
                                  result.FinalAttGroup, result.RefAtt);
+  m_chart = weightChart(m_shared.context.model, m_grid, n);
+}
+
+ChartData ResultsPage::weightChart(const AttributeModel& model, const ResultsGrid& grid, int n) {
+  ChartData d;
+  d.title = kChartTitle;
+  // The legend of this chart lists its entries in the colours of the low marks, the middle
+  // marks and the high marks, in that order.
+  d.legend = {"Low weight", "Middle point", "High weight"};
+  const auto at = [](const std::vector<double>& v, int i) {
+    return i < static_cast<int>(v.size()) ? v[static_cast<std::size_t>(i)] : 0.0;
+  };
+  d.n = std::max(0, n);
+  for (int i = 0; i < d.n; ++i) {
+    d.names.push_back(model::attributeName(model, i));
+    d.data.push_back(
+        {at(grid.highWeights(), i), at(grid.lowWeights(), i), at(grid.middlePoints(), i)});
+  }
+  return d;
+}
+
+void ResultsPage::drawChart(DrawingSurface& surface) const {
+  if (m_chart.n <= 0) return;
+  Graphs g;
+  g.GridColour = 9;
+  g.DrawFrame = true;
+  g.Display_HLCGraphAMain(surface, m_chart);
+}
+
+TextTable ResultsPage::tableText() const {
+  TextTable t;
+  for (int r = 0; r < m_grid.rows(); ++r) {
+    std::vector<std::string> row;
+    for (int c = 0; c < ResultsGrid::kColumns; ++c) row.push_back(m_grid.cell(r, c));
+    t.push_back(std::move(row));
+  }
+  return t;
 }
 
 }  // namespace tnw::direct

@@ -1,6 +1,7 @@
 #include "direct/ui/direct_a_dialog.h"
 
 #include "common/ui/wizard_buttons.h"
+#include "direct/core/drag_payload.h"
 #include "direct/ui/cone_area_widget.h"
 #include "direct/ui/control_rendering.h"
 #include "direct/ui/direct_accessibility.h"
@@ -8,7 +9,6 @@
 #include "direct/ui/direct_order_page_widget.h"
 #include "direct/ui/direct_reference_page_widget.h"
 #include "direct/ui/direct_results_page_widget.h"
-#include "direct/core/drag_payload.h"
 #include "direct/ui/ratio_box_filter.h"
 
 // Qt
@@ -54,6 +54,7 @@ DirectADialog::DirectADialog(WizardContext& context, UiServices& ui, DirectAEven
                              QWidget* parent, const IntervalsFile* intervalsFile)
     : DialogWindow(parent),
       m_context(context),
+      m_ui(ui),
       m_presenter(context, ui, events),
       m_saved(context, ui, m_presenter, intervalsFile) {
   setObjectName(QStringLiteral("frmDirectA"));
@@ -93,12 +94,14 @@ DirectADialog::DirectADialog(WizardContext& context, UiServices& ui, DirectAEven
   connectReferencePage();
   connectJudgmentPage();
   connectButtons();
+  connectExports();
   m_timer.setObjectName(QStringLiteral("Timer1"));
   connect(&m_timer, &QTimer::timeout, this, guarded(this, [this] { m_presenter.Timer1_Timer(); }));
 
   m_presenter.setChangeListener([this] { render(); });
   m_presenter.Form_Load();
   m_accessibility = new DirectAccessibilityQt(this);
+  setUpChart();
   render();
   focusStep(0);
   resize(initialSize());
@@ -159,6 +162,7 @@ QLayout* DirectADialog::buildButtons() {
   m_cmdFinish = makeButton("cmdFinish", this);
   m_cmdCancel = makeButton("cmdCancel", this);
   m_cmdHelp = makeButton("cmdHelp", this);
+  m_cmdPrint = makeButton("cmdPrint", this);
   m_cmdNext->setDefault(true);
   auto* buttons = new QHBoxLayout;
   buttons->setContentsMargins(0, 0, 0, 0);
@@ -166,7 +170,8 @@ QLayout* DirectADialog::buildButtons() {
                                                 .next = m_cmdNext,
                                                 .finish = m_cmdFinish,
                                                 .cancel = m_cmdCancel,
-                                                .help = m_cmdHelp}));
+                                                .help = m_cmdHelp,
+                                                .print = m_cmdPrint}));
   return buttons;
 }
 
@@ -274,6 +279,7 @@ void DirectADialog::render() {
       default:
         m_resultsPage->render(m_presenter.grid());
         m_resultsPage->renderExactBounds(m_context.model, m_presenter.exactBounds());
+        m_resultsPage->renderExports(m_presenter.results());
         break;
     }
     renderControls();
@@ -301,6 +307,10 @@ void DirectADialog::renderControls() {
   renderButton(m_cmdFinish, p.cmdFinish());
   renderButton(m_cmdCancel, p.cmdCancel());
   renderButton(m_cmdHelp, p.cmdHelp());
+  // Print belongs to the results step; the earlier steps do not show it.
+  wizard::ButtonState print = p.results().cmdPrint();
+  print.visible = print.visible && p.WizardStep() == DirectAPresenter::kResultsStep;
+  renderButton(m_cmdPrint, print);
   m_orderPage->renderControls(p.ordering());
   m_judgmentPage->renderControls(p.judgment());
   renderButton(m_judgmentPage->saveButton(), m_saved.cmdSaveJudgments());
@@ -335,7 +345,9 @@ void DirectADialog::applyTabOrder(int step) {
       chain.append(m_judgmentPage->orderList()->tabChain());
       break;
     default:
-      chain << m_resultsPage->grid() << m_resultsPage->exactGrid();
+      chain << m_resultsPage->grid() << m_resultsPage->exactGrid() << m_resultsPage->chart()
+            << m_resultsPage->copyButton() << m_resultsPage->saveCsvButton()
+            << m_resultsPage->saveSvgButton();
       break;
   }
   // The buttons follow in the order their box shows them. The box makes its first button its

@@ -1,14 +1,16 @@
 #pragma once
 
-#include "wizard/ui/dialog_window.h"
 #include "direct/core/direct_a_presenter.h"
 #include "direct/core/saved_intervals.h"
+#include "graphs/ui/results_printout.h"
+#include "wizard/ui/dialog_window.h"
 
 // Qt
 #include <QTimer>
 
 class QLabel;
 class QLineEdit;
+class QPagedPaintDevice;
 class QPushButton;
 class QStackedWidget;
 
@@ -43,6 +45,10 @@ class DirectADialog : public DialogWindow {
   const SavedIntervals& savedIntervals() const { return m_saved; }
   // Timer1, which blinks the indicator and the status lamps.
   const QTimer& timer() const { return m_timer; }
+  // The print-out of the results step as it is shown now.
+  ResultsPrintout printout() const;
+  // Prints the results step on a printer or PDF writer, without asking (Print asks first).
+  void printResults(QPagedPaintDevice& device) const;
 
  protected:
   // The close box and Escape do what Cancel does.
@@ -56,6 +62,9 @@ class DirectADialog : public DialogWindow {
   void connectReferencePage();
   void connectJudgmentPage();
   void connectButtons();
+  void connectExports();
+  void setUpChart();
+  QString suggestedName(const char* suffix) const;
   void render();
   void renderControls();
   void renderHeader();
@@ -65,6 +74,7 @@ class DirectADialog : public DialogWindow {
   void applyTabOrder(int step);
 
   WizardContext& m_context;
+  UiServices& m_ui;
   DirectAPresenter m_presenter;
   SavedIntervals m_saved;
   QTimer m_timer;
@@ -86,6 +96,7 @@ class DirectADialog : public DialogWindow {
   QPushButton* m_cmdFinish = nullptr;
   QPushButton* m_cmdCancel = nullptr;
   QPushButton* m_cmdHelp = nullptr;
+  QPushButton* m_cmdPrint = nullptr;
   QList<QWidget*> m_tabChain;
   bool m_rendering = false;
   bool m_renderAgain = false;

@@ -1,10 +1,18 @@
 #include "direct/ui/direct_results_page_widget.h"
 
 #include "direct/core/results_grid.h"
+#include "direct/core/results_page.h"
+#include "direct/ui/control_rendering.h"
+#include "graphs/ui/chart_widget.h"
+#include "graphs/ui/painter_surface.h"
+#include "graphs/ui/results_export.h"
 
 // Qt
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QPainter>
+#include <QPushButton>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -12,6 +20,28 @@
 #include <algorithm>
 
 namespace tnw::direct {
+
+namespace {
+
+QPushButton* exportButton(const char* name, QWidget* parent) {
+  auto* button = new QPushButton(parent);
+  button->setObjectName(QString::fromLatin1(name));
+  button->setAutoDefault(false);
+  return button;
+}
+
+// Draws the page's chart as the trade-off page draws its own: the scale labels set the font, and
+// each item name has a slot of 100 / n under the plot and the 28 units below the axis.
+void drawPageChart(const ResultsPage& page, QPainter& painter, const QRectF& area) {
+  const int n = page.chart().n;
+  const double slot = n > 0 ? 100.0 / n : 100.0;
+  painter.setFont(PainterSurface::fittedFont(painter.font(), painter.device(), area.width()));
+  PainterSurface surface(painter, area);
+  surface.setItemTexts(page.chart().names, slot * 0.95, 27.0);
+  page.drawChart(surface);
+}
+
+}  // namespace
 
 DirectResultsPageWidget::DirectResultsPageWidget(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("picStep3"));
@@ -26,8 +56,16 @@ DirectResultsPageWidget::DirectResultsPageWidget(QWidget* parent) : QWidget(pare
   m_grid->horizontalHeader()->setStretchLastSection(false);
   m_grid->setWordWrap(false);
   caption->setBuddy(m_grid);
-  auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(0, 0, 0, 0);
+  auto* outer = new QVBoxLayout(this);
+  outer->setContentsMargins(0, 0, 0, 0);
+  auto* columns = new QHBoxLayout;
+  auto* layout = new QVBoxLayout;
+  columns->addLayout(layout, 3);
+  m_chart = new ChartWidget(this);
+  m_chart->setObjectName(QStringLiteral("picWeightGraph"));
+  columns->addWidget(m_chart, 2);
+  outer->addLayout(columns, 1);
+  outer->addLayout(buildExports());
   layout->addWidget(caption);
   layout->addWidget(m_grid, 1);
 
@@ -46,6 +84,42 @@ DirectResultsPageWidget::DirectResultsPageWidget(QWidget* parent) : QWidget(pare
   m_exactTitle->setBuddy(m_exactGrid);
   layout->addWidget(m_exactTitle);
   layout->addWidget(m_exactGrid, 1);
+}
+
+QLayout* DirectResultsPageWidget::buildExports() {
+  m_cmdCopy = exportButton("cmdCopy", this);
+  m_cmdCopy->setToolTip(tr("Copies the weights grid as text and the chart as a picture"));
+  m_cmdSaveCsv = exportButton("cmdSaveCsv", this);
+  m_cmdSaveCsv->setToolTip(tr("Saves the weights grid as comma-separated values"));
+  m_cmdSaveSvg = exportButton("cmdSaveSvg", this);
+  m_cmdSaveSvg->setToolTip(ResultsExport::svgAvailable() ? tr("Saves the chart as an SVG picture")
+                                                         : ResultsExport::svgUnavailableTip());
+  auto* row = new QHBoxLayout;
+  row->addWidget(m_cmdCopy);
+  row->addWidget(m_cmdSaveCsv);
+  row->addWidget(m_cmdSaveSvg);
+  row->addStretch(1);
+  return row;
+}
+
+void DirectResultsPageWidget::renderExports(const ResultsPage& page) {
+  if (m_page != &page) {
+    m_page = &page;
+    m_chart->setPainter([shown = m_page](QPainter& painter, const QRectF& area) {
+      drawPageChart(*shown, painter, area);
+    });
+  }
+  // The chart is drawn again only when its data changed.
+  const ChartData& chart = page.chart();
+  if (chart.names != m_shownChart.names || chart.data != m_shownChart.data) {
+    m_shownChart = chart;
+    m_chart->redraw();
+  }
+  renderButton(m_cmdCopy, page.cmdCopy());
+  renderButton(m_cmdSaveCsv, page.cmdSaveCsv());
+  wizard::ButtonState svg = page.cmdSaveSvg();
+  svg.enabled = svg.enabled && ResultsExport::svgAvailable();
+  renderButton(m_cmdSaveSvg, svg);
 }
 
 void DirectResultsPageWidget::renderExactBounds(const AttributeModel& model,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/core/table_text.h"
 #include "graphs/core/chart_data.h"
 #include "graphs/core/drawing_surface.h"
 #include "graphs/core/graphs.h"
@@ -67,6 +68,14 @@ class ResultsPage : public wizard::WizardPage {
   void tbWeightCharts_ButtonClick(const std::string& key);
   // Draws the chart in view on a surface (nothing before a chart is chosen).
   void drawChart(DrawingSurface& surface) const;
+  // gridWeights as text, the headings first, each cell as the grid shows it.
+  TextTable tableText() const { return m_weights.cells; }
+
+  // The export buttons beside the chart toolbar: Copy (gridWeights and the chart to the
+  // clipboard), Save as CSV (gridWeights) and Save chart as SVG.
+  const wizard::ButtonState& cmdCopy() const { return m_cmdCopy; }
+  const wizard::ButtonState& cmdSaveCsv() const { return m_cmdSaveCsv; }
+  const wizard::ButtonState& cmdSaveSvg() const { return m_cmdSaveSvg; }
 
   // The chart data of the three toolbar buttons.
   static ChartData Display_VerticalWeightBars(const AttributeModel& model,
@@ -86,6 +95,9 @@ class ResultsPage : public wizard::WizardPage {
   std::string m_chartKey;
   ChartData m_chart;
   Graphs m_graphs;
+  wizard::ButtonState m_cmdCopy{"Cop&y"};
+  wizard::ButtonState m_cmdSaveCsv{"Save as CS&V"};
+  wizard::ButtonState m_cmdSaveSvg{"Save chart as SV&G"};
 };
 
 }  // namespace tnw::tradeoffs

@@ -2,6 +2,7 @@
 // renders, apart from the part that lays the controls out.
 #include "graphs/ui/chart_widget.h"
 #include "graphs/ui/painter_surface.h"
+#include "graphs/ui/results_export.h"
 #include "tradeoffs/core/results_page.h"
 #include "tradeoffs/ui/tradeoffs_results_widget.h"
 
@@ -9,6 +10,7 @@
 #include <QAction>
 #include <QListWidget>
 #include <QPainter>
+#include <QPushButton>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QTableWidget>
@@ -80,6 +82,18 @@ bool TradeOffsResultsWidget::renderGrid(QTableWidget& table, const wizard::GridS
   return changed;
 }
 
+void TradeOffsResultsWidget::renderExports(const ResultsPage& page) {
+  const auto show = [](QPushButton* button, const wizard::ButtonState& state, bool usable) {
+    const QString caption = QString::fromStdString(state.caption);
+    if (button->text() != caption) button->setText(caption);
+    button->setEnabled(state.enabled && usable);
+    button->setVisible(state.visible);
+  };
+  show(m_c.cmdCopy, page.cmdCopy(), true);
+  show(m_c.cmdSaveCsv, page.cmdSaveCsv(), true);
+  show(m_c.cmdSaveSvg, page.cmdSaveSvg(), ResultsExport::svgAvailable());
+}
+
 void TradeOffsResultsWidget::renderWorstJudgments(const std::vector<std::string>& worstLines) {
   QStringList lines;
   for (const std::string& line : worstLines) lines.append(QString::fromStdString(line));
@@ -113,6 +127,7 @@ void TradeOffsResultsWidget::render(const ResultsPage& page, int tab,
   const QString comment = QString::fromStdString(page.txtComments().text);
   if (m_c.txtComments->toPlainText() != comment) m_c.txtComments->setPlainText(comment);
   renderWorstJudgments(worstLines);
+  renderExports(page);
   for (int i = 0; i < 3; ++i) m_c.chartButton[i]->setChecked(page.chartKey() == chartKey(i));
   // The chart is drawn again only when it changed.
   if (m_shownKey != page.chartKey() || !sameChart(m_shownChart, page.chart())) {

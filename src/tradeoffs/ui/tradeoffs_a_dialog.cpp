@@ -1,17 +1,18 @@
 #include "tradeoffs/ui/tradeoffs_a_dialog.h"
 
 #include "common/ui/wizard_buttons.h"
-#include "wizard/core/wizard_context.h"
+#include "graphs/ui/results_export.h"
 #include "tradeoffs/core/clock_random_source.h"
+#include "tradeoffs/core/saved_judgments.h"
+#include "tradeoffs/core/tradeoffs_a_presenter.h"
 #include "tradeoffs/ui/pc_graph_widget.h"
 #include "tradeoffs/ui/pc_point_widget.h"
 #include "tradeoffs/ui/score_box_filter.h"
-#include "tradeoffs/core/tradeoffs_a_presenter.h"
+#include "tradeoffs/ui/tradeoffs_accessibility.h"
 #include "tradeoffs/ui/tradeoffs_judgment_widget.h"
 #include "tradeoffs/ui/tradeoffs_printout.h"
 #include "tradeoffs/ui/tradeoffs_results_widget.h"
-#include "tradeoffs/ui/tradeoffs_accessibility.h"
-#include "tradeoffs/core/saved_judgments.h"
+#include "wizard/core/wizard_context.h"
 
 // Qt
 #include <QAction>
@@ -24,10 +25,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QTableWidget>
@@ -60,7 +60,7 @@ void renderButton(QPushButton* button, const wizard::ButtonState& state) {
 
 TradeOffsADialog::TradeOffsADialog(WizardContext& context, UiServices& ui, TradeOffsAEvents& events,
                                    RandomSource* random, const JudgmentsFile* judgmentsFile)
-    : m_context(context) {
+    : m_context(context), m_ui(ui) {
   if (random == nullptr) {
     m_ownRandom = std::make_unique<ClockRandomSource>();
     random = m_ownRandom.get();
@@ -75,6 +75,7 @@ TradeOffsADialog::TradeOffsADialog(WizardContext& context, UiServices& ui, Trade
   connectScores();
   connectResults();
   connectSavedJudgments();
+  connectExports();
   const QString dir = hostDirectory(context);
   m_judgment->controls().framePCGraph->setDragCursor(
       PcGraphWidget::PointA,
@@ -295,18 +296,39 @@ TradeOffsPrintout TradeOffsADialog::printout() const {
 void TradeOffsADialog::printResults(QPagedPaintDevice& device) const { printout().print(device); }
 
 void TradeOffsADialog::print() {
-  // Window-modal without a nested event loop: the print-out is made when the dialog is accepted.
-  // The dialog deletes itself when it closes, or goes with this dialog; its printer lives as long
-  // as the connection that prints, which ends with the print dialog.
-  auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
-  printer->setDocName(windowTitle());
-  auto* dialog = new QPrintDialog(printer.get(), this);
-  dialog->setObjectName(QStringLiteral("dlgPrint"));
-  dialog->setWindowTitle(tr("Print the results"));
-  dialog->setAttribute(Qt::WA_DeleteOnClose);
-  connect(dialog, &QDialog::accepted, this,
-          guarded(this, [this, printer] { printResults(*printer); }));
-  dialog->open();
+  ResultsPrintout::openPrintDialog(
+      this, windowTitle(),
+      guarded(this, [this](QPagedPaintDevice& device) { printResults(device); }));
+}
+
+void TradeOffsADialog::connectExports() {
+  const auto& c = m_results->controls();
+  const TradeOffsAPresenter* p = m_presenter.get();
+  connect(c.cmdCopy, &QPushButton::clicked, this, guarded(this, [this, p] {
+            const ChartWidget& chart = *m_results->controls().picWeightGraph;
+            ResultsExport::copy(p->resultsPage().tableText(), chart.painter(),
+                                ResultsExport::chartSize(chart));
+          }));
+  connect(c.cmdSaveCsv, &QPushButton::clicked, this, guarded(this, [this, p] {
+            ResultsExport::saveCsv(m_ui, p->resultsPage().tableText(),
+                                   suggestedName("_weights.csv"));
+          }));
+  connect(c.cmdSaveSvg, &QPushButton::clicked, this, guarded(this, [this] {
+            const ChartWidget& chart = *m_results->controls().picWeightGraph;
+            ResultsExport::saveSvg(m_ui, chart.painter(), ResultsExport::chartSize(chart),
+                                   QString::fromUtf8(ResultsPage::kChartTitle),
+                                   suggestedName("_chart.svg"));
+          }));
+  // Ctrl+C anywhere on the weight estimates copies as Copy does.
+  auto* copy = new QShortcut(QKeySequence::Copy, c.picWeightEst);
+  copy->setContext(Qt::WidgetWithChildrenShortcut);
+  connect(copy, &QShortcut::activated, c.cmdCopy, &QPushButton::click);
+}
+
+QString TradeOffsADialog::suggestedName(const char* suffix) const {
+  const QString base =
+      QFileInfo(QString::fromStdString(m_context.PathAndFileName)).completeBaseName();
+  return (base.isEmpty() ? QStringLiteral("tradeoffs") : base) + QString::fromLatin1(suffix);
 }
 
 }  // namespace tnw::tradeoffs

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tradeoffs/ui/tradeoffs_printout.h"
 #include "wizard/ui/dialog_window.h"
 
 // Std
@@ -26,7 +27,6 @@ class TradeOffsAEvents;
 class TradeOffsAccessibilityQt;
 class TradeOffsAPresenter;
 class TradeOffsJudgmentWidget;
-class TradeOffsPrintout;
 class TradeOffsResultsWidget;
 
 // frmTradeOffsA, the trade-off method's dialog, as a Qt view over TradeOffsAPresenter: the
@@ -77,8 +77,11 @@ class TradeOffsADialog : public DialogWindow {
   void act(Action action);
   void render();
   void print();
+  void connectExports();
+  QString suggestedName(const char* suffix) const;
 
   WizardContext& m_context;
+  UiServices& m_ui;
   std::unique_ptr<RandomSource> m_ownRandom;
   std::unique_ptr<TradeOffsAPresenter> m_presenter;
   std::unique_ptr<SavedJudgments> m_saved;

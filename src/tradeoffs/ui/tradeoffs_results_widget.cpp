@@ -1,8 +1,9 @@
 #include "tradeoffs/ui/tradeoffs_results_widget.h"
 
 #include "graphs/ui/chart_widget.h"
-#include "tradeoffs/ui/item_text_delegate.h"
+#include "graphs/ui/results_export.h"
 #include "tradeoffs/core/leave_one_out.h"
+#include "tradeoffs/ui/item_text_delegate.h"
 
 // Qt
 #include <QAction>
@@ -12,6 +13,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPainter>
+#include <QPushButton>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QTableWidget>
@@ -127,6 +129,28 @@ QToolBar* TradeOffsResultsWidget::buildChartToolbar(QWidget* parent) {
   return bar;
 }
 
+QLayout* TradeOffsResultsWidget::buildExportRow(QWidget* parent) {
+  const auto button = [parent](const char* name, const QString& tip) {
+    auto* b = new QPushButton(parent);
+    b->setObjectName(QString::fromLatin1(name));
+    b->setAutoDefault(false);
+    b->setToolTip(tip);
+    return b;
+  };
+  m_c.cmdCopy = button("cmdCopy", tr("Copies the weights grid as text and the chart as a picture"));
+  m_c.cmdSaveCsv = button("cmdSaveCsv", tr("Saves the weights grid as comma-separated values"));
+  m_c.cmdSaveSvg =
+      button("cmdSaveSvg", ResultsExport::svgAvailable() ? tr("Saves the chart as an SVG picture")
+                                                         : ResultsExport::svgUnavailableTip());
+  auto* row = new QHBoxLayout;
+  row->setContentsMargins(0, 0, 0, 0);
+  row->addWidget(m_c.cmdCopy);
+  row->addWidget(m_c.cmdSaveCsv);
+  row->addWidget(m_c.cmdSaveSvg);
+  row->addStretch(1);
+  return row;
+}
+
 QWidget* TradeOffsResultsWidget::buildWeightEst() {
   auto* panel = new QWidget(this);
   panel->setObjectName(QStringLiteral("picWeightEst"));
@@ -139,10 +163,13 @@ QWidget* TradeOffsResultsWidget::buildWeightEst() {
   chartColumn->setSpacing(2);
   chartColumn->addWidget(buildChartToolbar(panel));
   chartColumn->addWidget(m_c.picWeightGraph, 1);
-  auto* layout = new QHBoxLayout(panel);
+  auto* columns = new QHBoxLayout;
+  columns->addWidget(m_c.gridWeights, 3);
+  columns->addLayout(chartColumn, 5);
+  auto* layout = new QVBoxLayout(panel);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(m_c.gridWeights, 3);
-  layout->addLayout(chartColumn, 5);
+  layout->addLayout(columns, 1);
+  layout->addLayout(buildExportRow(panel));
   return panel;
 }
 

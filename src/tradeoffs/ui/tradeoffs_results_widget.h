@@ -15,6 +15,7 @@ class QAction;
 class QActionGroup;
 class QLabel;
 class QListWidget;
+class QPushButton;
 class QStackedWidget;
 class QTabBar;
 class QTableWidget;
@@ -30,7 +31,8 @@ namespace tnw::tradeoffs {
 class ResultsPage;
 
 // The results page of frmTradeOffsA: the tab strip tsTabsW over the weight-estimates panel
-// (gridWeights and the chart with its toolbar tbWeightCharts) and the regression-status panel
+// (gridWeights and the chart with its toolbar tbWeightCharts, and under them the export buttons
+// cmdCopy, cmdSaveCsv and cmdSaveSvg) and the regression-status panel
 // (gridOverallRegression, txtComments and the list lstWorstJudgments). It lays the controls out
 // and shows a ResultsPage (render); the dialog connects the tabs and the toolbar to the
 // presenter.
@@ -54,6 +56,10 @@ class TradeOffsResultsWidget : public QWidget {
     // The toolbar's buttons by key: "WeightBars", "HLCa", "HLCb".
     QAction* chartButton[3] = {};
     ChartWidget* picWeightGraph = nullptr;
+    // The exports: the grid and chart to the clipboard, the grid as CSV, the chart as SVG.
+    QPushButton* cmdCopy = nullptr;
+    QPushButton* cmdSaveCsv = nullptr;
+    QPushButton* cmdSaveSvg = nullptr;
   };
 
   // Builds the page with every control.
@@ -77,6 +83,8 @@ class TradeOffsResultsWidget : public QWidget {
   QWidget* buildWeightEst();
   QWidget* buildRegStatus();
   QToolBar* buildChartToolbar(QWidget* parent);
+  QLayout* buildExportRow(QWidget* parent);
+  void renderExports(const ResultsPage& page);
   void renderWorstJudgments(const std::vector<std::string>& worstLines);
 
   Controls m_c;

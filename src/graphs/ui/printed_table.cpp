@@ -1,4 +1,4 @@
-#include "tradeoffs/ui/printed_table.h"
+#include "graphs/ui/printed_table.h"
 
 // Qt
 #include <QFontMetricsF>
@@ -8,7 +8,7 @@
 // Std
 #include <algorithm>
 
-namespace tnw::tradeoffs {
+namespace tnw {
 
 namespace {
 
@@ -31,10 +31,15 @@ double layOut(QTextLayout& layout, double width) {
 }  // namespace
 
 PrintedTable::PrintedTable(const QStringList& headings, const QVector<QStringList>& rows,
-                               const QFont& font, const QPaintDevice* device, double width)
+                           const QFont& font, const QPaintDevice* device, double width,
+                           int nameColumn)
     : m_width(width) {
   const auto columns = static_cast<std::size_t>(headings.size());
   if (columns == 0) return;
+  m_nameColumn = nameColumn > 0 && static_cast<std::size_t>(nameColumn) < columns
+                     ? static_cast<std::size_t>(nameColumn)
+                     : 0;
+  const std::size_t names = m_nameColumn;
   QFont bold = font;
   bold.setBold(true);
   const QFontMetricsF plain(font, device);
@@ -48,7 +53,8 @@ PrintedTable::PrintedTable(const QStringList& headings, const QVector<QStringLis
   // The number columns are as wide as their widest text, but together take at most 60 %.
   m_columnWidths.assign(columns, 0.0);
   const std::size_t lines = static_cast<std::size_t>(rows.size()) + 1;
-  for (std::size_t c = 1; c < columns; ++c) {
+  for (std::size_t c = 0; c < columns; ++c) {
+    if (c == names) continue;
     for (std::size_t l = 0; l < lines; ++l) {
       const QFontMetricsF& fm = l == 0 ? heavy : plain;
       m_columnWidths[c] = std::max(m_columnWidths[c], fm.horizontalAdvance(textOf(l, c)));
@@ -56,12 +62,16 @@ PrintedTable::PrintedTable(const QStringList& headings, const QVector<QStringLis
     m_columnWidths[c] += 2 * m_padding;
   }
   double numbers = 0.0;
-  for (std::size_t c = 1; c < columns; ++c) numbers += m_columnWidths[c];
+  for (std::size_t c = 0; c < columns; ++c) {
+    if (c != names) numbers += m_columnWidths[c];
+  }
   if (numbers > width * 0.6 && numbers > 0) {
-    for (std::size_t c = 1; c < columns; ++c) m_columnWidths[c] *= width * 0.6 / numbers;
+    for (std::size_t c = 0; c < columns; ++c) {
+      if (c != names) m_columnWidths[c] *= width * 0.6 / numbers;
+    }
     numbers = width * 0.6;
   }
-  m_columnWidths[0] = width - numbers;
+  m_columnWidths[names] = width - numbers;
   for (std::size_t l = 0; l < lines; ++l) {
     std::vector<std::unique_ptr<QTextLayout>> cells;
     double height = 0.0;
@@ -97,7 +107,7 @@ void PrintedTable::drawLine(QPainter& painter, std::size_t line, const QPointF& 
     const double textHeight = layout.boundingRect().height();
     // Names and headings read from the left, numbers line up on the right.
     double offset = m_padding;
-    if (c > 0 && line > 0 && layout.lineCount() == 1) {
+    if (c != m_nameColumn && line > 0 && layout.lineCount() == 1) {
       offset =
           std::max(m_padding, m_columnWidths[c] - m_padding - layout.lineAt(0).naturalTextWidth());
     }
@@ -111,4 +121,4 @@ void PrintedTable::drawLine(QPainter& painter, std::size_t line, const QPointF& 
                    QPointF(topLeft.x() + m_width, topLeft.y() + height));
 }
 
-}  // namespace tnw::tradeoffs
+}  // namespace tnw

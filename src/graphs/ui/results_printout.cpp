@@ -1,18 +1,21 @@
-#include "tradeoffs/ui/tradeoffs_printout.h"
+#include "graphs/ui/results_printout.h"
 
-#include "tradeoffs/ui/printed_table.h"
+#include "graphs/ui/printed_table.h"
 
 // Qt
 #include <QPageLayout>
 #include <QPagedPaintDevice>
 #include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QTableWidget>
 #include <QTextLayout>
 
 // Std
 #include <algorithm>
+#include <memory>
 
-namespace tnw::tradeoffs {
+namespace tnw {
 
 namespace {
 
@@ -28,7 +31,7 @@ QFont printFont(const QPainter& painter, double points, bool bold) {
 // Where the print-out stands: the page in hand and how far down it is filled. Every page is laid
 // out alike, but only the page being rendered is drawn, so that counting the pages and drawing
 // one of them take the same path.
-class TradeOffsPrintout::Flow {
+class ResultsPrintout::Flow {
  public:
   Flow(QPainter& painter, const QRectF& page, int target)
       : m_painter(painter), m_page(page), m_target(target), m_y(page.top()) {}
@@ -58,8 +61,9 @@ class TradeOffsPrintout::Flow {
   double m_y;
 };
 
-TradeOffsPrintout::Table TradeOffsPrintout::fromGrid(const QTableWidget& grid) {
+ResultsPrintout::Table ResultsPrintout::fromGrid(const QTableWidget& grid, int nameColumn) {
   Table t;
+  t.nameColumn = nameColumn;
   for (int c = 0; c < grid.columnCount(); ++c) {
     const QTableWidgetItem* h = grid.horizontalHeaderItem(c);
     t.headings << (h ? h->text() : QString());
@@ -75,7 +79,7 @@ TradeOffsPrintout::Table TradeOffsPrintout::fromGrid(const QTableWidget& grid) {
   return t;
 }
 
-QMarginsF TradeOffsPrintout::printMargins(const QMarginsF& margins, const QMarginsF& minimum) {
+QMarginsF ResultsPrintout::printMargins(const QMarginsF& margins, const QMarginsF& minimum) {
   const auto side = [](double own, double least) {
     return std::max({own, least, kMinimumMarginMm});
   };
@@ -83,7 +87,7 @@ QMarginsF TradeOffsPrintout::printMargins(const QMarginsF& margins, const QMargi
           side(margins.right(), minimum.right()), side(margins.bottom(), minimum.bottom())};
 }
 
-QString TradeOffsPrintout::pageHeader() const {
+QString ResultsPrintout::pageHeader() const {
   QStringList parts;
   if (!modelFile.isEmpty()) parts << QStringLiteral("Model: %1").arg(modelFile);
   if (!method.isEmpty()) parts << QStringLiteral("Method: %1").arg(method);
@@ -91,11 +95,11 @@ QString TradeOffsPrintout::pageHeader() const {
   return parts.join(QStringLiteral("    "));
 }
 
-QString TradeOffsPrintout::pageFooter(int index, int count) {
+QString ResultsPrintout::pageFooter(int index, int count) {
   return QStringLiteral("Page %1 of %2").arg(index + 1).arg(count);
 }
 
-void TradeOffsPrintout::print(QPagedPaintDevice& device) const {
+void ResultsPrintout::print(QPagedPaintDevice& device) const {
   // The device's painted area is its page less these margins.
   QPageLayout layout = device.pageLayout();
   layout.setUnits(QPageLayout::Millimeter);
@@ -110,27 +114,27 @@ void TradeOffsPrintout::print(QPagedPaintDevice& device) const {
   }
 }
 
-QRectF TradeOffsPrintout::bodyOf(QPainter& painter, const QRectF& page) {
+QRectF ResultsPrintout::bodyOf(QPainter& painter, const QRectF& page) {
   // A line for the header and one for the footer, each with a line's gap to the body.
   const double line =
       QFontMetricsF(printFont(painter, kTextPoints, false), painter.device()).height();
   return page.adjusted(0, 2 * line, 0, -2 * line);
 }
 
-int TradeOffsPrintout::pageCount(QPainter& painter, const QRectF& page) const {
+int ResultsPrintout::pageCount(QPainter& painter, const QRectF& page) const {
   Flow flow(painter, bodyOf(painter, page), -1);
   run(flow);
   return flow.pageIndex() + 1;
 }
 
-void TradeOffsPrintout::renderPage(QPainter& painter, const QRectF& page, int index) const {
+void ResultsPrintout::renderPage(QPainter& painter, const QRectF& page, int index) const {
   drawPageFrame(painter, page, index, pageCount(painter, page));
   Flow flow(painter, bodyOf(painter, page), index);
   run(flow);
 }
 
-void TradeOffsPrintout::drawPageFrame(QPainter& painter, const QRectF& page, int index,
-                                        int count) const {
+void ResultsPrintout::drawPageFrame(QPainter& painter, const QRectF& page, int index,
+                                    int count) const {
   painter.save();
   painter.setPen(Qt::black);
   painter.setFont(printFont(painter, kTextPoints, false));
@@ -147,38 +151,70 @@ void TradeOffsPrintout::drawPageFrame(QPainter& painter, const QRectF& page, int
   painter.restore();
 }
 
-void TradeOffsPrintout::run(Flow& flow) const {
+void ResultsPrintout::run(Flow& flow) const {
   QPainter& painter = flow.painter();
   painter.save();
   painter.setPen(Qt::black);
   drawHeading(flow);
-  drawRegressionAndComment(flow);
-  flow.advance(flow.gap());
-  // The weight grid, page after page, with its headings at the top of each.
-  const PrintedTable grid(weights.headings, weights.rows, printFont(painter, kTextPoints, false),
-                            painter.device(), flow.page().width());
-  if (!weights.headings.isEmpty()) {
-    const double left = flow.page().left();
-    if (flow.room() < grid.headingHeight() + (grid.rowCount() > 0 ? grid.rowHeight(0) : 0.0)) {
-      flow.newPage();
-    }
-    if (flow.drawing()) grid.drawHeading(painter, QPointF(left, flow.y()));
-    flow.advance(grid.headingHeight());
-    for (int r = 0; r < grid.rowCount(); ++r) {
-      if (flow.room() < grid.rowHeight(r) && flow.y() > flow.page().top() + grid.headingHeight()) {
-        flow.newPage();
-        if (flow.drawing()) grid.drawHeading(painter, QPointF(left, flow.y()));
-        flow.advance(grid.headingHeight());
-      }
-      if (flow.drawing()) grid.drawRow(painter, r, QPointF(left, flow.y()));
-      flow.advance(grid.rowHeight(r));
-    }
+  if (!regression.headings.isEmpty() || !comment.isEmpty()) {
+    drawRegressionAndComment(flow);
+    flow.advance(flow.gap());
+  }
+  drawTable(flow, weights);
+  if (!extra.headings.isEmpty()) {
+    flow.advance(flow.gap());
+    painter.setFont(printFont(painter, kTextPoints, true));
+    const QFontMetricsF bold(painter.font(), painter.device());
+    // The title stays with the grid's heading and first row.
+    if (flow.room() < bold.height() * 4) flow.newPage();
+    if (flow.drawing())
+      painter.drawText(QPointF(flow.page().left(), flow.y() + bold.ascent()), extraTitle);
+    flow.advance(bold.height() * 1.3);
+    drawTable(flow, extra);
   }
   drawChart(flow);
   painter.restore();
 }
 
-void TradeOffsPrintout::drawHeading(Flow& flow) const {
+void ResultsPrintout::drawTable(Flow& flow, const Table& table) const {
+  // The grid, page after page, with its headings at the top of each.
+  QPainter& painter = flow.painter();
+  const PrintedTable grid(table.headings, table.rows, printFont(painter, kTextPoints, false),
+                          painter.device(), flow.page().width(), table.nameColumn);
+  if (table.headings.isEmpty()) return;
+  const double left = flow.page().left();
+  if (flow.room() < grid.headingHeight() + (grid.rowCount() > 0 ? grid.rowHeight(0) : 0.0)) {
+    flow.newPage();
+  }
+  if (flow.drawing()) grid.drawHeading(painter, QPointF(left, flow.y()));
+  flow.advance(grid.headingHeight());
+  for (int r = 0; r < grid.rowCount(); ++r) {
+    if (flow.room() < grid.rowHeight(r) && flow.y() > flow.page().top() + grid.headingHeight()) {
+      flow.newPage();
+      if (flow.drawing()) grid.drawHeading(painter, QPointF(left, flow.y()));
+      flow.advance(grid.headingHeight());
+    }
+    if (flow.drawing()) grid.drawRow(painter, r, QPointF(left, flow.y()));
+    flow.advance(grid.rowHeight(r));
+  }
+}
+
+void ResultsPrintout::openPrintDialog(QWidget* parent, const QString& docName,
+                                      const std::function<void(QPagedPaintDevice&)>& print) {
+  // Window-modal without a nested event loop: the print-out is made when the dialog is accepted.
+  // The dialog deletes itself when it closes, or goes with its parent; its printer lives as long
+  // as the connection that prints, which ends with the print dialog.
+  auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
+  printer->setDocName(docName);
+  auto* dialog = new QPrintDialog(printer.get(), parent);
+  dialog->setObjectName(QStringLiteral("dlgPrint"));
+  dialog->setWindowTitle(QObject::tr("Print the results"));
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  QObject::connect(dialog, &QDialog::accepted, parent, [printer, print] { print(*printer); });
+  dialog->open();
+}
+
+void ResultsPrintout::drawHeading(Flow& flow) const {
   QPainter& painter = flow.painter();
   painter.setFont(printFont(painter, kTitlePoints, true));
   const double height = QFontMetricsF(painter.font(), painter.device()).height();
@@ -189,14 +225,14 @@ void TradeOffsPrintout::drawHeading(Flow& flow) const {
   flow.advance(height * 2);
 }
 
-void TradeOffsPrintout::drawRegressionAndComment(Flow& flow) const {
+void ResultsPrintout::drawRegressionAndComment(Flow& flow) const {
   // The overall figures on the left, the comment on the right.
   QPainter& painter = flow.painter();
   const double gap = flow.gap();
   const double half = (flow.page().width() - gap) / 2;
   const double top = flow.y();
   const PrintedTable grid(regression.headings, regression.rows,
-                            printFont(painter, kTextPoints, false), painter.device(), half);
+                          printFont(painter, kTextPoints, false), painter.device(), half);
   double left = top;
   if (!regression.headings.isEmpty()) {
     if (flow.drawing()) grid.drawHeading(painter, QPointF(flow.page().left(), left));
@@ -229,7 +265,7 @@ void TradeOffsPrintout::drawRegressionAndComment(Flow& flow) const {
   flow.advance(std::max(left, right) - top);
 }
 
-void TradeOffsPrintout::drawChart(Flow& flow) const {
+void ResultsPrintout::drawChart(Flow& flow) const {
   if (!chart) return;
   QPainter& painter = flow.painter();
   const QRectF& page = flow.page();
@@ -256,4 +292,4 @@ void TradeOffsPrintout::drawChart(Flow& flow) const {
   flow.advance(height);
 }
 
-}  // namespace tnw::tradeoffs
+}  // namespace tnw

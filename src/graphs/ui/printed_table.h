@@ -14,17 +14,18 @@ class QPainter;
 class QPointF;
 class QTextLayout;
 
-namespace tnw::tradeoffs {
+namespace tnw {
 
-// One grid of the trade-off print-out laid out for a width: the first column (the names) takes
-// what the others leave, the others are as wide as their widest text, and every text wraps to
+// One grid of a results print-out laid out for a width: the names column (the first unless given)
+// takes what the others leave, the others are as wide as their widest text, and every text wraps to
 // its cell, at word boundaries where it can and anywhere in a word too long for the cell, so
 // that nothing is cut. The print-out places the heading and the rows; a row is never split.
 class PrintedTable {
  public:
-  // Lays the grid out in `font` (bold for the headings) for the device, `width` units wide.
+  // Lays the grid out in `font` (bold for the headings) for the device, `width` units wide, with
+  // the names in column `nameColumn`.
   PrintedTable(const QStringList& headings, const QVector<QStringList>& rows, const QFont& font,
-                 const QPaintDevice* device, double width);
+               const QPaintDevice* device, double width, int nameColumn = 0);
   ~PrintedTable();
 
   // The number of rows under the heading.
@@ -50,6 +51,7 @@ class PrintedTable {
   std::vector<double> m_rowHeights;
   double m_width = 0.0;
   double m_padding = 0.0;
+  std::size_t m_nameColumn = 0;
 };
 
-}  // namespace tnw::tradeoffs
+}  // namespace tnw
