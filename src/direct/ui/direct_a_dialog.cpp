@@ -11,6 +11,7 @@
 #include "direct/ui/direct_results_page_widget.h"
 #include "direct/core/drag_payload.h"
 #include "direct/ui/ratio_box_filter.h"
+#include "wizard/ui/undo_controls.h"
 
 // Qt
 #include <QComboBox>
@@ -221,6 +222,9 @@ void DirectADialog::connectJudgmentPage() {
           }));
   connect(page->restartButton(), &QPushButton::clicked, this,
           guarded(this, [this] { m_presenter.cmdReStart_Click(); }));
+  connectUndo(
+      this, {page->undoButton(), page->redoButton()}, [this] { m_presenter.cmdUndo_Click(); },
+      [this] { m_presenter.cmdRedo_Click(); });
 }
 
 void DirectADialog::connectButtons() {
@@ -296,6 +300,8 @@ void DirectADialog::renderControls() {
   renderButton(m_cmdHelp, p.cmdHelp());
   m_orderPage->renderControls(p.ordering());
   m_judgmentPage->renderControls(p.judgment());
+  renderButton(m_judgmentPage->undoButton(), p.cmdUndo());
+  renderButton(m_judgmentPage->redoButton(), p.cmdRedo());
   renderLabel(m_refName, p.lblRefAtt());
   renderLabel(m_refLow, p.judgment().lblRefRangeLow());
   renderLabel(m_refHigh, p.judgment().lblRefRangeHigh());
@@ -322,7 +328,8 @@ void DirectADialog::applyTabOrder(int step) {
     case 2:
       chain << m_judgmentPage->targetList() << m_judgmentPage->lowerBox()
             << m_judgmentPage->upperBox() << m_judgmentPage->enterButton()
-            << m_judgmentPage->restartButton() << m_judgmentPage->tabs();
+            << m_judgmentPage->restartButton() << m_judgmentPage->undoButton()
+            << m_judgmentPage->redoButton() << m_judgmentPage->tabs();
       chain.append(m_judgmentPage->orderList()->tabChain());
       break;
     default:

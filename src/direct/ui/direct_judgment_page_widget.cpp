@@ -12,6 +12,7 @@
 #include "direct/core/status_lamps.h"
 #include "direct/ui/status_lights_widget.h"
 #include "common/ui/elided_label_widget.h"
+#include "wizard/ui/undo_controls.h"
 
 // Qt
 #include <QComboBox>
@@ -58,7 +59,14 @@ DirectJudgmentPageWidget::DirectJudgmentPageWidget(QWidget* parent) : QWidget(pa
   m_restart->setAutoDefault(false);
   m_lights = new StatusLightsWidget(this);
 
+  const UndoButtons undo =
+      makeUndoButtons(this, tr("Take back the last Enter or Re-start All (Ctrl+Z)"));
+  m_undo = undo.cmdUndo;
+  m_redo = undo.cmdRedo;
+
   auto* buttons = new QHBoxLayout;
+  buttons->addWidget(m_undo);
+  buttons->addWidget(m_redo);
   buttons->addStretch(1);
   buttons->addWidget(m_enter);
   buttons->addWidget(m_restart);
@@ -82,7 +90,9 @@ DirectJudgmentPageWidget::DirectJudgmentPageWidget(QWidget* parent) : QWidget(pa
   setTabOrder(m_lower, m_upper);
   setTabOrder(m_upper, m_enter);
   setTabOrder(m_enter, m_restart);
-  setTabOrder(m_restart, m_tabs);
+  setTabOrder(m_restart, m_undo);
+  setTabOrder(m_undo, m_redo);
+  setTabOrder(m_redo, m_tabs);
 }
 
 QWidget* DirectJudgmentPageWidget::buildTargetFrame() {

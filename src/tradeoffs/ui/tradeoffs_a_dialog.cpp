@@ -11,6 +11,7 @@
 #include "tradeoffs/ui/tradeoffs_printout.h"
 #include "tradeoffs/ui/tradeoffs_results_widget.h"
 #include "tradeoffs/ui/tradeoffs_accessibility.h"
+#include "wizard/ui/undo_controls.h"
 
 // Qt
 #include <QAction>
@@ -72,6 +73,7 @@ TradeOffsADialog::TradeOffsADialog(WizardContext& context, UiServices& ui, Trade
   connectJudgment();
   connectScores();
   connectResults();
+  connectUndo();
   const QString dir = hostDirectory(context);
   m_judgment->controls().framePCGraph->setDragCursor(
       PcGraphWidget::PointA,
@@ -190,6 +192,14 @@ void TradeOffsADialog::connectJudgment() {
           }));
 }
 
+void TradeOffsADialog::connectUndo() {
+  const auto& c = m_judgment->controls();
+  TradeOffsAPresenter* p = m_presenter.get();
+  tnw::connectUndo(
+      this, {c.cmdUndo, c.cmdRedo}, [this, p] { act([p] { p->cmdUndo_Click(); }); },
+      [this, p] { act([p] { p->cmdRedo_Click(); }); });
+}
+
 void TradeOffsADialog::connectScores() {
   const auto& c = m_judgment->controls();
   TradeOffsAPresenter* p = m_presenter.get();
@@ -251,6 +261,8 @@ void TradeOffsADialog::render() {
   wizard::ButtonState print = p.cmdPrint();
   print.enabled = print.enabled && p.step() == TradeOffsAPresenter::kResultsStep;
   renderButton(m_cmdPrint, print);
+  renderButton(m_judgment->controls().cmdUndo, p.cmdUndo());
+  renderButton(m_judgment->controls().cmdRedo, p.cmdRedo());
   // Signals that rendering itself causes are not user actions (see act()).
   m_rendering = true;
   if (p.step() == TradeOffsAPresenter::kJudgmentStep) {

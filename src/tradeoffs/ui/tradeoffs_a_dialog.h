@@ -66,6 +66,7 @@ class TradeOffsADialog : public DialogWindow {
   void connectJudgment();
   void connectScores();
   void connectResults();
+  void connectUndo();
   // Runs a user action unless the signal came from rendering.
   template <typename Action>
   void act(Action action);
