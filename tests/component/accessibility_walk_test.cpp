@@ -127,6 +127,9 @@ void AccessibilityWalkTest::everyStepOfTheDirectDialogIsAccessible() {
   tabs->setCurrentIndex(0);
   click("cmdEnter");
   verifyAccessible(d.get(), "step 2, one judgment recorded");
+  click("cmdUndo");
+  verifyAccessible(d.get(), "step 2, judgment undone, Undo and Redo enabled");
+  click("cmdRedo");
   auto* targets = control<QComboBox>(d.get(), "imgcmbTargetAtt");
   targets->setCurrentIndex(2);
   emit targets->activated(2);
@@ -155,6 +158,11 @@ void AccessibilityWalkTest::everyPageOfTheTradeOffDialogIsAccessible() {
   };
   auto* approaches = control<QTabBar>(d.get(), "tsComparisonApproaches");
   verifyAccessible(d.get(), "judgments, automatic");
+  click("cmdTradeOffEnter");
+  click("cmdTradeOffEnter");
+  click("cmdUndo");
+  verifyAccessible(d.get(), "judgments, Undo and Redo enabled");
+  click("cmdUndo");
   click("optPCManual");
   verifyAccessible(d.get(), "judgments, manual");
   approaches->setCurrentIndex(1);

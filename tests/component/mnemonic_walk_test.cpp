@@ -165,6 +165,9 @@ void MnemonicWalkTest::noStepOfTheDirectDialogHasASharedMnemonic() {
   // Target 0 and then target 2 recorded as they start: the judgments are complete.
   click("cmdEnter");
   verifyUnique(d.get(), "step 2, one judgment recorded");
+  click("cmdUndo");
+  verifyUnique(d.get(), "step 2, judgment undone, Undo and Redo enabled");
+  click("cmdRedo");
   auto* targets = control<QComboBox>(d.get(), "imgcmbTargetAtt");
   targets->setCurrentIndex(2);
   emit targets->activated(2);
@@ -193,6 +196,13 @@ void MnemonicWalkTest::noPageOfTheTradeOffDialogHasASharedMnemonic() {
   };
   auto* approaches = control<QTabBar>(d.get(), "tsComparisonApproaches");
   verifyUnique(d.get(), "judgments, automatic");
+  click("cmdTradeOffEnter");
+  click("cmdTradeOffEnter");
+  click("cmdUndo");
+  QVERIFY(control<QPushButton>(d.get(), "cmdUndo")->isEnabled());
+  QVERIFY(control<QPushButton>(d.get(), "cmdRedo")->isEnabled());
+  verifyUnique(d.get(), "judgments, Undo and Redo enabled");
+  click("cmdUndo");
   click("optPCManual");
   verifyUnique(d.get(), "judgments, manual");
   approaches->setCurrentIndex(1);

@@ -68,6 +68,7 @@ class DirectAHostDialogTest : public QObject {
   void cleanup();
   void finishSendsTheWeightsAndEndsTheWizard();
   void backToSelectionAndDirectAgainGivesAFreshDialog();
+  void theHostsUnloadAsksNothingWhileJudgmentsAreHeld();
 
  private:
   QWidget* openDirect();
@@ -167,6 +168,36 @@ void DirectAHostDialogTest::backToSelectionAndDirectAgainGivesAFreshDialog() {
   QVERIFY(test::control<QWidget>(second, "cmdAttA", 0)->isVisible());
   QTest::mouseClick(button(second, "cmdCancel"), Qt::LeftButton);
   QCOMPARE(m_host.log.back(), std::string("UnloadTNWizard 4 false"));
+}
+
+void DirectAHostDialogTest::theHostsUnloadAsksNothingWhileJudgmentsAreHeld() {
+  QWidget* d = openDirect();
+  QVERIFY(d != nullptr);
+  QTest::mouseClick(button(d, "cmdAdd"), Qt::LeftButton);
+  const int groups[] = {1, 2, 1, 3, 3, 2};
+  for (int j = 0; j < 6; ++j) {
+    QVERIFY(test::dragAndDrop(test::orderBox(d, groups[j]), QStringLiteral("A%1").arg(j)));
+  }
+  QTest::mouseClick(button(d, "cmdNext"), Qt::LeftButton);
+  QTest::mouseClick(button(d, "cmdAttButtons", 1), Qt::LeftButton);
+  QTest::mouseClick(button(d, "cmdNext"), Qt::LeftButton);
+  // The first target as it starts: one judgment recorded.
+  QTest::mouseClick(button(d, "cmdEnter"), Qt::LeftButton);
+  QVERIFY(button(d, "cmdUndo")->isEnabled());
+  // Cancel asks; No keeps the dialog and tells the host nothing.
+  m_ui.setAnswer(false);
+  const std::size_t events = m_host.log.size();
+  QTest::mouseClick(button(d, "cmdCancel"), Qt::LeftButton);
+  QCOMPARE(m_ui.questions().size(), std::size_t{1});
+  QCOMPARE(m_ui.questions()[0].text, std::string("Discard 1 judgment?"));
+  QCOMPARE(m_host.log.size(), events);
+  QVERIFY(d->isVisible());
+  // The host unloading the wizard closes the dialog without a question.
+  QPointer<QWidget> gone(d);
+  m_wizard->UnloadTNWizard();
+  QCOMPARE(m_ui.questions().size(), std::size_t{1});
+  QCOMPARE(m_host.log.size(), events);
+  QTRY_VERIFY(gone.isNull());
 }
 
 }  // namespace tnw::direct

@@ -1,5 +1,6 @@
 // Makes the README's pictures of the trade-off dialog: it runs the method on a small car-purchase
-// model through the real widgets and saves both pages, the three charts and a PDF print-out.
+// model through the real widgets and saves both pages (the judgment page also with a judgment
+// undone), the three charts and a PDF print-out.
 // Usage: trade_offs_screenshots OUTPUT_DIR
 
 #include "common/core/number_format.h"
@@ -160,6 +161,10 @@ int run(const QDir& dir) {
     makeIndifferent(d, context, weights, errors[i]);
     enter->click();
   }
+  // The last judgment taken back, so that both Undo and Redo are enabled; Redo makes it again.
+  clickButton(&d, "cmdUndo");
+  ok = save(&d, dir, "tradeoffs-undo.png") && ok;
+  clickButton(&d, "cmdRedo");
   clickButton(&d, "cmdNext");
   const auto& c = d.resultsPage()->controls();
   ok = save(&d, dir, "tradeoffs-results.png") && ok;

@@ -2,6 +2,7 @@
 
 // Std
 #include <cstddef>
+#include <utility>
 
 namespace tnw::direct {
 
@@ -42,6 +43,8 @@ void DirectAPresenter::cmdNext_Click() {
   // Next enters the next page (the order, the reference and the judgments each lead on).
   if (!m_shared.usable || !cmdNext().enabled || step() >= kResultsStep) return;
   if (!advance()) return;
+  // Step 2 is entered afresh from step 1: nothing before it can be undone.
+  if (step() == kJudgmentStep) m_commands.clear();
   showStep();
   changed();
 }
@@ -53,7 +56,10 @@ void DirectAPresenter::cmdBack_Click() {
     m_shared.events.UnloadDirectA();
     return;
   }
+  const int from = step();
   if (!retreat()) return;
+  // Leaving step 2 for step 1 drops its judgments, and what was undoable with them.
+  if (from == kJudgmentStep) m_commands.clear();
   showStep();
   changed();
 }
@@ -74,6 +80,11 @@ void DirectAPresenter::cmdFinish_Click() {
 }
 
 void DirectAPresenter::cmdCancel_Click() {
+  // The judgments go with the dialog: the user says so first. No keeps everything as it was.
+  const int lost = judgmentsToDiscard();
+  if (lost > 0 && !m_shared.ui.askYesNo(wizard::CommandStack::discardQuestion(lost), "NORIX")) {
+    return;
+  }
   m_shared.events.UnloadTNWizard(m_context.FileIndex, false);
 }
 
@@ -198,15 +209,46 @@ void DirectAPresenter::setConeArea(float side, float handleSize) {
 
 bool DirectAPresenter::cmdEnter_Click() {
   if (step() != kJudgmentStep) return false;
+  JudgmentPage::Snapshot before = m_judgment.snapshot();
   const bool recorded = m_judgment.enterJudgment();
+  if (recorded) recordCommand(std::move(before));
   changed();
   return recorded;
 }
 
 void DirectAPresenter::cmdReStart_Click() {
   if (step() != kJudgmentStep || !cmdReStart().enabled) return;
+  JudgmentPage::Snapshot before = m_judgment.snapshot();
   m_judgment.restart();
+  recordCommand(std::move(before));
   changed();
+}
+
+void DirectAPresenter::recordCommand(JudgmentPage::Snapshot before) {
+  JudgmentPage::Snapshot after = m_judgment.snapshot();
+  JudgmentPage* page = &m_judgment;
+  m_commands.push({[page, before = std::move(before)] { page->restore(before); },
+                   [page, after = std::move(after)] { page->restore(after); }});
+}
+
+void DirectAPresenter::cmdUndo_Click() {
+  if (step() != kJudgmentStep || !m_commands.undo()) return;
+  changed();
+}
+
+void DirectAPresenter::cmdRedo_Click() {
+  if (step() != kJudgmentStep || !m_commands.redo()) return;
+  changed();
+}
+
+wizard::ButtonState DirectAPresenter::cmdUndo() const {
+  const bool shown = step() == kJudgmentStep;
+  return {wizard::CommandStack::kUndoCaption, shown && m_commands.canUndo(), shown};
+}
+
+wizard::ButtonState DirectAPresenter::cmdRedo() const {
+  const bool shown = step() == kJudgmentStep;
+  return {wizard::CommandStack::kRedoCaption, shown && m_commands.canRedo(), shown};
 }
 
 }  // namespace tnw::direct

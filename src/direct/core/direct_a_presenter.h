@@ -9,6 +9,7 @@
 #include "direct/core/reference_page.h"
 #include "direct/core/results_page.h"
 #include "direct/core/status_lamps.h"
+#include "wizard/core/command_stack.h"
 #include "wizard/core/wizard_presenter.h"
 
 // Std
@@ -101,6 +102,19 @@ class DirectAPresenter : public wizard::WizardPresenter {
   bool cmdEnter_Click();
   // Step 2: Re-start All.
   void cmdReStart_Click();
+  // Step 2: Undo and Redo (Ctrl+Z, Ctrl+Shift+Z or Ctrl+Y): Enter and Re-start All are taken
+  // back and made again, exactly, in the order they were made.
+  void cmdUndo_Click();
+  void cmdRedo_Click();
+  // The Undo and Redo buttons: shown on step 2, enabled when there is a command to undo or to
+  // redo.
+  wizard::ButtonState cmdUndo() const;
+  wizard::ButtonState cmdRedo() const;
+  // The undo history of the dialog.
+  const wizard::CommandStack& commands() const { return m_commands; }
+  // The number of judgments Cancel would throw away: the targets recorded on step 2 since it was
+  // entered, and not restarted.
+  int judgmentsToDiscard() const { return m_judgment.judgmentsRecorded(); }
 
   // The current step, 0 to 3 (the same as step()).
   int WizardStep() const { return step(); }
@@ -149,6 +163,8 @@ class DirectAPresenter : public wizard::WizardPresenter {
  private:
   static int usableCount(const WizardContext& context);
   void showStep();
+  // Records a command of step 2 that went from `before` to the page as it is now.
+  void recordCommand(JudgmentPage::Snapshot before);
 
   WizardContext& m_context;
   DirectResult m_result;
@@ -159,6 +175,7 @@ class DirectAPresenter : public wizard::WizardPresenter {
   JudgmentPage m_judgment;
   ResultsPage m_results;
   DirectExport::Weights m_export;
+  wizard::CommandStack m_commands;
 };
 
 }  // namespace tnw::direct

@@ -6,6 +6,9 @@
 #include "direct/core/ratio_bound_check.h"
 #include "direct/core/ratio_key_filter.h"
 
+// Std
+#include <algorithm>
+
 namespace tnw::direct {
 
 namespace {
@@ -34,6 +37,7 @@ void JudgmentPage::showButtons(bool visible) {
 
 bool JudgmentPage::enter(bool resume) {
   m_judgments.reset();
+  m_recorded.assign(static_cast<std::size_t>(m_judgments.count()), false);
   bool resumed = false;
   if (resume) {
     const auto outcome = PreviousJudgments::GetPreviousWeightRatios(m_shared.context.model,
@@ -59,6 +63,8 @@ bool JudgmentPage::enter(bool resume) {
 void JudgmentPage::leave() {
   m_orderTabVisible = false;
   m_targets.clear();
+  // Entering the page again starts the judgments afresh: those of this visit are gone.
+  m_recorded.clear();
 }
 
 void JudgmentPage::ListAtt() {
@@ -275,6 +281,8 @@ bool JudgmentPage::enterJudgment() {
   const double upper = RatioBoundCheck::boxValue(m_upper.text);
   // The target's item is marked at once, with those of its ties.
   m_targets.markJudged(t);
+  if (static_cast<std::size_t>(t) < m_recorded.size())
+    m_recorded[static_cast<std::size_t>(t)] = true;
   for (int k : m_judgments.RecordWeightRatios(t, lower, upper, m_handles)) {
     m_targets.markJudged(k);
   }
@@ -302,6 +310,7 @@ void JudgmentPage::checkStatusOfBoxes() {
 void JudgmentPage::restart() {
   m_shared.ui.setBusy(true);
   m_judgments.ReStartJudgments();
+  m_recorded.assign(m_recorded.size(), false);
   m_targets.clear();
   ListAtt();
   IniJudgmentStatusA(m_targets.currentTarget());
@@ -316,6 +325,64 @@ void JudgmentPage::showCompletion() {
   const bool complete = m_judgments.isComplete();
   m_shared.buttons.cmdNext.enabled = complete;
   m_shared.buttons.cmdFinish.enabled = complete;
+}
+
+template <class Page>
+auto JudgmentPage::labelsOf(Page& page) {
+  // The reference's label is the shared one, which a const page reaches unchanged: the array's
+  // type follows the page's own labels.
+  return std::array<decltype(&page.m_lblTargetAtt), 10>{
+      &page.m_lblTargetAtt,    &page.m_lblChartRefAtt,  &page.m_lblChartTarAtt,
+      &page.m_lblRefRangeLow,  &page.m_lblRefRangeHigh, &page.m_lblTarRangeLow,
+      &page.m_lblTarRangeHigh, &page.m_imgRefAtt,       &page.m_imgTargetAtt,
+      &page.m_shared.lblRefAtt};
+}
+
+JudgmentPage::Snapshot JudgmentPage::snapshot() const {
+  Snapshot s{m_judgments.state(),
+             m_targets,
+             m_handles,
+             m_cone.side(),
+             m_lower,
+             m_upper,
+             m_focus,
+             m_valid,
+             m_lamps,
+             {m_cmdEnter, m_cmdReStart, m_shared.buttons.cmdNext, m_shared.buttons.cmdFinish},
+             {},
+             m_recorded};
+  const auto all = labelsOf(*this);
+  for (std::size_t i = 0; i < all.size(); ++i) s.labels[i] = *all[i];
+  return s;
+}
+
+void JudgmentPage::restore(const Snapshot& s) {
+  m_judgments.restore(s.judgments);
+  m_targets = s.targets;
+  m_handles = s.handles;
+  if (s.coneSide > 0.0F && s.coneSide != m_cone.side()) {
+    const float scale = m_cone.side() / s.coneSide;
+    for (HandlePoint* p : {&m_handles.first, &m_handles.second}) {
+      p->x *= scale;
+      p->y *= scale;
+    }
+  }
+  m_lower = s.lower;
+  m_upper = s.upper;
+  m_focus = s.focus;
+  m_valid = s.valid;
+  m_lamps = s.lamps;
+  m_cmdEnter = s.buttons[0];
+  m_cmdReStart = s.buttons[1];
+  m_shared.buttons.cmdNext = s.buttons[2];
+  m_shared.buttons.cmdFinish = s.buttons[3];
+  const auto all = labelsOf(*this);
+  for (std::size_t i = 0; i < all.size(); ++i) *all[i] = s.labels[i];
+  m_recorded = s.recorded;
+}
+
+int JudgmentPage::judgmentsRecorded() const {
+  return static_cast<int>(std::count(m_recorded.begin(), m_recorded.end(), true));
 }
 
 std::vector<int> JudgmentPage::orderGroup(int k) const {

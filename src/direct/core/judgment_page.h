@@ -26,6 +26,24 @@ class JudgmentPage : public wizard::WizardPage {
   static constexpr int kStep = 2;
   // One of the two ratio boxes.
   enum class Box { Lower, Upper };
+  // What the page holds, taken before and after a command for undo and redo: the judgments with
+  // the result's ratio tables, the targets, the boxes, the handles (and the side of the area
+  // they were placed on), the lamps, the buttons and labels the page sets, and which targets
+  // were recorded since the page was entered.
+  struct Snapshot {
+    WeightRatioJudgments::State judgments;
+    TargetList targets;
+    RegionHandles handles;
+    float coneSide = 0.0F;
+    wizard::TextBoxState lower;
+    wizard::TextBoxState upper;
+    std::string focus;
+    int valid = 0;
+    StatusLamps lamps;
+    std::array<wizard::ButtonState, 4> buttons;  // Enter, Re-start All, Next, Finish
+    std::array<wizard::LabelState, 10> labels;
+    std::vector<bool> recorded;
+  };
 
   // The status message sent when the target list is filled (leading blank kept).
   static constexpr const char* kIndicateMessage =
@@ -86,6 +104,15 @@ class JudgmentPage : public wizard::WizardPage {
   bool enterJudgment();
   // cmdReStart_Click: every judgment starts again.
   void restart();
+
+  // The page as it is now.
+  Snapshot snapshot() const;
+  // Puts the page back as a snapshot took it; handles placed on an area of another size are
+  // scaled to the area as it is now.
+  void restore(const Snapshot& s);
+  // The number of targets whose interval Enter recorded since the page was entered (or all
+  // judgments restarted): the judgments Cancel would throw away.
+  int judgmentsRecorded() const;
 
   // The judgment tables.
   const WeightRatioJudgments& judgments() const { return m_judgments; }
@@ -149,6 +176,9 @@ class JudgmentPage : public wizard::WizardPage {
   // Enables Next and Finish exactly when no attribute is open.
   void showCompletion();
   wizard::TextBoxState& boxState(Box box);
+  // The labels a page sets (const or not), in the order of Snapshot::labels.
+  template <class Page>
+  static auto labelsOf(Page& page);
 
   DirectAShared& m_shared;
   StatusLamps& m_lamps;
@@ -173,6 +203,8 @@ class JudgmentPage : public wizard::WizardPage {
   wizard::LabelState m_lblTarRangeHigh;
   wizard::LabelState m_imgRefAtt;
   wizard::LabelState m_imgTargetAtt;
+  // Per attribute: whether Enter recorded its interval since the page was entered.
+  std::vector<bool> m_recorded;
 };
 
 }  // namespace tnw::direct

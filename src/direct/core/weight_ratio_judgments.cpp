@@ -26,6 +26,26 @@ void WeightRatioJudgments::reset() {
   m_handles.assign(n, RegionHandles{});
 }
 
+WeightRatioJudgments::State WeightRatioJudgments::state() const {
+  return {m_count,
+          m_judged,
+          m_hasHandles,
+          m_handles,
+          m_result.LowerWeights,
+          m_result.CloseWeights,
+          m_result.UpperWeights};
+}
+
+void WeightRatioJudgments::restore(const State& state) {
+  m_count = state.count;
+  m_judged = state.judged;
+  m_hasHandles = state.hasHandles;
+  m_handles = state.handles;
+  m_result.LowerWeights = state.lowerWeights;
+  m_result.CloseWeights = state.closeWeights;
+  m_result.UpperWeights = state.upperWeights;
+}
+
 int WeightRatioJudgments::group(int i) const {
   if (!valid(i) || static_cast<std::size_t>(i) >= m_result.FinalAttGroup.size()) return 0;
   return m_result.FinalAttGroup[static_cast<std::size_t>(i)];

@@ -15,6 +15,18 @@ namespace tnw::direct {
 // the final order and RefAtt of the result.
 class WeightRatioJudgments {
  public:
+  // Everything the judgments hold, the result's three ratio tables included: what undo puts
+  // back.
+  struct State {
+    int count = 0;
+    std::vector<bool> judged;
+    std::vector<bool> hasHandles;
+    std::vector<RegionHandles> handles;
+    std::vector<double> lowerWeights;
+    std::vector<double> closeWeights;
+    std::vector<double> upperWeights;
+  };
+
   // Judgments over the result's tables, sized for the model's attributes (clamped to 0..31).
   WeightRatioJudgments(const AttributeModel& model, DirectResult& result);
 
@@ -55,6 +67,10 @@ class WeightRatioJudgments {
   bool isComplete() const;
   // The number of judged attributes.
   int judgedCount() const;
+  // The judgments as they are now.
+  State state() const;
+  // Puts the judgments (and the result's ratio tables) back as state() took them.
+  void restore(const State& state);
   // The judged flags in model order.
   const std::vector<bool>& judgedFlags() const { return m_judged; }
 

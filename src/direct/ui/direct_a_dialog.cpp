@@ -10,6 +10,7 @@
 #include "direct/ui/direct_reference_page_widget.h"
 #include "direct/ui/direct_results_page_widget.h"
 #include "direct/ui/ratio_box_filter.h"
+#include "wizard/ui/undo_controls.h"
 
 // Qt
 #include <QComboBox>
@@ -233,6 +234,10 @@ void DirectADialog::connectJudgmentPage() {
           guarded(this, [this] { m_saved.cmdSaveJudgments_Click(); }));
   connect(page->loadButton(), &QPushButton::clicked, this,
           guarded(this, [this] { m_saved.cmdLoadJudgments_Click(); }));
+
+  connectUndo(
+      this, {page->undoButton(), page->redoButton()}, [this] { m_presenter.cmdUndo_Click(); },
+      [this] { m_presenter.cmdRedo_Click(); });
 }
 
 void DirectADialog::connectButtons() {
@@ -315,6 +320,9 @@ void DirectADialog::renderControls() {
   m_judgmentPage->renderControls(p.judgment());
   renderButton(m_judgmentPage->saveButton(), m_saved.cmdSaveJudgments());
   renderButton(m_judgmentPage->loadButton(), m_saved.cmdLoadJudgments());
+
+  renderButton(m_judgmentPage->undoButton(), p.cmdUndo());
+  renderButton(m_judgmentPage->redoButton(), p.cmdRedo());
   renderLabel(m_refName, p.lblRefAtt());
   renderLabel(m_refLow, p.judgment().lblRefRangeLow());
   renderLabel(m_refHigh, p.judgment().lblRefRangeHigh());
@@ -341,7 +349,8 @@ void DirectADialog::applyTabOrder(int step) {
     case 2:
       chain << m_judgmentPage->targetList() << m_judgmentPage->lowerBox()
             << m_judgmentPage->upperBox() << m_judgmentPage->enterButton()
-            << m_judgmentPage->restartButton() << m_judgmentPage->tabs();
+            << m_judgmentPage->restartButton() << m_judgmentPage->undoButton()
+            << m_judgmentPage->redoButton() << m_judgmentPage->tabs();
       chain.append(m_judgmentPage->orderList()->tabChain());
       break;
     default:

@@ -1,17 +1,18 @@
 #include "direct/ui/direct_judgment_page_widget.h"
 
-#include "direct/ui/cone_area_widget.h"
-#include "direct/ui/control_rendering.h"
+#include "common/ui/elided_label_widget.h"
 #include "direct/core/direct_result.h"
-#include "direct/ui/direct_view_colours.h"
 #include "direct/core/judgment_page.h"
 #include "direct/core/ordering_page.h"
+#include "direct/core/status_lamps.h"
+#include "direct/ui/cone_area_widget.h"
+#include "direct/ui/control_rendering.h"
+#include "direct/ui/direct_view_colours.h"
 #include "direct/ui/orientation_images.h"
 #include "direct/ui/preference_chart_widget.h"
 #include "direct/ui/ratio_box_filter.h"
-#include "direct/core/status_lamps.h"
 #include "direct/ui/status_lights_widget.h"
-#include "common/ui/elided_label_widget.h"
+#include "wizard/ui/undo_controls.h"
 
 // Qt
 #include <QComboBox>
@@ -58,8 +59,16 @@ DirectJudgmentPageWidget::DirectJudgmentPageWidget(QWidget* parent) : QWidget(pa
   m_restart->setAutoDefault(false);
   m_lights = new StatusLightsWidget(this);
 
+  const UndoButtons undo =
+      makeUndoButtons(this, tr("Take back the last Enter or Re-start All (Ctrl+Z)"));
+  m_undo = undo.cmdUndo;
+  m_redo = undo.cmdRedo;
+
   auto* buttons = new QHBoxLayout;
   addSavedJudgmentButtons(buttons);
+
+  buttons->addWidget(m_undo);
+  buttons->addWidget(m_redo);
   buttons->addStretch(1);
   buttons->addWidget(m_enter);
   buttons->addWidget(m_restart);
@@ -83,7 +92,9 @@ DirectJudgmentPageWidget::DirectJudgmentPageWidget(QWidget* parent) : QWidget(pa
   setTabOrder(m_lower, m_upper);
   setTabOrder(m_upper, m_enter);
   setTabOrder(m_enter, m_restart);
-  setTabOrder(m_restart, m_tabs);
+  setTabOrder(m_restart, m_undo);
+  setTabOrder(m_undo, m_redo);
+  setTabOrder(m_redo, m_tabs);
 }
 
 QWidget* DirectJudgmentPageWidget::buildTargetFrame() {

@@ -22,8 +22,9 @@ class StatusLamps;
 class StatusLightsWidget;
 
 // Step 2 of the direct method: the target choice with its score range and image, the two ratio
-// boxes, Enter and Re-start All, the status lights and a tab strip with the preference cone and
-// the final order. The page holds the controls; the dialog fills them and handles their input.
+// boxes, Enter and Re-start All with Undo and Redo, the status lights and a tab strip with the
+// preference cone and the final order. The page holds the controls; the dialog fills them and
+// handles their input.
 class DirectJudgmentPageWidget : public QWidget {
   Q_OBJECT
 
@@ -56,6 +57,10 @@ class DirectJudgmentPageWidget : public QWidget {
   // Save and Load of the judgments (cmdSaveJudgments, cmdLoadJudgments).
   QPushButton* saveButton() const { return m_save; }
   QPushButton* loadButton() const { return m_load; }
+
+  // Undo and Redo of Enter and Re-start All (cmdUndo, cmdRedo).
+  QPushButton* undoButton() const { return m_undo; }
+  QPushButton* redoButton() const { return m_redo; }
   // The drawing area (picTradeOffsRange) and the status lights (picJudgmentState).
   ConeAreaWidget* coneArea() const { return m_cone; }
   StatusLightsWidget* statusLights() const { return m_lights; }
@@ -89,6 +94,8 @@ class DirectJudgmentPageWidget : public QWidget {
   QLineEdit* m_upper = nullptr;
   QPushButton* m_enter = nullptr;
   QPushButton* m_restart = nullptr;
+  QPushButton* m_undo = nullptr;
+  QPushButton* m_redo = nullptr;
   ConeAreaWidget* m_cone = nullptr;
   StatusLightsWidget* m_lights = nullptr;
   QLabel* m_diagnosis = nullptr;

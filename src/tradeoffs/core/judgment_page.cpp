@@ -307,6 +307,47 @@ void JudgmentPage::cmdTradeOffClearAll_Click() {
   m_controls.cmdTradeOffEnter.enabled = true;
 }
 
+JudgmentPage::Snapshot JudgmentPage::snapshot(int slot) const {
+  Snapshot s{m_controls,
+             m_panel,
+             m_focus,
+             m_tradeOffNo,
+             m_tradeOffsNeeded,
+             m_first,
+             m_second,
+             m_automatic,
+             m_entryError,
+             m_changedByToolbar,
+             {m_lowFirst, m_highFirst, m_lowSecond, m_highSecond},
+             m_store.JudgmentCount,
+             -1,
+             {}};
+  if (slot >= 0 && static_cast<std::size_t>(slot) < m_store.ScoreAFirst.size()) {
+    s.slot = slot;
+    s.judgment = m_store.entry(slot);
+  }
+  return s;
+}
+
+void JudgmentPage::restore(const Snapshot& s) {
+  m_controls = s.controls;
+  m_panel = s.panel;
+  m_focus = s.focus;
+  m_tradeOffNo = s.tradeOffNo;
+  m_tradeOffsNeeded = s.tradeOffsNeeded;
+  m_first = s.first;
+  m_second = s.second;
+  m_automatic = s.automatic;
+  m_entryError = s.entryError;
+  m_changedByToolbar = s.changedByToolbar;
+  m_lowFirst = s.ranges[0];
+  m_highFirst = s.ranges[1];
+  m_lowSecond = s.ranges[2];
+  m_highSecond = s.ranges[3];
+  m_store.setEntry(s.slot, s.judgment, m_context.model.attributeCount());
+  m_store.JudgmentCount = s.judgmentCount;
+}
+
 std::optional<Currency> JudgmentPage::AbsoluteWeight(int p, int q, int order) const {
   // order 1: the first-attribute boxes hold q's scores and the second-attribute boxes p's.
   const int pBoxA = order == 1 ? 1 : 0;

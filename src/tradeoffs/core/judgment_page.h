@@ -9,6 +9,7 @@
 #include "wizard/core/wizard_page.h"
 
 // Std
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -25,6 +26,26 @@ namespace tnw::tradeoffs {
 // the regression reads. Messages go through the UI services; the view renders controls().
 class JudgmentPage : public wizard::WizardPage {
  public:
+  // What the page holds, taken before and after a command for undo and redo: every control,
+  // counter and flag, the store's judgment count, and the judgment in one slot of the store (the
+  // slot Enter writes; Clear All only lowers the count and leaves the slots as they are).
+  struct Snapshot {
+    JudgmentControls controls;
+    ScorePanel panel;
+    std::string focus;
+    std::int16_t tradeOffNo = 0;
+    std::int16_t tradeOffsNeeded = 0;
+    std::int16_t first = 0;
+    std::int16_t second = 1;
+    bool automatic = true;
+    bool entryError = false;
+    bool changedByToolbar = false;
+    std::array<float, 4> ranges{};
+    int judgmentCount = 0;
+    int slot = -1;
+    JudgmentStore::Entry judgment;
+  };
+
   // The instruction of the page.
   static constexpr const char* kInstruction =
       " Give your preference between the two selected criteria.";
@@ -58,6 +79,7 @@ class JudgmentPage : public wizard::WizardPage {
   const std::string& focus() const { return m_focus; }
   // The judgments recorded so far.
   JudgmentStore& store() { return m_store; }
+  const JudgmentStore& store() const { return m_store; }
   // The counters and the pair.
   std::int16_t TradeOffNo() const { return m_tradeOffNo; }
   std::int16_t TradeOffsNeeded() const { return m_tradeOffsNeeded; }
@@ -95,6 +117,12 @@ class JudgmentPage : public wizard::WizardPage {
   void enableEnter() { m_controls.cmdTradeOffEnter.enabled = true; }
   // Disables Enter, for a model the method cannot weigh.
   void disableEnter() { m_controls.cmdTradeOffEnter.enabled = false; }
+
+  // The page as it is now, with the judgment in store slot `slot` (0-based; none for a slot
+  // outside the store).
+  Snapshot snapshot(int slot) const;
+  // Puts the page back as a snapshot took it.
+  void restore(const Snapshot& s);
 
   // Draws A and B for the pair and fills the four boxes.
   void DisplayScoresInTxtBox(int first, int second);

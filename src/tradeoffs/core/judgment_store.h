@@ -9,6 +9,18 @@ namespace tnw::tradeoffs {
 // The recorded trade-off judgments the regression reads. Judgment k (1-based, as the dialog
 // counts) is kept at index k - 1 of every array.
 struct JudgmentStore {
+  // One judgment, as the arrays hold it at one index.
+  struct Entry {
+    double scoreAFirst = 0.0;
+    double scoreBFirst = 0.0;
+    double scoreASecond = 0.0;
+    double scoreBSecond = 0.0;
+    std::int16_t prefResponse = 0;
+    std::vector<double> valueDiff;
+    std::int16_t firstAtt = 0;
+    std::int16_t secondAtt = 0;
+  };
+
   // The number of judgments recorded.
   int JudgmentCount = 0;
   // The scores of A and B on the first and the second attribute of each judgment.
@@ -50,6 +62,28 @@ struct JudgmentStore {
     FirstAtt.resize(n, 0);
     SecondAtt.resize(n, 0);
     ValueDiff.resize(n, std::vector<double>(static_cast<std::size_t>(numAtt < 0 ? 0 : numAtt)));
+  }
+
+  // The judgment at index i (0-based; an empty entry outside the arrays).
+  Entry entry(int i) const {
+    if (i < 0 || static_cast<std::size_t>(i) >= ScoreAFirst.size()) return {};
+    const auto k = static_cast<std::size_t>(i);
+    return {ScoreAFirst[k],  ScoreBFirst[k], ScoreASecond[k], ScoreBSecond[k],
+            PrefResponse[k], ValueDiff[k],   FirstAtt[k],     SecondAtt[k]};
+  }
+  // Writes the judgment at index i (0-based), making room for it; nothing for a negative index.
+  void setEntry(int i, const Entry& e, int numAtt) {
+    if (i < 0) return;
+    extend(i + 1, numAtt);
+    const auto k = static_cast<std::size_t>(i);
+    ScoreAFirst[k] = e.scoreAFirst;
+    ScoreBFirst[k] = e.scoreBFirst;
+    ScoreASecond[k] = e.scoreASecond;
+    ScoreBSecond[k] = e.scoreBSecond;
+    PrefResponse[k] = e.prefResponse;
+    ValueDiff[k] = e.valueDiff;
+    FirstAtt[k] = e.firstAtt;
+    SecondAtt[k] = e.secondAtt;
   }
 };
 

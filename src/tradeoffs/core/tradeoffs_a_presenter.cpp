@@ -5,6 +5,9 @@
 #include "tradeoffs/core/tradeoffs_a_events.h"
 #include "wizard/core/wizard_context.h"
 
+// Std
+#include <utility>
+
 namespace tnw::tradeoffs {
 
 namespace {
@@ -35,6 +38,7 @@ void TradeOffsAPresenter::Form_Load() {
   }
   setStep(kJudgmentStep);
   m_judgment.initializePage();
+  m_commands.clear();
   m_instruction.caption = JudgmentPage::kInstruction;
   m_events.SendMasseges(JudgmentPage::kInstruction);
   // Every judgment evaluates value functions, and the fit weighs every attribute: a model with
@@ -97,8 +101,10 @@ void TradeOffsAPresenter::cmdBack_Click() {
     m_events.ShowTNWSelMethod();
     return;
   }
-  // Leaving the results page: the judgment page is revisited (Enter again, a fresh start).
+  // Leaving the results page: the judgment page is revisited (Enter again, a fresh start), and
+  // what was undoable went with the judgments.
   if (!retreat()) return;
+  m_commands.clear();
   buttons().cmdNext.enabled = true;
   changed();
 }
@@ -119,7 +125,12 @@ void TradeOffsAPresenter::cmdFinish_Click() {
   m_events.UnloadTNWizard(m_context.FileIndex, true);
 }
 
-void TradeOffsAPresenter::cmdCancel_Click() { m_events.UnloadTNWizard(m_context.FileIndex, false); }
+void TradeOffsAPresenter::cmdCancel_Click() {
+  // The judgments go with the dialog: the user says so first. No keeps everything as it was.
+  const int lost = judgmentsToDiscard();
+  if (lost > 0 && !m_ui.askYesNo(wizard::CommandStack::discardQuestion(lost), kTitle)) return;
+  m_events.UnloadTNWizard(m_context.FileIndex, false);
+}
 
 void TradeOffsAPresenter::cmdTNWizardHelp_Click() {
   m_ui.showHelpTopic(m_context.NorixDir + "\\" + "NORIX.HLP", kHelpContext, helpTopic());
@@ -192,14 +203,53 @@ void TradeOffsAPresenter::optPCVerbal_Click(int index) {
 
 void TradeOffsAPresenter::cmdTradeOffEnter_Click() {
   if (m_modelProblem) return;
+  // Enter writes the slot of the judgment in hand; the snapshots keep what that slot held.
+  const std::int16_t before = m_judgment.TradeOffNo();
+  JudgmentPage::Snapshot snapshot = m_judgment.snapshot(before);
   m_judgment.cmdTradeOffEnter_Click();
+  const std::int16_t now = m_judgment.TradeOffNo();
+  if (now != before && now <= m_judgment.TradeOffsNeeded()) recordCommand(std::move(snapshot));
   changed();
 }
 
 void TradeOffsAPresenter::cmdTradeOffClearAll_Click() {
+  JudgmentPage::Snapshot before = m_judgment.snapshot(-1);
   m_judgment.cmdTradeOffClearAll_Click();
   if (m_modelProblem) m_judgment.disableEnter();
+  // A Clear All with nothing to clear changes nothing, and keeps what can be redone.
+  if (before.tradeOffNo != m_judgment.TradeOffNo() ||
+      before.judgmentCount != m_judgment.store().JudgmentCount ||
+      before.controls.cmdTradeOffEnter.enabled != m_judgment.controls().cmdTradeOffEnter.enabled) {
+    recordCommand(std::move(before));
+  }
   changed();
+}
+
+void TradeOffsAPresenter::recordCommand(JudgmentPage::Snapshot before) {
+  JudgmentPage::Snapshot after = m_judgment.snapshot(before.slot);
+  JudgmentPage* page = &m_judgment;
+  m_commands.push({[page, before = std::move(before)] { page->restore(before); },
+                   [page, after = std::move(after)] { page->restore(after); }});
+}
+
+void TradeOffsAPresenter::cmdUndo_Click() {
+  if (step() != kJudgmentStep || !m_commands.undo()) return;
+  changed();
+}
+
+void TradeOffsAPresenter::cmdRedo_Click() {
+  if (step() != kJudgmentStep || !m_commands.redo()) return;
+  changed();
+}
+
+wizard::ButtonState TradeOffsAPresenter::cmdUndo() const {
+  const bool shown = step() == kJudgmentStep;
+  return {wizard::CommandStack::kUndoCaption, shown && m_commands.canUndo(), shown};
+}
+
+wizard::ButtonState TradeOffsAPresenter::cmdRedo() const {
+  const bool shown = step() == kJudgmentStep;
+  return {wizard::CommandStack::kRedoCaption, shown && m_commands.canRedo(), shown};
 }
 
 }  // namespace tnw::tradeoffs

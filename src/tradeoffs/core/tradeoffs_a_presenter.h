@@ -7,6 +7,7 @@
 #include "tradeoffs/core/regression.h"
 #include "tradeoffs/core/results_page.h"
 #include "tradeoffs/core/tradeoff_weights.h"
+#include "wizard/core/command_stack.h"
 #include "wizard/core/control_states.h"
 #include "wizard/core/wizard_presenter.h"
 
@@ -108,9 +109,24 @@ class TradeOffsAPresenter : public wizard::WizardPresenter {
   void cmdTradeOffEnter_Click();
   void cmdTradeOffClearAll_Click();
 
+  // Undo and Redo of the judgment page (Ctrl+Z, Ctrl+Shift+Z or Ctrl+Y): Enter and Clear All
+  // are taken back and made again, exactly, in the order they were made.
+  void cmdUndo_Click();
+  void cmdRedo_Click();
+  // The Undo and Redo buttons: shown on the judgment page, enabled when there is a command to
+  // undo or to redo.
+  wizard::ButtonState cmdUndo() const;
+  wizard::ButtonState cmdRedo() const;
+  // The undo history of the dialog.
+  const wizard::CommandStack& commands() const { return m_commands; }
+  // The number of judgments Cancel would throw away: those recorded and not cleared.
+  int judgmentsToDiscard() const { return m_judgment.store().JudgmentCount; }
+
  private:
   void runRegression();
   void warn(const std::string& text);
+  // Records a command of the judgment page that went from `before` to the page as it is now.
+  void recordCommand(JudgmentPage::Snapshot before);
 
   WizardContext& m_context;
   UiServices& m_ui;
@@ -123,6 +139,7 @@ class TradeOffsAPresenter : public wizard::WizardPresenter {
   std::optional<std::string> m_fitError;
   std::optional<std::string> m_modelProblem;
 
+  wizard::CommandStack m_commands;
   std::vector<JudgmentInfluence> m_worst;
   std::vector<std::string> m_worstLines;
   int m_tabW = 1;

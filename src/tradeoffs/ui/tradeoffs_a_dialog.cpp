@@ -13,6 +13,7 @@
 #include "tradeoffs/ui/tradeoffs_printout.h"
 #include "tradeoffs/ui/tradeoffs_results_widget.h"
 #include "wizard/core/wizard_context.h"
+#include "wizard/ui/undo_controls.h"
 
 // Qt
 #include <QAction>
@@ -76,6 +77,8 @@ TradeOffsADialog::TradeOffsADialog(WizardContext& context, UiServices& ui, Trade
   connectResults();
   connectSavedJudgments();
   connectExports();
+
+  connectUndo();
   const QString dir = hostDirectory(context);
   m_judgment->controls().framePCGraph->setDragCursor(
       PcGraphWidget::PointA,
@@ -205,6 +208,14 @@ void TradeOffsADialog::connectSavedJudgments() {
           guarded(this, [this, saved] { act([saved] { saved->cmdLoadJudgments_Click(); }); }));
 }
 
+void TradeOffsADialog::connectUndo() {
+  const auto& c = m_judgment->controls();
+  TradeOffsAPresenter* p = m_presenter.get();
+  tnw::connectUndo(
+      this, {c.cmdUndo, c.cmdRedo}, [this, p] { act([p] { p->cmdUndo_Click(); }); },
+      [this, p] { act([p] { p->cmdRedo_Click(); }); });
+}
+
 void TradeOffsADialog::connectScores() {
   const auto& c = m_judgment->controls();
   TradeOffsAPresenter* p = m_presenter.get();
@@ -266,6 +277,8 @@ void TradeOffsADialog::render() {
   wizard::ButtonState print = p.cmdPrint();
   print.enabled = print.enabled && p.step() == TradeOffsAPresenter::kResultsStep;
   renderButton(m_cmdPrint, print);
+  renderButton(m_judgment->controls().cmdUndo, p.cmdUndo());
+  renderButton(m_judgment->controls().cmdRedo, p.cmdRedo());
   // Signals that rendering itself causes are not user actions (see act()).
   m_rendering = true;
   if (p.step() == TradeOffsAPresenter::kJudgmentStep) {

@@ -72,6 +72,8 @@ class TradeOffsADialog : public DialogWindow {
   void connectScores();
   void connectResults();
   void connectSavedJudgments();
+
+  void connectUndo();
   // Runs a user action unless the signal came from rendering.
   template <typename Action>
   void act(Action action);

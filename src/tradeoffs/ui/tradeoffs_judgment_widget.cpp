@@ -1,9 +1,10 @@
 #include "tradeoffs/ui/tradeoffs_judgment_widget.h"
 
 #include "common/ui/elided_label_widget.h"
-#include "tradeoffs/ui/item_text_delegate.h"
 #include "tradeoffs/core/judgment_controls.h"
+#include "tradeoffs/ui/item_text_delegate.h"
 #include "tradeoffs/ui/pc_graph_widget.h"
+#include "wizard/ui/undo_controls.h"
 
 // Qt
 #include <QAction>
@@ -106,8 +107,15 @@ TradeOffsJudgmentWidget::TradeOffsJudgmentWidget(QWidget* parent) : QWidget(pare
   // Enter in a score box has its own meaning; no button of the page is the default one.
   m_c.cmdTradeOffClearAll->setAutoDefault(false);
   m_c.cmdTradeOffEnter->setAutoDefault(false);
+  const UndoButtons undo =
+      makeUndoButtons(this, tr("Take back the last Enter or Clear All (Ctrl+Z)"));
+  m_c.cmdUndo = undo.cmdUndo;
+  m_c.cmdRedo = undo.cmdRedo;
   auto* buttons = new QHBoxLayout;
   addSavedJudgmentButtons(buttons);
+
+  buttons->addWidget(m_c.cmdUndo);
+  buttons->addWidget(m_c.cmdRedo);
   buttons->addStretch(1);
   buttons->addWidget(m_c.cmdTradeOffClearAll);
   buttons->addWidget(m_c.cmdTradeOffEnter);

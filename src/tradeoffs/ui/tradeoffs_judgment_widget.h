@@ -34,8 +34,8 @@ struct JudgmentControls;
 // The judgment page of frmTradeOffsA: the choice of the two attributes, the counters, the
 // numerical approach (the panel framePCGraph with A and B, the four score boxes with their step
 // toolbars and the differences) and the verbal approach (seven degrees of preference), with
-// Clear All and Enter. It lays the controls out and shows a JudgmentPage (render); the dialog
-// connects the controls to the presenter.
+// Clear All and Enter, and Undo and Redo. It lays the controls out and shows a JudgmentPage
+// (render); the dialog connects the controls to the presenter.
 class TradeOffsJudgmentWidget : public QWidget {
   Q_OBJECT
 
@@ -78,6 +78,10 @@ class TradeOffsJudgmentWidget : public QWidget {
     // Save and Load of the judgments.
     QPushButton* cmdSaveJudgments = nullptr;
     QPushButton* cmdLoadJudgments = nullptr;
+
+    // Undo and Redo of Enter and Clear All.
+    QPushButton* cmdUndo = nullptr;
+    QPushButton* cmdRedo = nullptr;
   };
 
   // Builds the page with every control.
