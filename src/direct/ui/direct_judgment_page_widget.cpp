@@ -12,6 +12,7 @@
 #include "direct/ui/preference_chart_widget.h"
 #include "direct/ui/ratio_box_filter.h"
 #include "direct/ui/status_lights_widget.h"
+#include "wizard/ui/judgment_file_buttons.h"
 #include "wizard/ui/undo_controls.h"
 
 // Qt
@@ -282,20 +283,12 @@ void DirectJudgmentPageWidget::renderOrderTab(const JudgmentPage& page,
 // Save and Load of the judgments, at the left of Enter and Re-start All; hidden until the dialog
 // has a file form to offer them with.
 void DirectJudgmentPageWidget::addSavedJudgmentButtons(QHBoxLayout* row) {
-  const auto make = [this, row](const char* name, const QString& text, const QString& tip) {
-    auto* b = new QPushButton(text, this);
-    b->setObjectName(QString::fromLatin1(name));
-    b->setToolTip(tip);
-    b->setAutoDefault(false);
-    b->setVisible(false);
-    row->addWidget(b);
-    return b;
-  };
-  m_save = make("cmdSaveJudgments", tr("Sa&ve judgments..."),
-                tr("Save the order, the reference and the intervals to a file the command line "
-                   "reads"));
-  m_load = make("cmdLoadJudgments", tr("&Load judgments..."),
-                tr("Load intervals from a file in place of the ones given"));
+  const JudgmentFileButtons buttons = addJudgmentFileButtons(
+      this, row,
+      tr("Save the order, the reference and the intervals to a file the command line reads"),
+      tr("Load intervals from a file in place of the ones given"));
+  m_save = buttons.cmdSaveJudgments;
+  m_load = buttons.cmdLoadJudgments;
 }
 
 }  // namespace tnw::direct

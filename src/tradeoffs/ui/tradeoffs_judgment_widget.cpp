@@ -4,6 +4,7 @@
 #include "tradeoffs/core/judgment_controls.h"
 #include "tradeoffs/ui/item_text_delegate.h"
 #include "tradeoffs/ui/pc_graph_widget.h"
+#include "wizard/ui/judgment_file_buttons.h"
 #include "wizard/ui/undo_controls.h"
 
 // Qt
@@ -362,19 +363,11 @@ QWidget* TradeOffsJudgmentWidget::buildVerbalAlternatives() {
 // Save and Load of the judgments, at the left of the page's own buttons; hidden until the dialog
 // has a file form to offer them with.
 void TradeOffsJudgmentWidget::addSavedJudgmentButtons(QHBoxLayout* row) {
-  const auto make = [this, row](const char* name, const QString& text, const QString& tip) {
-    auto* b = new QPushButton(text, this);
-    b->setObjectName(QString::fromLatin1(name));
-    b->setToolTip(tip);
-    b->setAutoDefault(false);
-    b->setVisible(false);
-    row->addWidget(b);
-    return b;
-  };
-  m_c.cmdSaveJudgments = make("cmdSaveJudgments", tr("Sa&ve judgments..."),
-                              tr("Save the recorded judgments to a file the command line reads"));
-  m_c.cmdLoadJudgments = make("cmdLoadJudgments", tr("&Load judgments..."),
-                              tr("Load judgments from a file in place of the recorded ones"));
+  const JudgmentFileButtons buttons = addJudgmentFileButtons(
+      this, row, tr("Save the recorded judgments to a file the command line reads"),
+      tr("Load judgments from a file in place of the recorded ones"));
+  m_c.cmdSaveJudgments = buttons.cmdSaveJudgments;
+  m_c.cmdLoadJudgments = buttons.cmdLoadJudgments;
 }
 
 }  // namespace tnw::tradeoffs
