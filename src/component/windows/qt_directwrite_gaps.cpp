@@ -60,6 +60,10 @@ static_assert(alignof(NoDirectWriteFontDatabase) <= alignof(QWindowsDirectWriteF
 void constructNoDirectWriteFontDatabase(void* storage) __asm__(
     "_ZN31QWindowsDirectWriteFontDatabaseC1Ev");
 #else
+// GCC applies thiscall to a free function too, as it documents, but warns that it is meant for
+// member functions; here it is exactly what makes this function callable as one.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wattributes"
 __attribute__((thiscall)) void constructNoDirectWriteFontDatabase(void* storage) __asm__(
     "__ZN31QWindowsDirectWriteFontDatabaseC1Ev");
 #endif
@@ -71,3 +75,6 @@ __attribute__((thiscall)) void constructNoDirectWriteFontDatabase(void* storage)
 #endif
   ::new (storage) NoDirectWriteFontDatabase();
 }
+#if !defined(__x86_64__)
+#pragma GCC diagnostic pop
+#endif
