@@ -27,15 +27,6 @@ class SilentEvents : public DirectAEvents {
   void UnloadTNWizard(std::int16_t, bool) override {}
 };
 
-// Types text into a box key by key, as the scenario player does with its default entry.
-void typeText(DirectAPresenter& p, Box box, const std::string& text) {
-  p.txtWR_SetText(box, "");
-  for (const unsigned char c : text) {
-    const wizard::TextBoxState& shown = p.judgment().box(box);
-    p.txtWR_KeyPress(box, shown.selStart, shown.selLength, c);
-  }
-}
-
 // One step as the scenario player plays it: a restart, or the target chosen, both texts typed,
 // the boxes left and Enter pressed.
 void enterStep(DirectAPresenter& p, const ScenarioStep& step) {
@@ -44,8 +35,8 @@ void enterStep(DirectAPresenter& p, const ScenarioStep& step) {
     return;
   }
   p.imgcmbTargetAtt_Click(step.target);
-  typeText(p, Box::Lower, step.lower);
-  typeText(p, Box::Upper, step.upper);
+  typeKeyByKey(p, Box::Lower, step.lower);
+  typeKeyByKey(p, Box::Upper, step.upper);
   p.txtWR_LostFocus(Box::Lower);
   p.txtWR_LostFocus(Box::Upper);
   if (p.cmdEnter().enabled) p.cmdEnter_Click();

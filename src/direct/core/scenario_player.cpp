@@ -67,7 +67,8 @@ PlayedScenario ScenarioPlayer::play(const DirectScenario& scenario, ScenarioObse
   played.entryMessages = m_log.since(m_entryFrom);
   m_entryFrom = m_log.texts().size();
   if (played.error) return played;
-  if (m_presenter.resuming() && scenario.reference && *scenario.reference != m_presenter.result().RefAtt) {
+  if (m_presenter.resuming() && scenario.reference &&
+      *scenario.reference != m_presenter.result().RefAtt) {
     played.keptReference = m_presenter.result().RefAtt;
   }
   for (const ScenarioStep& step : scenario.steps) {
@@ -120,16 +121,20 @@ void ScenarioPlayer::placeOrder(const std::vector<int>& order) {
   }
 }
 
+void typeKeyByKey(DirectAPresenter& presenter, JudgmentPage::Box box, const std::string& text) {
+  presenter.txtWR_SetText(box, "");
+  for (const unsigned char c : text) {
+    const wizard::TextBoxState& shown = presenter.judgment().box(box);
+    presenter.txtWR_KeyPress(box, shown.selStart, shown.selLength, c);
+  }
+}
+
 void ScenarioPlayer::enterText(Box box, const std::string& text, TextEntry entry) {
   if (entry == TextEntry::Set) {
     m_presenter.txtWR_SetText(box, text);
     return;
   }
-  m_presenter.txtWR_SetText(box, "");
-  for (const unsigned char c : text) {
-    const wizard::TextBoxState& shown = m_presenter.judgment().box(box);
-    m_presenter.txtWR_KeyPress(box, shown.selStart, shown.selLength, c);
-  }
+  typeKeyByKey(m_presenter, box, text);
 }
 
 // A target refused, or a message on leaving a box, ends the step unrecorded.

@@ -63,6 +63,10 @@ struct ScenarioOutcome {
   ExactWeightBounds::Result exactBounds;
 };
 
+// Types text into a box key by key, as a user does: the box is emptied first and each character
+// is pressed where the box's caret then is.
+void typeKeyByKey(DirectAPresenter& presenter, JudgmentPage::Box box, const std::string& text);
+
 // What a player reports while it plays, for a trace; every function does nothing by default.
 class ScenarioObserver {
  public:
