@@ -1,13 +1,14 @@
 // Benchmarks of the trade-off method: the regression, one score-entry step and the charts.
 
 #include "common/core/recording_ui_services.h"
-#include "wizard/core/wizard_context.h"
 #include "graphs/core/graphs.h"
 #include "graphs/core/recording_surface.h"
 #include "tradeoffs/core/judgment_page.h"
+#include "tradeoffs/core/leave_one_out.h"
 #include "tradeoffs/core/random_source.h"
 #include "tradeoffs/core/regression.h"
 #include "tradeoffs/core/results_page.h"
+#include "wizard/core/wizard_context.h"
 
 // Google Benchmark
 #include <benchmark/benchmark.h>
@@ -82,6 +83,27 @@ void BM_RegressMain(benchmark::State& state) {
   state.counters["judgments"] = store.JudgmentCount;
 }
 BENCHMARK(BM_RegressMain)->Arg(5)->Arg(31)->Unit(benchmark::kMicrosecond);
+
+// The list of the judgments that lower the consistency index most, as Next forms it after the
+// fit: every judgment left out in turn, at K = 31 (930 judgments).
+void BM_LeaveOneOutWorst(benchmark::State& state) {
+  const int k = static_cast<int>(state.range(0));
+  const tnw::AttributeModel model = makeModel(k);
+  tnw::tradeoffs::JudgmentStore store = makeJudgments(k);
+  tnw::tradeoffs::TradeOffWeights weights;
+  tnw::tradeoffs::MultiRegressionData record;
+  tnw::tradeoffs::Regression reg;
+  reg.RegressMain(store, k, record, weights);
+  std::size_t listed = 0;
+  for (auto _ : state) {
+    const auto worst = tnw::tradeoffs::LeaveOneOut::worst(store, model, reg.work());
+    listed = worst.size();
+    benchmark::DoNotOptimize(listed);
+  }
+  if (listed == 0) state.SkipWithError("no judgment listed");
+  state.counters["judgments"] = store.JudgmentCount;
+}
+BENCHMARK(BM_LeaveOneOutWorst)->Arg(31)->Unit(benchmark::kMicrosecond);
 
 void BM_ScoreEntryStep(benchmark::State& state) {
   tnw::WizardContext ctx;

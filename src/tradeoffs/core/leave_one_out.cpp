@@ -3,12 +3,13 @@
 #include "common/core/number_format.h"
 #include "model/attribute_names.h"
 #include "model/value_function.h"
+#include "tradeoffs/core/fit_downdate.h"
 #include "tradeoffs/core/regression.h"
 
 // Std
 #include <algorithm>
 #include <cmath>
-#include <functional>
+#include <utility>
 #include <vector>
 
 namespace tnw::tradeoffs {
@@ -78,118 +79,34 @@ void fitScores(const JudgmentStore& store, const AttributeModel& m, const std::v
   j.fittedBFirst = fittedScore(m, j.first, j.scores[0], cFirst, cSecond, dSecond, j.response);
 }
 
-// The index of the fit whose centred sums are those of `full` without observation k: with d the
-// observation's deviations from the means of all n observations, every centred cross-product
-// loses n / (n - 1) d_i d_j (the exact update for removing one point).
-std::optional<double> downdatedIndex(const RegressionWork& full, int k) {
-  const int n = full.N;
-  const int kk = full.K;
-  if (n - 1 < 1) return std::nullopt;
-  const double factor = static_cast<double>(n) / (n - 1);
-  std::vector<double> d(static_cast<std::size_t>(kk + 1));
-  d[0] = full.Y[static_cast<std::size_t>(k)] - full.YMean;
-  for (int j = 1; j <= kk; ++j) {
-    d[static_cast<std::size_t>(j)] = full.X(k, j) - full.XMean[static_cast<std::size_t>(j)];
-  }
-  Regression reg;
-  RegressionWork& w = reg.work();
-  w.N = n - 1;
-  w.K = kk;
-  w.CrossProd = Matrix(kk + 1, kk + 1);
-  w.InvMatrix = Matrix(kk + 1, kk + 1);
-  for (auto* v : {&w.RegCoef, &w.Coef, &w.CoefVar})
-    v->assign(static_cast<std::size_t>(kk + 1), 0.0);
-  for (int i = 0; i <= kk; ++i) {
-    // Row 0 holds only (0, 0); the fit reads column 0 and the attribute block.
-    const int last = i == 0 ? 0 : kk;
-    for (int j = 0; j <= last; ++j) {
-      w.CrossProd(i, j) = full.CrossProd(i, j) -
-                          factor * d[static_cast<std::size_t>(i)] * d[static_cast<std::size_t>(j)];
-    }
-  }
-  if (!reg.Matrix_Invert()) return std::nullopt;
-  reg.CalCoefficients();
-  if (!reg.CalParameters() || !std::isfinite(w.ConsistencyIndex)) return std::nullopt;
-  return w.ConsistencyIndex;
-}
-
-// The full fit's inverse and coefficients, from which each index without one observation is
-// found by a rank-one update in O(K^2) instead of a new inversion in O(K^3).
-struct FullInverse {
-  explicit FullInverse(const RegressionWork& full) : w(full) {
-    const int kk = full.K;
-    valid = full.NoInverse == 0 && kk > 0 && full.InvMatrix.rows() == kk + 1 &&
-            full.InvMatrix.cols() == kk + 1 && full.CrossProd.rows() == kk + 1;
-    if (!valid) return;
-    b.assign(static_cast<std::size_t>(kk + 1), 0.0);
-    for (int i = 1; i <= kk; ++i) {
-      double sum = 0.0;
-      for (int j = 1; j <= kk; ++j) sum += full.InvMatrix(i, j) * full.CrossProd(j, 0);
-      b[static_cast<std::size_t>(i)] = sum;
-      ssr += sum * full.CrossProd(i, 0);
-    }
-    valid = std::isfinite(ssr);
-  }
-
-  const RegressionWork& w;
-  bool valid = false;
-  std::vector<double> b;  // C^-1 c: the full fit's coefficients
-  double ssr = 0.0;       // c' C^-1 c: the full fit's regression sum
+// The index of the fit without one judgment, as far as it is known.
+struct LeftOut {
+  // The index (none when that fit cannot be completed).
+  std::optional<double> index;
+  // Whether a new fit is sure to agree with it to rounding (see DowndatedIndex).
+  bool settled = false;
+  // Whether it is the index of a new fit.
+  bool refit = false;
 };
 
-// downdatedIndex by Sherman-Morrison: with C' = C - f d d' and c' = c - f d0 d, the regression
-// sum c' C'^-1 c' follows from u = C^-1 d alone. An observation whose leverage leaves C' (near)
-// singular is left to the inversion, which decides as it always has.
-std::optional<double> updatedIndex(const FullInverse& full, int k) {
-  const RegressionWork& w = full.w;
-  const int n = w.N;
-  const int kk = w.K;
-  if (n - 1 < 1) return std::nullopt;
-  const double f = static_cast<double>(n) / (n - 1);
-  std::vector<double> d(static_cast<std::size_t>(kk + 1));
-  const double d0 = w.Y[static_cast<std::size_t>(k)] - w.YMean;
-  for (int j = 1; j <= kk; ++j) {
-    d[static_cast<std::size_t>(j)] = w.X(k, j) - w.XMean[static_cast<std::size_t>(j)];
-  }
-  double s = 0.0;   // d' C^-1 d
-  double db = 0.0;  // d' b
-  for (int i = 1; i <= kk; ++i) {
-    double u = 0.0;
-    for (int j = 1; j <= kk; ++j) u += w.InvMatrix(i, j) * d[static_cast<std::size_t>(j)];
-    s += d[static_cast<std::size_t>(i)] * u;
-    db += d[static_cast<std::size_t>(i)] * full.b[static_cast<std::size_t>(i)];
-  }
-  const double pivot = 1.0 - f * s;
-  if (!(pivot > 1e-6)) return downdatedIndex(w, k);
-  const double uc = db - f * d0 * s;  // u' c'
-  const double ssr = full.ssr - 2.0 * f * d0 * db + f * f * d0 * d0 * s + f * uc * uc / pivot;
-  const double total = w.CrossProd(0, 0) - f * d0 * d0;
-  // The checks of Regression::CalParameters on the fit of N - 1 observations.
-  if (total == 0.0 || ssr < 0.0) return std::nullopt;
-  const int degFreedom = (n - 1) - kk - 1;
-  if (degFreedom == 0 || degFreedom + 1 == 0) return std::nullopt;
-  const double index = 1.0 - (1.0 - ssr / total) * (n - 2) / (degFreedom + 1);
-  if (!std::isfinite(index)) return std::nullopt;
-  return index;
-}
+// The index of the fit without each judgment (entry k - 1 for judgment k), and how far a settled
+// one may be from a new fit's.
+struct LeftOuts {
+  std::vector<LeftOut> each;
+  double tolerance = 0.0;
+};
 
-}  // namespace
-
-namespace {
-
-// The index of the fit without each judgment, by the rank-one update of the full fit's inverse,
-// which agrees with a new fit to rounding.
-std::vector<std::optional<double>> leaveOneOutIndexes(const JudgmentStore& store, int numAtt) {
+// The index of the fit without each judgment, from `full`, the completed fit of every judgment,
+// by the rank-one downdate of its inverse, which agrees with a new fit to rounding. Where leaving
+// a judgment out changes whether the artificial observation is appended, or `full` is not a fit
+// of these judgments, the regression is run again.
+LeftOuts leaveOneOutIndexes(const JudgmentStore& store, int numAtt, const RegressionWork& full) {
   const int n = std::max(store.JudgmentCount, 0);
-  std::vector<std::optional<double>> out(static_cast<std::size_t>(n));
-  JudgmentStore copy = store;
-  TradeOffWeights scratch;
-  MultiRegressionData record;
-  Regression full;
-  full.RegressMain(copy, numAtt, record, scratch);
-  const RegressionWork& w = full.work();
-  const bool prepared = w.K == numAtt && (w.N == n || w.N == n + 1);
-  const FullInverse inverse(w);
+  LeftOuts all;
+  std::vector<LeftOut>& out = all.each;
+  out.resize(static_cast<std::size_t>(n));
+  const bool prepared = full.K == numAtt && (full.N == n || full.N == n + 1);
+  const FitDowndate downdate(full);
   int nonZero = 0;
   for (int k = 0; k < n; ++k) nonZero += at(store.PrefResponse, static_cast<std::size_t>(k)) != 0;
   for (int k = 1; k <= n; ++k) {
@@ -197,45 +114,122 @@ std::vector<std::optional<double>> leaveOneOutIndexes(const JudgmentStore& store
     const bool responseNonZero = at(store.PrefResponse, u) != 0;
     // The artificial observation is appended exactly when every response is 0.
     const bool appendedWithout = nonZero - (responseNonZero ? 1 : 0) == 0;
-    const bool appendedFull = w.N == n + 1;
+    const bool appendedFull = full.N == n + 1;
     if (!prepared || appendedWithout != appendedFull) {
-      out[u] = LeaveOneOut::indexWithout(store, numAtt, k);
-    } else if (inverse.valid) {
-      out[u] = updatedIndex(inverse, k);
+      out[u] = {LeaveOneOut::indexWithout(store, numAtt, k), true, true};
     } else {
-      out[u] = downdatedIndex(w, k);
+      const DowndatedIndex d = downdate.without(k);
+      out[u] = {d.index, d.settled, false};
     }
   }
-  return out;
+  all.tolerance = downdate.tolerance();
+  return all;
 }
 
-// The judgments whose exact gain may reach the list of the `count` worst: those whose updated
-// gain is above the threshold and not below the count-th largest, less a margin far above the
-// update's rounding.
-std::vector<bool> candidates(const std::vector<std::optional<double>>& updated, double fullIndex,
-                             double threshold, int count) {
-  constexpr double kMargin = 5e-13;
-  std::vector<double> gains;
-  for (const auto& index : updated) {
-    if (index && *index - fullIndex > threshold - kMargin) gains.push_back(*index - fullIndex);
+// The full fit of the judgments, as the Next button runs it.
+Regression fullFit(const JudgmentStore& store, int numAtt) {
+  JudgmentStore copy = store;
+  TradeOffWeights scratch;
+  MultiRegressionData record;
+  Regression full;
+  full.RegressMain(copy, numAtt, record, scratch);
+  return full;
+}
+
+// The judgment a list line is made of, with the index of the fit without it.
+JudgmentInfluence influence(const JudgmentStore& store, int k, double index, double fullIndex) {
+  const auto u = static_cast<std::size_t>(k - 1);
+  JudgmentInfluence j;
+  j.judgment = k;
+  j.first = at(store.FirstAtt, u);
+  j.second = at(store.SecondAtt, u);
+  j.scores = {at(store.ScoreAFirst, u), at(store.ScoreBFirst, u), at(store.ScoreASecond, u),
+              at(store.ScoreBSecond, u)};
+  j.response = at(store.PrefResponse, u);
+  j.indexWithout = index;
+  j.gain = index - fullIndex;
+  return j;
+}
+
+// Largest gain first; equal gains in the order of the judgments.
+bool ranksBefore(const JudgmentInfluence& a, const JudgmentInfluence& b) {
+  return a.gain != b.gain ? a.gain > b.gain : a.judgment < b.judgment;
+}
+
+// The at most `count` judgments whose removal raises the index above `fullIndex` by more than
+// the threshold, largest gain first. A judgment whose downdated index is not settled is fitted
+// again. The judgments are then ranked by their gains; where two gains, or a gain and the
+// threshold, are within the tolerance of the settled indexes, the order is left to the indexes
+// of new fits, so that the list is the one the new fits alone would give; so are the listed
+// indexes when that tolerance exceeds the one the list is shown with. Judgments are taken down
+// the ranking until `count` are listed; one whose new fit cannot be completed or gains nothing
+// is passed over for the next.
+std::vector<JudgmentInfluence> listWorst(const JudgmentStore& store, int numAtt, LeftOuts all,
+                                         double fullIndex, int count) {
+  if (count <= 0) return {};
+  std::vector<LeftOut>& left = all.each;
+  const double margin = all.tolerance;
+  // Differences at the level of rounding noise are no harm done.
+  constexpr double kThreshold = 1e-12;
+  // A listed index is within this of a new fit's.
+  constexpr double kListed = 1e-12;
+  const auto refit = [&](int k) {
+    LeftOut& l = left[static_cast<std::size_t>(k - 1)];
+    if (!l.refit) l = {LeaveOneOut::indexWithout(store, numAtt, k), true, true};
+    return l.index;
+  };
+  std::vector<std::pair<double, int>> ranked;  // gain, judgment
+  for (int k = 1; k <= static_cast<int>(left.size()); ++k) {
+    const LeftOut& l = left[static_cast<std::size_t>(k - 1)];
+    const std::optional<double> index = l.settled ? l.index : refit(k);
+    if (index && *index - fullIndex > kThreshold - margin)
+      ranked.emplace_back(*index - fullIndex, k);
   }
-  double cutoff = threshold;
-  if (count > 0 && static_cast<int>(gains.size()) > count) {
-    std::nth_element(gains.begin(), gains.begin() + (count - 1), gains.end(), std::greater<>());
-    cutoff = std::max(cutoff, gains[static_cast<std::size_t>(count - 1)]);
+  // A heap whose top is the largest gain (the earliest judgment among equal ones): only the top
+  // of the ranking is ever taken.
+  const auto below = [](const auto& a, const auto& b) {
+    return a.first != b.first ? a.first < b.first : a.second > b.second;
+  };
+  std::make_heap(ranked.begin(), ranked.end(), below);
+  const auto take = [&] {
+    std::pop_heap(ranked.begin(), ranked.end(), below);
+    const std::pair<double, int> top = ranked.back();
+    ranked.pop_back();
+    return top;
+  };
+  std::vector<JudgmentInfluence> found;
+  std::vector<std::pair<double, int>> run;
+  while (!ranked.empty() && static_cast<int>(found.size()) < count) {
+    // A run of gains each within the margin of the one before.
+    run.assign(1, take());
+    while (!ranked.empty() && run.back().first - ranked.front().first <= margin) {
+      run.push_back(take());
+    }
+    const bool contested =
+        margin > kListed || run.size() > 1 || run.back().first <= kThreshold + margin;
+    for (const auto& [gain, k] : run) {
+      const std::optional<double> index =
+          contested ? refit(k) : left[static_cast<std::size_t>(k - 1)].index;
+      if (index && *index - fullIndex > kThreshold) {
+        found.push_back(influence(store, k, *index, fullIndex));
+      }
+    }
   }
-  std::vector<bool> out(updated.size(), false);
-  for (std::size_t u = 0; u < updated.size(); ++u) {
-    out[u] = updated[u] && *updated[u] - fullIndex > cutoff - kMargin;
-  }
-  return out;
+  std::sort(found.begin(), found.end(), ranksBefore);
+  if (static_cast<int>(found.size()) > count) found.resize(static_cast<std::size_t>(count));
+  return found;
 }
 
 }  // namespace
 
 std::vector<std::optional<double>> LeaveOneOut::indexesWithout(const JudgmentStore& store,
                                                                int numAtt) {
-  return leaveOneOutIndexes(store, numAtt);
+  const Regression full = fullFit(store, numAtt);
+  std::vector<std::optional<double>> out;
+  for (const LeftOut& l : leaveOneOutIndexes(store, numAtt, full.work()).each) {
+    out.push_back(l.index);
+  }
+  return out;
 }
 
 std::optional<double> LeaveOneOut::indexWithout(const JudgmentStore& store, int numAtt,
@@ -258,39 +252,22 @@ std::optional<double> LeaveOneOut::indexWithout(const JudgmentStore& store, int 
 
 std::vector<JudgmentInfluence> LeaveOneOut::worst(const JudgmentStore& store,
                                                   const AttributeModel& model,
+                                                  const RegressionWork& full, int count) {
+  const int numAtt = model.attributeCount();
+  std::vector<JudgmentInfluence> found = listWorst(
+      store, numAtt, leaveOneOutIndexes(store, numAtt, full), full.ConsistencyIndex, count);
+  for (JudgmentInfluence& j : found) fitScores(store, model, full.Coef, j);
+  return found;
+}
+
+std::vector<JudgmentInfluence> LeaveOneOut::worst(const JudgmentStore& store,
+                                                  const AttributeModel& model,
                                                   const std::vector<double>& coef, double fullIndex,
                                                   int count) {
   const int numAtt = model.attributeCount();
-  std::vector<JudgmentInfluence> found;
-  // Differences at the level of rounding noise are no harm done.
-  constexpr double kThreshold = 1e-12;
-  // The update finds the few judgments that can be among the worst; their indexes are then those
-  // of a new fit without them.
-  const std::vector<std::optional<double>> updated = indexesWithout(store, numAtt);
-  const std::vector<bool> exact = candidates(updated, fullIndex, kThreshold, count);
-  std::vector<std::optional<double>> indexes(updated.size());
-  for (std::size_t u = 0; u < updated.size(); ++u) {
-    if (exact[u]) indexes[u] = indexWithout(store, numAtt, static_cast<int>(u) + 1);
-  }
-  for (int k = 1; k <= static_cast<int>(indexes.size()); ++k) {
-    const std::optional<double>& index = indexes[static_cast<std::size_t>(k - 1)];
-    if (!index || !(*index - fullIndex > kThreshold)) continue;
-    const auto u = static_cast<std::size_t>(k - 1);
-    JudgmentInfluence j;
-    j.judgment = k;
-    j.first = at(store.FirstAtt, u);
-    j.second = at(store.SecondAtt, u);
-    j.scores = {at(store.ScoreAFirst, u), at(store.ScoreBFirst, u), at(store.ScoreASecond, u),
-                at(store.ScoreBSecond, u)};
-    j.response = at(store.PrefResponse, u);
-    j.indexWithout = *index;
-    j.gain = *index - fullIndex;
-    found.push_back(j);
-  }
-  std::stable_sort(found.begin(), found.end(),
-                   [](const auto& a, const auto& b) { return a.gain > b.gain; });
-  if (static_cast<int>(found.size()) > count)
-    found.resize(static_cast<std::size_t>(std::max(count, 0)));
+  const Regression full = fullFit(store, numAtt);
+  std::vector<JudgmentInfluence> found =
+      listWorst(store, numAtt, leaveOneOutIndexes(store, numAtt, full.work()), fullIndex, count);
   for (JudgmentInfluence& j : found) fitScores(store, model, coef, j);
   return found;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tradeoffs/core/judgment_store.h"
+#include "tradeoffs/core/regression_work.h"
 
 // Std
 #include <array>
@@ -38,8 +39,8 @@ struct JudgmentInfluence {
 };
 
 // Leave-one-out over the recorded trade-off judgments: each judgment is left out in turn, the
-// whole regression runs again on the others (appending its artificial observation by the same
-// rule), and the judgments whose removal raises the consistency index most are reported.
+// fit of the others is found (appending its artificial observation by the same rule), and the
+// judgments whose removal raises the consistency index most are reported.
 class LeaveOneOut {
  public:
   // How many judgments the results page lists.
@@ -49,9 +50,18 @@ class LeaveOneOut {
   // The list's one line when no judgment lowers the index.
   static constexpr const char* kNoneHurts = "No judgment lowers the consistency index.";
 
-  // The at most `count` judgments whose removal raises the index above `fullIndex` the most,
-  // largest gain first. `coef` are the fit's shifted coefficients, 1-based (Coef of the fit).
-  // Judgments whose removal leaves a fit that cannot be completed are passed over.
+  // The at most `count` judgments whose removal raises the index of `full`, the completed fit
+  // of these judgments (the working arrays of Regression::RegressMain), above it the most,
+  // largest gain first (equal gains in the judgments' order). The fit without each judgment is
+  // found from `full` by a rank-one downdate; a listed index whose downdate is not certain to
+  // agree with a new fit to rounding (a judgment of high leverage, an ill-conditioned fit) is
+  // that of a new fit. Judgments whose removal leaves a fit that cannot be completed are passed
+  // over. The fitted scores of B use the coefficients of `full` (Coef, 1-based).
+  static std::vector<JudgmentInfluence> worst(const JudgmentStore& store,
+                                              const AttributeModel& model,
+                                              const RegressionWork& full, int count = kShown);
+  // The same, running the full fit itself, with the gains taken above `fullIndex` and the fitted
+  // scores formed from `coef`, the fit's shifted coefficients, 1-based.
   static std::vector<JudgmentInfluence> worst(const JudgmentStore& store,
                                               const AttributeModel& model,
                                               const std::vector<double>& coef, double fullIndex,
@@ -59,10 +69,10 @@ class LeaveOneOut {
   // The consistency index of the fit without judgment `judgment` (1-based), by running the
   // whole regression again on the other judgments; none when that fit cannot be completed.
   static std::optional<double> indexWithout(const JudgmentStore& store, int numAtt, int judgment);
-  // The same for every judgment in turn (entry k - 1 for judgment k). The full fit's centred
-  // sums are taken down by each observation instead of being formed again, and the fit's own
-  // inversion and statistics run on them; where leaving a judgment out changes whether the
-  // artificial observation is appended, the regression is run again as above.
+  // The same for every judgment in turn (entry k - 1 for judgment k), from the full fit by the
+  // rank-one downdate of its inverse; where the downdate leaves the sums (near) singular, they are
+  // taken down and inverted by the fit's own steps, and where leaving a judgment out changes
+  // whether the artificial observation is appended, the regression is run again as above.
   static std::vector<std::optional<double>> indexesWithout(const JudgmentStore& store, int numAtt);
   // A score on attribute `att` within its score range whose single-attribute value is `value`
   // (to the value's four decimals); none when there is no such score.

@@ -25,6 +25,8 @@ class Matrix {
   double& operator()(int r, int c) { return m_data[index(r, c)]; }
   // The element at (r, c); both must be in range.
   double operator()(int r, int c) const { return m_data[index(r, c)]; }
+  // The elements of row r in order, for reading a row in one pass; r must be in range.
+  const double* row(int r) const { return m_data.data() + index(r, 0); }
 
  private:
   std::size_t index(int r, int c) const {

@@ -86,8 +86,8 @@ void TradeOffsAPresenter::runRegression() {
   m_worst.clear();
   m_worstLines.clear();
   if (!m_fitError) {
-    m_worst = LeaveOneOut::worst(m_judgment.store(), m_context.model, m_regression.work().Coef,
-                                 m_record.ConsistencyIndex);
+    // The list is found from this fit, which it need not run again.
+    m_worst = LeaveOneOut::worst(m_judgment.store(), m_context.model, m_regression.work());
     for (const JudgmentInfluence& j : m_worst) {
       m_worstLines.push_back(LeaveOneOut::describe(m_context.model, j));
     }
