@@ -1,15 +1,19 @@
 // frmDirectA's reaction to the user at 31 attributes, with the real widgets on the offscreen
 // platform: one step of a handle drag, and one key typed into a ratio box (and taken back). Each
-// benchmark reports its paint events per action (paints) with the widgets that got them in its
-// label.
+// benchmark reports the median, the 90th percentile and the maximum of the single actions' wall
+// time (p50_us, p90_us, max_us), the median and 90th percentile of their process CPU time
+// (cpu_p50_us, cpu_p90_us) and its paint events per action (paints) with the widgets that got
+// them in its label. Under valgrind --tool=callgrind --instr-atstart=no only the actions are
+// instrumented.
 
 #include "common/core/recording_ui_services.h"
-#include "wizard/core/wizard_context.h"
+#include "direct/core/direct_a_events.h"
 #include "direct/ui/attribute_drop_filter.h"
 #include "direct/ui/cone_area_widget.h"
 #include "direct/ui/direct_a_dialog.h"
-#include "direct/core/direct_a_events.h"
 #include "paint_counter_qt.h"
+#include "process_cpu_clock.h"
+#include "wizard/core/wizard_context.h"
 
 // Qt
 #include <QApplication>
@@ -25,9 +29,20 @@
 // Google Benchmark
 #include <benchmark/benchmark.h>
 
+// Valgrind's client requests cost a few instructions when the program runs on its own.
+#if __has_include(<valgrind/callgrind.h>)
+#include <valgrind/callgrind.h>
+#define TNW_CALLGRIND(request) request
+#else
+#define TNW_CALLGRIND(request)
+#endif
+
 // Std
+#include <algorithm>
+#include <chrono>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace tnw {
 namespace {
@@ -95,6 +110,45 @@ struct JudgmentPageAt31 {
   std::unique_ptr<direct::DirectADialog> dialog;
 };
 
+// The times of single actions, reported as their median, 90th percentile and maximum.
+class ActionTimes {
+ public:
+  // Starts timing one action.
+  void start() {
+    TNW_CALLGRIND(CALLGRIND_START_INSTRUMENTATION);
+    m_start = std::chrono::steady_clock::now();
+    m_cpuStart = processCpuMicros();
+  }
+  // Ends the action begun by start().
+  void stop() {
+    m_cpuMicros.push_back(processCpuMicros() - m_cpuStart);
+    m_micros.push_back(
+        std::chrono::duration<double, std::micro>(std::chrono::steady_clock::now() - m_start)
+            .count());
+    TNW_CALLGRIND(CALLGRIND_STOP_INSTRUMENTATION);
+  }
+  // Sets the counters p50_us, p90_us and max_us (wall time), cpu_p50_us and cpu_p90_us.
+  void report(benchmark::State& state) {
+    if (m_micros.empty()) return;
+    std::sort(m_micros.begin(), m_micros.end());
+    std::sort(m_cpuMicros.begin(), m_cpuMicros.end());
+    const auto at = [](const std::vector<double>& sorted, double q) {
+      return sorted[static_cast<std::size_t>(q * static_cast<double>(sorted.size() - 1))];
+    };
+    state.counters["p50_us"] = at(m_micros, 0.5);
+    state.counters["p90_us"] = at(m_micros, 0.9);
+    state.counters["max_us"] = m_micros.back();
+    state.counters["cpu_p50_us"] = at(m_cpuMicros, 0.5);
+    state.counters["cpu_p90_us"] = at(m_cpuMicros, 0.9);
+  }
+
+ private:
+  std::chrono::steady_clock::time_point m_start;
+  double m_cpuStart = 0.0;
+  std::vector<double> m_micros;
+  std::vector<double> m_cpuMicros;
+};
+
 void BM_HandleDragStep(benchmark::State& state) {
   JudgmentPageAt31 page;
   auto* cone = page.dialog->findChild<ConeAreaWidget*>(QStringLiteral("picTradeOffsRange"));
@@ -109,18 +163,22 @@ void BM_HandleDragStep(benchmark::State& state) {
       cone->toPixels(QPointF(0.6 * cone->areaSide(), 0.5 * cone->areaSide())).toPoint();
   bool toA = true;
   PaintCounter paints;
+  ActionTimes times;
   paints.setCounting(true);
   for (auto _ : state) {
+    times.start();
     const QPoint target = handle->mapFrom(cone, toA ? a : b);
     QMouseEvent move(QEvent::MouseMove, QPointF(target), QPointF(handle->mapToGlobal(target)),
                      Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(handle, &move);
     // The repaint of the cone and the boxes belongs to the step.
     QCoreApplication::processEvents();
+    times.stop();
     toA = !toA;
   }
   paints.setCounting(false);
   paints.report(state, state.iterations());
+  times.report(state);
 }
 BENCHMARK(BM_HandleDragStep);
 
@@ -130,16 +188,20 @@ void BM_RatioBoxKey(benchmark::State& state) {
   box->setFocus();
   box->end(false);
   PaintCounter paints;
+  ActionTimes times;
   paints.setCounting(true);
   for (auto _ : state) {
+    times.start();
     QKeyEvent digit(QEvent::KeyPress, Qt::Key_5, Qt::NoModifier, QStringLiteral("5"));
     QApplication::sendEvent(box, &digit);
     QKeyEvent back(QEvent::KeyPress, Qt::Key_Backspace, Qt::NoModifier);
     QApplication::sendEvent(box, &back);
     QCoreApplication::processEvents();
+    times.stop();
   }
   paints.setCounting(false);
   paints.report(state, state.iterations());
+  times.report(state);
   state.SetItemsProcessed(state.iterations() * 2);
 }
 BENCHMARK(BM_RatioBoxKey);

@@ -54,6 +54,7 @@ class DirectADialogTest : public QObject {
   void loadShowsStepZeroAndSendsTheOrderMessage();
   void fullDirectMethodThroughTheWidgets();
   void dropOnAPlacedButtonMovesIntoItsGroup();
+  void groupBoxesMadeLaterAreDescribed();
   void thirtyOneAttributesScrollInBothLists();
   void cancelOnEveryStepExportsNothing();
   void backOnStepZeroReturnsToMethodSelection();
@@ -294,6 +295,19 @@ void DirectADialogTest::dropOnAPlacedButtonMovesIntoItsGroup() {
   QApplication::sendEvent(list, &over);
   QCOMPARE(control<QLabel>(m_dialog.get(), "labAttName")->text(), QStringLiteral("Att3"));
   QVERIFY(control<QWidget>(m_dialog.get(), "optAttInfo", 2)->property("checked").toBool());
+}
+
+// The group boxes are made as the groups are needed; each is described for assistive tools.
+void DirectADialogTest::groupBoxesMadeLaterAreDescribed() {
+  open(3);
+  const qsizetype atStart = test::elements<QWidget>(m_dialog.get(), "picOrder").size();
+  placeAll({1, 2, 3});
+  const QList<QWidget*> boxes = test::elements<QWidget>(m_dialog.get(), "picOrder");
+  QVERIFY(boxes.size() > atStart);
+  for (const QWidget* box : boxes) {
+    QCOMPARE(box->accessibleDescription(),
+             QStringLiteral("An importance group; press it to select it for Insert"));
+  }
 }
 
 void DirectADialogTest::thirtyOneAttributesScrollInBothLists() {

@@ -1,9 +1,8 @@
-#include "graphs/ui/painter_surface.h"
-
-#include "graphs/ui/chart_export.h"
-#include "graphs/ui/chart_widget.h"
 #include "graphs/core/graphs.h"
 #include "graphs/core/palette.h"
+#include "graphs/ui/chart_export.h"
+#include "graphs/ui/chart_widget.h"
+#include "graphs/ui/painter_surface.h"
 
 // Qt
 #include <QApplication>
@@ -159,6 +158,38 @@ class DrawingSurfaceQtTest : public QObject {
     QVERIFY(!ink.isEmpty());
     QVERIFY(ink.height() > 2 * ink.width());
     QVERIFY(ink.top() >= 488);  // y = -2 is 488 pixels down
+  }
+
+  // On an image the chart's texts are drawn from glyphs laid out once and kept; they must make
+  // the very pixels that drawText makes. Names that read upwards are included.
+  void keptTextLayoutsDrawThePixelsOfDrawText() {
+    ChartData d;
+    d.title = "Attribute Weights and Their Ranges";
+    d.n = 31;
+    for (int i = 1; i <= d.n; ++i) {
+      d.names.push_back("Attribute " + std::to_string(i));
+      d.data.push_back({0.04 + 0.001 * i, 0.01, 0.03});
+    }
+    d.legend = {"High Est.", "Low Est.", "Close Est."};
+    bool turned = false;
+    const auto draw = [&d, &turned] {
+      QImage image(620, 600, QImage::Format_RGB32);
+      image.fill(Qt::white);
+      QPainter p(&image);
+      PainterSurface s(p, QRectF(image.rect()));
+      s.setItemTexts(d.names, 100.0 / d.n * 0.95, 27.0);
+      Graphs().Display_HLCGraphAMain(s, d);
+      turned = s.itemTextsTurned();
+      p.end();
+      return image;
+    };
+    PainterSurface::setTextLayoutsKept(false);
+    const QImage reference = draw();
+    PainterSurface::setTextLayoutsKept(true);
+    QVERIFY(turned);
+    // The first drawing lays the texts out, the second takes them from what was kept.
+    QCOMPARE(draw(), reference);
+    QCOMPARE(draw(), reference);
   }
 
   void fontSizesAreInPointsAndNeverBelowTheMinimumOnAnyDevice() {

@@ -100,6 +100,7 @@ class TradeOffsADialogTest : public QObject {
   void scoreOutsideItsRangeShowsTheRangeInSinglePrecision();
   void keyFilterDiscardsLettersAndSigns();
   void sameAttributeInBothListsIsRefusedWithEachListsWording();
+  void scoreBoxesAreNamedAfterTheAttributesShown();
   void twoAttributeModelReachesTheDefinedOutcomeWithoutExport();
   void cancelOnEitherPageUnloadsWithoutExport();
   void backOnTheResultsPageStartsTheTradeOffsAgain();
@@ -373,6 +374,29 @@ void TradeOffsADialogTest::sameAttributeInBothListsIsRefusedWithEachListsWording
                     second->visualItemRect(second->item(2)).center());
   QCOMPARE(text(d.get(), "labPCCriterion2"), QStringLiteral("Att3"));
   QCOMPARE(m_ui.messages().size(), std::size_t{2});
+}
+
+// The score boxes are read out with their alternative and the attribute of their column, also
+// after another pair of attributes is chosen.
+void TradeOffsADialogTest::scoreBoxesAreNamedAfterTheAttributesShown() {
+  auto d = open(3);
+  const auto named = [&d](const char* box, const char* alternative, const char* head) {
+    const QString attribute = text(d.get(), head).trimmed();
+    QVERIFY(!attribute.isEmpty());
+    QCOMPARE(child<QLineEdit>(d.get(), box)->accessibleName(),
+             QStringLiteral("%1, %2").arg(QLatin1String(alternative), attribute));
+  };
+  named("txtTradeOffAFirstScore", "A", "labScoreHead1");
+  named("txtTradeOffBSecondScore", "B", "labScoreHead2");
+  const QString before = text(d.get(), "labScoreHead2");
+  QTest::mouseClick(child<QRadioButton>(d.get(), "optPCManual"), Qt::LeftButton);
+  auto* second = child<QListWidget>(d.get(), "lstTradeOffSecondC");
+  QTest::mouseClick(second->viewport(), Qt::LeftButton, {},
+                    second->visualItemRect(second->item(2)).center());
+  QVERIFY(text(d.get(), "labScoreHead2") != before);
+  named("txtTradeOffASecondScore", "A", "labScoreHead2");
+  named("txtTradeOffBSecondScore", "B", "labScoreHead2");
+  named("txtTradeOffBFirstScore", "B", "labScoreHead1");
 }
 
 void TradeOffsADialogTest::twoAttributeModelReachesTheDefinedOutcomeWithoutExport() {

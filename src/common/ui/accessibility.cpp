@@ -7,6 +7,9 @@
 #include <QTabBar>
 #include <QTableView>
 
+// Std
+#include <vector>
+
 namespace tnw {
 
 namespace {
@@ -52,16 +55,30 @@ void setAccessibleText(QWidget* widget, const QString& name, const QString& desc
 }
 
 void applyAccessibleTexts(QWidget* root, std::initializer_list<AccessibleText> texts) {
+  if (root == nullptr) return;
+  struct Text {
+    QString objectName;
+    QString name;
+    QString description;
+  };
+  std::vector<Text> wanted;
+  wanted.reserve(texts.size());
   for (const AccessibleText& t : texts) {
-    const QString objectName = QString::fromUtf8(t.objectName);
-    const QString name = t.name != nullptr ? QString::fromUtf8(t.name) : QString();
-    const QString description = QString::fromUtf8(t.description);
-    // A control array's elements are named name_index.
-    for (QWidget* w : root->findChildren<QWidget*>()) {
-      if (namesElementOf(w->objectName(), objectName)) setAccessibleText(w, name, description);
-    }
-    if (root->objectName() == objectName) setAccessibleText(root, name, description);
+    wanted.push_back({QString::fromUtf8(t.objectName),
+                      t.name != nullptr ? QString::fromUtf8(t.name) : QString(),
+                      QString::fromUtf8(t.description)});
   }
+  // One walk of the widgets, each matched against every text: a control array's elements are
+  // named name_index.
+  const auto apply = [&wanted](QWidget* w) {
+    const QString objectName = w->objectName();
+    if (objectName.isEmpty()) return;
+    for (const Text& t : wanted) {
+      if (namesElementOf(objectName, t.objectName)) setAccessibleText(w, t.name, t.description);
+    }
+  };
+  for (QWidget* w : root->findChildren<QWidget*>()) apply(w);
+  apply(root);
 }
 
 void nameControlsByBuddies(QWidget* root) {
@@ -89,6 +106,27 @@ void makeTablesTabbable(QWidget* root) {
   for (QTableView* table : root->findChildren<QTableView*>()) {
     if (table->tabKeyNavigation()) table->setTabKeyNavigation(false);
   }
+}
+
+WidgetTreeWatch::WidgetTreeWatch(QWidget* root) : QObject(root), m_root(root) {
+  setObjectName(QStringLiteral("widgetTreeWatch"));
+}
+
+bool WidgetTreeWatch::changedSinceLastLook() {
+  if (!m_changed) return false;
+  m_changed = false;
+  // Installing a filter again moves it to the front; it is not called twice.
+  m_root->installEventFilter(this);
+  for (QWidget* w : m_root->findChildren<QWidget*>()) w->installEventFilter(this);
+  return true;
+}
+
+bool WidgetTreeWatch::eventFilter(QObject*, QEvent* event) {
+  if (event->type() == QEvent::ChildAdded &&
+      static_cast<QChildEvent*>(event)->child()->isWidgetType()) {
+    m_changed = true;
+  }
+  return false;
 }
 
 FocusRingQt* FocusRingQt::attach(QWidget* target) {

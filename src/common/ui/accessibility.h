@@ -38,6 +38,26 @@ void describeTabs(QWidget* root, const char* barName, std::initializer_list<cons
 // Lets Tab leave every table under root (the arrow keys still move between the cells).
 void makeTablesTabbable(QWidget* root);
 
+// Tells whether widgets were added under a root since it was last asked, so that texts given to
+// the controls by name are given again only when new controls may have come. It watches the
+// ChildAdded events of every widget under the root; renaming a control is not seen.
+class WidgetTreeWatch : public QObject {
+ public:
+  // Watches the widgets under root; the watch lives as root's child.
+  explicit WidgetTreeWatch(QWidget* root);
+
+  // Whether a widget was added under the root since the last call (true at the first), and from
+  // now on watches the widgets added.
+  bool changedSinceLastLook();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  QWidget* m_root;
+  bool m_changed = true;
+};
+
 // A focus indicator for a custom-painted control: a frame in the highlight colour drawn around
 // the control while it has the keyboard focus. It is a sibling laid over the control, so the
 // control's own painting is untouched, and it lets the mouse through.

@@ -1,9 +1,9 @@
 #include "direct/ui/direct_accessibility.h"
 
 #include "common/ui/accessibility.h"
+#include "direct/core/target_list.h"
 #include "direct/ui/accessible_cone.h"
 #include "direct/ui/cone_area_widget.h"
-#include "direct/core/target_list.h"
 
 // Qt
 #include <QComboBox>
@@ -30,10 +30,16 @@ DirectAccessibilityQt::DirectAccessibilityQt(QWidget* dialog) : QObject(dialog),
     for (int i = 0; i < 2; ++i) FocusRingQt::attach(cone->handle(i));
   }
   makeTablesTabbable(dialog);
+  m_widgets = new WidgetTreeWatch(dialog);
   refresh();
 }
 
 void DirectAccessibilityQt::refresh() {
+  if (m_widgets->changedSinceLastLook()) describeControls();
+  describeTargets();
+}
+
+void DirectAccessibilityQt::describeControls() {
   describeWizardButtons(m_dialog);
   applyAccessibleTexts(
       m_dialog,
@@ -60,11 +66,13 @@ void DirectAccessibilityQt::refresh() {
   describeTabs(m_dialog, "qt_tabwidget_tabbar",
                {"The interval as a cone with two handles", "The final importance order"});
   nameControlsByBuddies(m_dialog);
-  describeTargets();
 }
 
 void DirectAccessibilityQt::describeTargets() {
-  auto* targets = m_dialog->findChild<QComboBox*>(QStringLiteral("imgcmbTargetAtt"));
+  if (m_targets == nullptr) {
+    m_targets = m_dialog->findChild<QComboBox*>(QStringLiteral("imgcmbTargetAtt"));
+  }
+  QComboBox* targets = m_targets;
   if (targets == nullptr) return;
   // The judged mark is read out as "currency sign": the items carry the bare name as their
   // accessible text and "judged" as their description.

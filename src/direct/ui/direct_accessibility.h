@@ -1,9 +1,15 @@
 #pragma once
 
 // Qt
+#include <QComboBox>
 #include <QObject>
+#include <QPointer>
 
 class QWidget;
+
+namespace tnw {
+class WidgetTreeWatch;
+}  // namespace tnw
 
 namespace tnw::direct {
 
@@ -19,13 +25,19 @@ class DirectAccessibilityQt : public QObject {
   explicit DirectAccessibilityQt(QWidget* dialog);
 
   // Brings the texts up to date with what the dialog shows now (controls made since, the
-  // target list's judged marks). Called after each render.
+  // target list's judged marks). Called after each render; the controls are described again
+  // only when controls were added since.
   void refresh();
 
  private:
+  void describeControls();
   void describeTargets();
 
   QWidget* m_dialog;
+  // Says when controls were added under the dialog.
+  WidgetTreeWatch* m_widgets = nullptr;
+  // The target list imgcmbTargetAtt, once found.
+  QPointer<QComboBox> m_targets;
 };
 
 }  // namespace tnw::direct

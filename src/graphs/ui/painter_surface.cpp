@@ -4,11 +4,17 @@
 
 // Qt
 #include <QFontMetricsF>
+#include <QGlyphRun>
+#include <QHash>
+#include <QList>
 #include <QPaintDevice>
+#include <QPaintEngine>
+#include <QTextLayout>
 
 // Std
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace tnw {
 
@@ -35,11 +41,137 @@ QFont scaledFont(const QFont& base, const QPaintDevice* device, double factor) {
   return font;
 }
 
-double longestWidth(const QFontMetricsF& fm, const std::vector<std::string>& texts) {
+// The texts of the charts, each measured and laid out once in a font on a device resolution: a
+// chart prints the same scale labels and item names at every paint, and the layout of its texts
+// was most of the time of a paint. Painting happens in one thread; each thread has its cache.
+class TextCache {
+ public:
+  // A text's advance width and, once asked for, its glyphs with the baseline at y = ascent.
+  struct Laid {
+    double advance = 0.0;
+    double ascent = 0.0;
+    QList<QGlyphRun> runs;
+    bool hasRuns = false;
+  };
+
+  // A font's line height and ascent on `device`.
+  struct Line {
+    double height = 0.0;
+    double ascent = 0.0;
+  };
+
+  // The line height and ascent of the font as the painter on `device` would measure them.
+  const Line& line(const QFont& font, const QPaintDevice* device) {
+    Bucket& b = bucket(font, device);
+    if (!b.hasLine) {
+      const QFontMetricsF fm(font, device);
+      b.line = {fm.height(), fm.ascent()};
+      b.hasLine = true;
+    }
+    return b.line;
+  }
+
+  // The text measured in the font as the painter on `device` would.
+  const Laid& measured(const QFont& font, const QPaintDevice* device, const QString& text) {
+    QHash<QString, Laid>& texts = bucket(font, device).texts;
+    auto it = texts.find(text);
+    if (it == texts.end()) {
+      Laid laid;
+      laid.advance = QFontMetricsF(font, device).horizontalAdvance(text);
+      it = texts.insert(text, laid);
+    }
+    return *it;
+  }
+
+  // The text measured and laid out in the font as drawText on `device` would lay it out.
+  const Laid& laidOut(const QFont& font, QPaintDevice* device, const QString& text) {
+    QHash<QString, Laid>& texts = bucket(font, device).texts;
+    auto it = texts.find(text);
+    if (it == texts.end()) {
+      Laid laid;
+      laid.advance = QFontMetricsF(font, device).horizontalAdvance(text);
+      it = texts.insert(text, laid);
+    }
+    if (!it->hasRuns) {
+      QTextLayout layout(text, font, device);
+      layout.setCacheEnabled(true);
+      layout.beginLayout();
+      const QTextLine line = layout.createLine();
+      layout.endLayout();
+      it->ascent = line.isValid() ? line.ascent() : 0.0;
+      it->runs = layout.glyphRuns();
+      it->hasRuns = true;
+    }
+    return *it;
+  }
+
+ private:
+  // The texts of one font at one resolution.
+  struct Bucket {
+    QFont font;
+    int dpiX = 0;
+    int dpiY = 0;
+    QHash<QString, Laid> texts;
+    Line line;
+    bool hasLine = false;
+  };
+  // Past these, the cache starts again: the charts use a few fonts and a few hundred texts.
+  static constexpr std::size_t kMostFonts = 16;
+  static constexpr qsizetype kMostTexts = 1024;
+
+  Bucket& bucket(const QFont& font, const QPaintDevice* device) {
+    const int dpiX = device != nullptr ? device->logicalDpiX() : 0;
+    const int dpiY = device != nullptr ? device->logicalDpiY() : 0;
+    for (Bucket& b : m_buckets) {
+      if (b.dpiX == dpiX && b.dpiY == dpiY && b.font == font) {
+        if (b.texts.size() > kMostTexts) b.texts.clear();
+        return b;
+      }
+    }
+    if (m_buckets.size() >= kMostFonts) m_buckets.clear();
+    m_buckets.push_back({font, dpiX, dpiY, {}, {}, false});
+    return m_buckets.back();
+  }
+
+  std::vector<Bucket> m_buckets;
+};
+
+// Whether texts on images are drawn from the kept layouts (see setTextLayoutsKept).
+bool keepTextLayouts = true;
+
+TextCache& textCache() {
+  thread_local TextCache cache;
+  return cache;
+}
+
+const TextCache::Line& lineOf(const QFont& font, const QPaintDevice* device) {
+  return textCache().line(font, device);
+}
+
+double advanceOf(const QFont& font, const QPaintDevice* device, const QString& text) {
+  return textCache().measured(font, device, text).advance;
+}
+
+double longestWidth(const QFont& font, const QPaintDevice* device,
+                    const std::vector<std::string>& texts) {
   double longest = 0.0;
   for (const std::string& t : texts)
-    longest = std::max(longest, fm.horizontalAdvance(toQString(t)));
+    longest = std::max(longest, advanceOf(font, device, toQString(t)));
   return longest;
+}
+
+// Draws a text with its baseline starting at `baseline`, as QPainter::drawText does. On the
+// raster engine (widgets and images) the text's glyphs come from the cache; the other engines
+// (SVG, PDF, printers) are handed the text itself, which they keep as text.
+void drawTextAt(QPainter& painter, const QPointF& baseline, const QString& text) {
+  QPaintEngine* engine = painter.paintEngine();
+  if (!keepTextLayouts || engine == nullptr || engine->type() != QPaintEngine::Raster) {
+    painter.drawText(baseline, text);
+    return;
+  }
+  const TextCache::Laid& laid = textCache().laidOut(painter.font(), painter.device(), text);
+  const QPointF origin(baseline.x(), baseline.y() - laid.ascent);
+  for (const QGlyphRun& run : laid.runs) painter.drawGlyphRun(origin, run);
 }
 
 }  // namespace
@@ -52,22 +184,23 @@ PainterSurface::PainterSurface(QPainter& painter, const QRectF& area)
   }
 }
 
+void PainterSurface::setTextLayoutsKept(bool kept) { keepTextLayouts = kept; }
+
 QColor PainterSurface::paletteColour(int index) {
   return QColor(static_cast<QRgb>(0xFF000000u | tnw::paletteColour(index)));
 }
 
-QFont PainterSurface::fittedFont(const QFont& base, const QPaintDevice* device,
-                                   double areaWidth) {
+QFont PainterSurface::fittedFont(const QFont& base, const QPaintDevice* device, double areaWidth) {
   // The charts keep 15 of their 155 horizontal units left of the plot for the scale labels.
   const double room = areaWidth * 12.0 / 155.0;
-  const double width = QFontMetricsF(base, device).horizontalAdvance(QStringLiteral("0.0000"));
+  const double width = advanceOf(base, device, QStringLiteral("0.0000"));
   if (width <= room || width <= 0) return base;
   return scaledFont(base, device, room / width * 0.95);
 }
 
 QFont PainterSurface::fontFitting(const QFont& base, const QPaintDevice* device,
-                                    const std::vector<std::string>& texts, double width) {
-  const double longest = longestWidth(QFontMetricsF(base, device), texts);
+                                  const std::vector<std::string>& texts, double width) {
+  const double longest = longestWidth(base, device, texts);
   if (longest <= width || longest <= 0.0 || width <= 0.0) return base;
   return scaledFont(base, device, width / longest * 0.98);
 }
@@ -129,7 +262,7 @@ void PainterSurface::fillBox(double x1, double y1, double x2, double y2, int col
 }
 
 void PainterSurface::setItemTexts(std::vector<std::string> texts, double slotWidth, double room,
-                                    double row) {
+                                  double row) {
   m_itemTexts = std::move(texts);
   m_slotWidth = slotWidth;
   m_room = room;
@@ -164,10 +297,7 @@ PainterSurface::ItemLayout PainterSurface::makeItemLayout() const {
   // size, so smaller fonts are judged from these widths.
   std::vector<double> widths;
   widths.reserve(m_itemTexts.size());
-  const QFontMetricsF baseMetrics(base, device);
-  for (const std::string& t : m_itemTexts) {
-    widths.push_back(baseMetrics.horizontalAdvance(toQString(t)));
-  }
+  for (const std::string& t : m_itemTexts) widths.push_back(advanceOf(base, device, toQString(t)));
   // The font is chosen for the name at three quarters of the lengths, so that one long name
   // does not make all the others small: the few longer are shortened.
   std::vector<std::size_t> order(widths.size());
@@ -180,7 +310,7 @@ PainterSurface::ItemLayout PainterSurface::makeItemLayout() const {
   if (factor < 1.0) {
     // Hinting does not scale quite linearly: that name is measured once more.
     const QString name = toQString(m_itemTexts[typicalIndex]);
-    const double real = QFontMetricsF(layout.font, device).horizontalAdvance(name);
+    const double real = advanceOf(layout.font, device, name);
     if (real > slot) {
       factor *= slot / real;
       layout.font = scaledFont(base, device, factor);
@@ -191,7 +321,7 @@ PainterSurface::ItemLayout PainterSurface::makeItemLayout() const {
     // Upright, each name needs one line's height of its slot and may take the room below: the
     // font shrinks for both, no further than the smallest size.
     layout.turned = true;
-    const double line = baseMetrics.height();
+    const double line = lineOf(base, device).height;
     factor = std::min(line > slot && line > 0 ? slot / line : 1.0,
                       typical > room && typical > 0 ? room / typical * 0.98 : 1.0);
     layout.font = scaledFont(base, device, factor);
@@ -212,18 +342,17 @@ PainterSurface::ItemLayout PainterSurface::makeItemLayout() const {
 double PainterSurface::textWidth(const std::string& text) const {
   if (isItemText(text)) {
     const ItemLayout& items = itemLayout();
-    const QFontMetricsF fm(items.font, m_painter.device());
     // Turned, a name is one line wide.
-    return (items.turned ? fm.height() : fm.horizontalAdvance(items.shown.at(text))) *
+    return (items.turned ? lineOf(items.font, m_painter.device()).height
+                         : advanceOf(items.font, m_painter.device(), items.shown.at(text))) *
            userPerDeviceX();
   }
-  const QFontMetricsF fm(m_painter.font(), m_painter.device());
-  return fm.horizontalAdvance(toQString(text)) * userPerDeviceX();
+  return advanceOf(m_painter.font(), m_painter.device(), toQString(text)) * userPerDeviceX();
 }
 
 double PainterSurface::textHeight(const std::string& text) const {
   const QFont font = isItemText(text) ? itemLayout().font : m_painter.font();
-  return QFontMetricsF(font, m_painter.device()).height() * userPerDeviceY();
+  return lineOf(font, m_painter.device()).height * userPerDeviceY();
 }
 
 void PainterSurface::setCurrentX(double x) { m_currentX = x; }
@@ -238,21 +367,22 @@ void PainterSurface::print(const std::string& text) {
     if (isItemText(text)) {
       const ItemLayout& items = itemLayout();
       const QString shown = items.shown.at(text);
-      const QFontMetricsF fm(items.font, m_painter.device());
+      const double ascent = lineOf(items.font, m_painter.device()).ascent;
       m_painter.save();
       m_painter.setFont(items.font);
       if (items.turned) {
         // Read upwards, the name ends at the row under the plot.
-        m_painter.translate(topLeft.x() + fm.ascent(), topLeft.y() + fm.horizontalAdvance(shown));
+        m_painter.translate(topLeft.x() + ascent,
+                            topLeft.y() + advanceOf(items.font, m_painter.device(), shown));
         m_painter.rotate(-90.0);
-        m_painter.drawText(QPointF(0.0, 0.0), shown);
+        drawTextAt(m_painter, QPointF(0.0, 0.0), shown);
       } else {
-        m_painter.drawText(QPointF(topLeft.x(), topLeft.y() + fm.ascent()), shown);
+        drawTextAt(m_painter, QPointF(topLeft.x(), topLeft.y() + ascent), shown);
       }
       m_painter.restore();
     } else {
-      const QFontMetricsF fm(m_painter.font(), m_painter.device());
-      m_painter.drawText(QPointF(topLeft.x(), topLeft.y() + fm.ascent()), toQString(text));
+      const double ascent = lineOf(m_painter.font(), m_painter.device()).ascent;
+      drawTextAt(m_painter, QPointF(topLeft.x(), topLeft.y() + ascent), toQString(text));
     }
   }
   m_currentX = m_left;

@@ -20,7 +20,9 @@ namespace tnw {
 // device (a widget, an image, an SVG generator or a printer) with the user coordinates set by
 // its edges. Line widths are screen pixels and grow with the device's resolution, so that a
 // print-out keeps the proportions of the screen; texts use the painter's current font, except
-// the item names under the plot (see setItemTexts).
+// the item names under the plot (see setItemTexts). The widths of texts are measured once per
+// font and resolution and kept, and so are the layouts of texts drawn on images: a chart is
+// repainted with the same labels.
 class PainterSurface : public DrawingSurface {
  public:
   // The smallest font size the charts use, in points, on any device.
@@ -28,6 +30,11 @@ class PainterSurface : public DrawingSurface {
 
   // Draws into `area` (device units) of the painter's device; the painter must outlive this.
   PainterSurface(QPainter& painter, const QRectF& area);
+
+  // Whether texts drawn on images (the raster engine: widgets, pictures) are laid out once per
+  // text, font and resolution and kept for the next paint (the default), or laid out at each
+  // drawing as QPainter::drawText does. Both make the same pixels; tests compare them.
+  static void setTextLayoutsKept(bool kept);
 
   // The colour of a palette index 0..15 (black outside).
   static QColor paletteColour(int index);

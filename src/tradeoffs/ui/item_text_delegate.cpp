@@ -16,8 +16,48 @@ constexpr qsizetype kMostTexts = 512;
 
 }  // namespace
 
+KeptSizeDelegate::KeptSizeDelegate(QObject* parent) : QStyledItemDelegate(parent) {}
+
+QSize KeptSizeDelegate::sizeHint(const QStyleOptionViewItem& option,
+                                 const QModelIndex& index) const {
+  QStyleOptionViewItem opt = option;
+  initStyleOption(&opt, index);
+  const bool keepable = !index.data(Qt::SizeHintRole).isValid() && opt.icon.isNull() &&
+                        !(opt.features & QStyleOptionViewItem::HasCheckIndicator);
+  if (!keepable) {
+    ++m_measured;
+    return QStyledItemDelegate::sizeHint(option, index);
+  }
+  const QWidget* widget = opt.widget;
+  Kept key;
+  key.font = opt.font;
+  key.rect = opt.rect.size();
+  key.features = static_cast<int>(opt.features);
+  key.alignment = static_cast<int>(opt.displayAlignment);
+  key.state = static_cast<int>(opt.state);
+  key.decorationSize = opt.decorationSize;
+  key.decorationPosition = static_cast<int>(opt.decorationPosition);
+  key.elideMode = static_cast<int>(opt.textElideMode);
+  key.direction = static_cast<int>(opt.direction);
+  key.style = widget != nullptr ? widget->style() : QApplication::style();
+  if (m_sizes.size() > kMostTexts) m_sizes.clear();
+  std::vector<Kept>& kept = m_sizes[opt.text];
+  for (const Kept& k : kept) {
+    if (k.rect == key.rect && k.features == key.features && k.alignment == key.alignment &&
+        k.state == key.state && k.decorationSize == key.decorationSize &&
+        k.decorationPosition == key.decorationPosition && k.elideMode == key.elideMode &&
+        k.direction == key.direction && k.style == key.style && k.font == key.font) {
+      return k.size;
+    }
+  }
+  ++m_measured;
+  key.size = QStyledItemDelegate::sizeHint(option, index);
+  kept.push_back(key);
+  return key.size;
+}
+
 ItemTextDelegate::ItemTextDelegate(QObject* parent, bool gridLines)
-    : QStyledItemDelegate(parent), m_gridLines(gridLines) {}
+    : KeptSizeDelegate(parent), m_gridLines(gridLines) {}
 
 const QStaticText& ItemTextDelegate::laidOut(const QString& text, const QFont& font) const {
   if (font != m_font || m_texts.size() > kMostTexts) {
@@ -35,8 +75,8 @@ const QStaticText& ItemTextDelegate::laidOut(const QString& text, const QFont& f
 }
 
 QSize ItemTextDelegate::sizeHint(const QStyleOptionViewItem& option,
-                                   const QModelIndex& index) const {
-  QSize size = QStyledItemDelegate::sizeHint(option, index);
+                                 const QModelIndex& index) const {
+  QSize size = KeptSizeDelegate::sizeHint(option, index);
   // In a list, an item asks for no width of its own: it takes the view's width and a long
   // text is elided to it, instead of widening the rows past the view where they are cut.
   if (qobject_cast<const QListView*>(option.widget) != nullptr) size.setWidth(1);
@@ -44,7 +84,7 @@ QSize ItemTextDelegate::sizeHint(const QStyleOptionViewItem& option,
 }
 
 void ItemTextDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
-                               const QModelIndex& index) const {
+                             const QModelIndex& index) const {
   QStyleOptionViewItem opt = option;
   initStyleOption(&opt, index);
   const QWidget* widget = opt.widget;

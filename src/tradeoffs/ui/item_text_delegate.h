@@ -1,11 +1,54 @@
 #pragma once
 
 // Qt
+#include <QFont>
 #include <QHash>
+#include <QSize>
 #include <QStaticText>
 #include <QStyledItemDelegate>
 
+// Std
+#include <vector>
+
 namespace tnw::tradeoffs {
+
+// Asks the style for an item's size as QStyledItemDelegate does, but keeps each answer: the
+// views ask again for the same items whenever they are shown or laid out (a results tab shown
+// again measured every word-wrapped line of its list anew). An answer is reused only for an
+// item of the same text, font, size and options in a view of the same style; items with an
+// icon, a check box or a size hint of their own are measured each time.
+class KeptSizeDelegate : public QStyledItemDelegate {
+  Q_OBJECT
+
+ public:
+  // A delegate for the given view (its parent).
+  explicit KeptSizeDelegate(QObject* parent = nullptr);
+
+  // The style's size of the item.
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+  // How many times the style was asked (for tests).
+  int measured() const { return m_measured; }
+
+ private:
+  // One answer and what it was given for (besides the text, the cache's key).
+  struct Kept {
+    QFont font;
+    QSize rect;
+    int features = 0;
+    int alignment = 0;
+    int state = 0;
+    QSize decorationSize;
+    int decorationPosition = 0;
+    int elideMode = 0;
+    int direction = 0;
+    const void* style = nullptr;
+    QSize size;
+  };
+
+  mutable QHash<QString, std::vector<Kept>> m_sizes;
+  mutable int m_measured = 0;
+};
 
 // Paints the items of the trade-off dialog's lists and grids as the style does, but keeps each
 // text laid out once (a QStaticText) instead of laying it out again at every paint: with 31
@@ -14,7 +57,7 @@ namespace tnw::tradeoffs {
 // style at all; a text too long for its cell is left to the style, which elides it. For a grid
 // the delegate draws the grid lines too, as filled edges of each cell, which costs less than
 // the view's own lines (the grid turns those off).
-class ItemTextDelegate : public QStyledItemDelegate {
+class ItemTextDelegate : public KeptSizeDelegate {
   Q_OBJECT
 
  public:
@@ -22,7 +65,7 @@ class ItemTextDelegate : public QStyledItemDelegate {
   // bottom grid line.
   explicit ItemTextDelegate(QObject* parent = nullptr, bool gridLines = false);
 
-  // The style's size of the item; in a list, no width of its own.
+  // The style's size of the item (kept, see KeptSizeDelegate); in a list, no width of its own.
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
   // Paints the item's panel with the style and its text from the cache.
   void paint(QPainter* painter, const QStyleOptionViewItem& option,

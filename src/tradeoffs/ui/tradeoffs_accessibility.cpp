@@ -3,10 +3,10 @@
 #include "common/ui/accessibility.h"
 #include "graphs/ui/accessible_chart.h"
 #include "graphs/ui/chart_widget.h"
+#include "tradeoffs/core/tradeoffs_a_presenter.h"
 #include "tradeoffs/ui/accessible_panel.h"
 #include "tradeoffs/ui/pc_graph_widget.h"
 #include "tradeoffs/ui/pc_point_widget.h"
-#include "tradeoffs/core/tradeoffs_a_presenter.h"
 
 // Qt
 #include <QAction>
@@ -54,6 +54,12 @@ TradeOffsAccessibilityQt::TradeOffsAccessibilityQt(QWidget* dialog,
   makeTablesTabbable(dialog);
   setUpStepButtons();
   setUpChartButtons();
+  m_widgets = new WidgetTreeWatch(dialog);
+  for (int box = 0; box < 4; ++box) {
+    m_scoreBoxes[box] = m_dialog->findChild<QLineEdit*>(QString::fromLatin1(kScoreBoxes[box]));
+  }
+  m_scoreHeads[0] = m_dialog->findChild<QLabel*>(QStringLiteral("labScoreHead1"));
+  m_scoreHeads[1] = m_dialog->findChild<QLabel*>(QStringLiteral("labScoreHead2"));
   refresh();
 }
 
@@ -91,24 +97,32 @@ void TradeOffsAccessibilityQt::setUpChartButtons() {
 }
 
 void TradeOffsAccessibilityQt::nameScoreBoxes() {
-  const auto head = [this](const char* name) {
-    const auto* label = m_dialog->findChild<QLabel*>(QString::fromLatin1(name));
-    return label != nullptr ? label->text().trimmed() : QString();
-  };
-  const QString attributes[2] = {head("labScoreHead1"), head("labScoreHead2")};
+  QString attributes[2];
+  for (int i = 0; i < 2; ++i) {
+    if (m_scoreHeads[i] != nullptr) attributes[i] = m_scoreHeads[i]->text().trimmed();
+  }
+  // The names follow the attribute heads; most renders leave the heads as they were.
+  if (attributes[0] == m_namedFor[0] && attributes[1] == m_namedFor[1] && m_named) return;
   for (int box = 0; box < 4; ++box) {
     const QChar alternative = box < 2 ? QLatin1Char('A') : QLatin1Char('B');
     const QString& attribute = attributes[box % 2];
-    setAccessibleText(m_dialog->findChild<QLineEdit*>(QString::fromLatin1(kScoreBoxes[box])),
-                      QStringLiteral("%1, %2").arg(alternative).arg(attribute),
+    setAccessibleText(m_scoreBoxes[box], QStringLiteral("%1, %2").arg(alternative).arg(attribute),
                       QStringLiteral("The score of alternative %1 on %2; Up and Down step it by a "
                                      "hundredth of the score range")
                           .arg(alternative)
                           .arg(attribute));
   }
+  m_namedFor[0] = attributes[0];
+  m_namedFor[1] = attributes[1];
+  m_named = true;
 }
 
 void TradeOffsAccessibilityQt::refresh() {
+  if (m_widgets->changedSinceLastLook()) describeControls();
+  nameScoreBoxes();
+}
+
+void TradeOffsAccessibilityQt::describeControls() {
   describeWizardButtons(m_dialog);
   applyAccessibleTexts(
       m_dialog,
@@ -137,7 +151,6 @@ void TradeOffsAccessibilityQt::refresh() {
   describeTabs(m_dialog, "tsTabsW",
                {"The weight estimates and the chart", "The regression's figures and comment"});
   nameControlsByBuddies(m_dialog);
-  nameScoreBoxes();
 }
 
 }  // namespace tnw::tradeoffs

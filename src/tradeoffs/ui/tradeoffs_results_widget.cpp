@@ -191,6 +191,8 @@ QWidget* TradeOffsResultsWidget::buildRegStatus() {
   m_c.lstWorstJudgments = new QListWidget(panel);
   m_c.lstWorstJudgments->setObjectName(QStringLiteral("lstWorstJudgments"));
   m_c.lstWorstJudgments->setWordWrap(true);
+  // The list's wrapped lines are measured once per text, not each time the tab is shown.
+  m_c.lstWorstJudgments->setItemDelegate(new KeptSizeDelegate(m_c.lstWorstJudgments));
   // The caption's first letter is its mnemonic, as "C&omments:" has one.
   m_c.lblWorstJudgments =
       new QLabel(QLatin1Char('&') + QString::fromUtf8(LeaveOneOut::kCaption), panel);
