@@ -133,6 +133,25 @@ TEST_F(TradeOffsUndoTest, UndoPutsBackTheStateBeforeEachEnterAndRedoTheStateAfte
   EXPECT_FALSE(m_p->cmdRedo().enabled);
 }
 
+TEST_F(TradeOffsUndoTest, SnapshotsLeaveTheAttributeListsOutAndUndoKeepsThem) {
+  load(4);
+  const std::vector<std::string> names = m_p->judgmentPage().controls().lstTradeOffFirstC.items;
+  ASSERT_EQ(names.size(), 4u);
+  // A long undo history keeps no copy of the names per judgment.
+  const JudgmentPage::Snapshot s = m_p->judgmentPage().snapshot(-1);
+  EXPECT_TRUE(s.controls.lstTradeOffFirstC.items.empty());
+  EXPECT_TRUE(s.controls.lstTradeOffSecondC.items.empty());
+  enter(4);
+  enter(6);
+  m_p->cmdUndo_Click();
+  m_p->cmdUndo_Click();
+  EXPECT_EQ(m_p->judgmentPage().controls().lstTradeOffFirstC.items, names);
+  EXPECT_EQ(m_p->judgmentPage().controls().lstTradeOffSecondC.items, names);
+  m_p->cmdRedo_Click();
+  EXPECT_EQ(m_p->judgmentPage().controls().lstTradeOffFirstC.items, names);
+  EXPECT_EQ(m_p->judgmentPage().controls().lstTradeOffSecondC.items, names);
+}
+
 TEST_F(TradeOffsUndoTest, ClearAllIsUndoneWithTheJudgmentsItCleared) {
   load(3);
   enter(3);

@@ -2,10 +2,10 @@
 
 #include "common/core/number_format.h"
 #include "common/core/ui_services.h"
-#include "wizard/core/wizard_context.h"
 #include "model/attribute_names.h"
 #include "model/value_function.h"
 #include "tradeoffs/core/score_entry.h"
+#include "wizard/core/wizard_context.h"
 
 // Std
 #include <cmath>
@@ -326,11 +326,22 @@ JudgmentPage::Snapshot JudgmentPage::snapshot(int slot) const {
     s.slot = slot;
     s.judgment = m_store.entry(slot);
   }
+  // The lists hold the attributes' names, the same for the page's whole life: a snapshot leaves
+  // them out (an undo history of hundreds of judgments would keep a copy of them per snapshot),
+  // and restore keeps the page's own.
+  s.controls.lstTradeOffFirstC.items.clear();
+  s.controls.lstTradeOffFirstC.items.shrink_to_fit();
+  s.controls.lstTradeOffSecondC.items.clear();
+  s.controls.lstTradeOffSecondC.items.shrink_to_fit();
   return s;
 }
 
 void JudgmentPage::restore(const Snapshot& s) {
+  std::vector<std::string> firstItems = std::move(m_controls.lstTradeOffFirstC.items);
+  std::vector<std::string> secondItems = std::move(m_controls.lstTradeOffSecondC.items);
   m_controls = s.controls;
+  m_controls.lstTradeOffFirstC.items = std::move(firstItems);
+  m_controls.lstTradeOffSecondC.items = std::move(secondItems);
   m_panel = s.panel;
   m_focus = s.focus;
   m_tradeOffNo = s.tradeOffNo;

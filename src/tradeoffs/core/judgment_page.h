@@ -26,9 +26,10 @@ namespace tnw::tradeoffs {
 // the regression reads. Messages go through the UI services; the view renders controls().
 class JudgmentPage : public wizard::WizardPage {
  public:
-  // What the page holds, taken before and after a command for undo and redo: every control,
-  // counter and flag, the store's judgment count, and the judgment in one slot of the store (the
-  // slot Enter writes; Clear All only lowers the count and leaves the slots as they are).
+  // What the page holds, taken before and after a command for undo and redo: every control
+  // (but the lists' items, which never change), counter and flag, the store's judgment count,
+  // and the judgment in one slot of the store (the slot Enter writes; Clear All only lowers the
+  // count and leaves the slots as they are).
   struct Snapshot {
     JudgmentControls controls;
     ScorePanel panel;
