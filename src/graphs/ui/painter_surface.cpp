@@ -73,36 +73,23 @@ class TextCache {
 
   // The text measured in the font as the painter on `device` would.
   const Laid& measured(const QFont& font, const QPaintDevice* device, const QString& text) {
-    QHash<QString, Laid>& texts = bucket(font, device).texts;
-    auto it = texts.find(text);
-    if (it == texts.end()) {
-      Laid laid;
-      laid.advance = QFontMetricsF(font, device).horizontalAdvance(text);
-      it = texts.insert(text, laid);
-    }
-    return *it;
+    return entry(font, device, text);
   }
 
   // The text measured and laid out in the font as drawText on `device` would lay it out.
   const Laid& laidOut(const QFont& font, QPaintDevice* device, const QString& text) {
-    QHash<QString, Laid>& texts = bucket(font, device).texts;
-    auto it = texts.find(text);
-    if (it == texts.end()) {
-      Laid laid;
-      laid.advance = QFontMetricsF(font, device).horizontalAdvance(text);
-      it = texts.insert(text, laid);
-    }
-    if (!it->hasRuns) {
+    Laid& laid = entry(font, device, text);
+    if (!laid.hasRuns) {
       QTextLayout layout(text, font, device);
       layout.setCacheEnabled(true);
       layout.beginLayout();
       const QTextLine line = layout.createLine();
       layout.endLayout();
-      it->ascent = line.isValid() ? line.ascent() : 0.0;
-      it->runs = layout.glyphRuns();
-      it->hasRuns = true;
+      laid.ascent = line.isValid() ? line.ascent() : 0.0;
+      laid.runs = layout.glyphRuns();
+      laid.hasRuns = true;
     }
-    return *it;
+    return laid;
   }
 
  private:
@@ -131,6 +118,18 @@ class TextCache {
     if (m_buckets.size() >= kMostFonts) m_buckets.clear();
     m_buckets.push_back({font, dpiX, dpiY, {}, {}, false});
     return m_buckets.back();
+  }
+
+  // The kept entry of the text, measured when it is new.
+  Laid& entry(const QFont& font, const QPaintDevice* device, const QString& text) {
+    QHash<QString, Laid>& texts = bucket(font, device).texts;
+    auto it = texts.find(text);
+    if (it == texts.end()) {
+      Laid laid;
+      laid.advance = QFontMetricsF(font, device).horizontalAdvance(text);
+      it = texts.insert(text, laid);
+    }
+    return *it;
   }
 
   std::vector<Bucket> m_buckets;
