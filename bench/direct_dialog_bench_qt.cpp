@@ -1,5 +1,6 @@
 // frmDirectA's reaction to the user at 31 attributes, with the real widgets on the offscreen
-// platform: one step of a handle drag, and one key typed into a ratio box (and taken back). Each
+// platform: one step of a handle drag, one key typed into a ratio box (and taken back), Back from
+// the judgment page to the reference page, and Next from there to the judgment page. Each
 // benchmark reports the median, the 90th percentile and the maximum of the single actions' wall
 // time (p50_us, p90_us, max_us), the median and 90th percentile of their process CPU time
 // (cpu_p50_us, cpu_p90_us) and its paint events per action (paints) with the widgets that got
@@ -205,6 +206,51 @@ void BM_RatioBoxKey(benchmark::State& state) {
   state.SetItemsProcessed(state.iterations() * 2);
 }
 BENCHMARK(BM_RatioBoxKey);
+
+// Back from the judgment page to the reference page, the reference chosen again (as the page
+// asks after Back), then Next to the judgment page again; only the change that `timeBack` names
+// is timed and counted.
+void pageChange(benchmark::State& state, bool timeBack) {
+  JudgmentPageAt31 page;
+  QWidget* back = child(page.dialog.get(), "cmdBack");
+  QWidget* reference = child(page.dialog.get(), "cmdAttButtons", 0);
+  QWidget* next = child(page.dialog.get(), "cmdNext");
+  const QWidget* judgmentPage = child(page.dialog.get(), "picStep2");
+  PaintCounter paints;
+  ActionTimes times;
+  for (auto _ : state) {
+    if (!judgmentPage->isVisible()) {
+      state.SkipWithError("the dialog is not on its judgment page");
+      break;
+    }
+    for (QWidget* button : {back, reference, next}) {
+      const bool timed = button == (timeBack ? back : next);
+      if (timed) {
+        paints.setCounting(true);
+        times.start();
+      } else {
+        state.PauseTiming();
+      }
+      click(button);
+      // The new page's layout and paint belong to the change.
+      QCoreApplication::processEvents();
+      if (timed) {
+        times.stop();
+        paints.setCounting(false);
+      } else {
+        state.ResumeTiming();
+      }
+    }
+  }
+  paints.report(state, state.iterations());
+  times.report(state);
+}
+
+void BM_PageChangeBack(benchmark::State& state) { pageChange(state, true); }
+BENCHMARK(BM_PageChangeBack)->Name("PageChange/Back");
+
+void BM_PageChangeNext(benchmark::State& state) { pageChange(state, false); }
+BENCHMARK(BM_PageChangeNext)->Name("PageChange/Next");
 
 }  // namespace
 }  // namespace tnw
