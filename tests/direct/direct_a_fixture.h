@@ -31,6 +31,19 @@ class DirectAPresenterTest : public ::testing::Test {
     while (presenter->ordering().order().GroupCount() < g) presenter->cmdAdd_Click();
     presenter->picOrder_DragDrop(g, "A" + std::to_string(j));
   }
+  // Four attributes ordered {1, 2, 2, 3} (attributes 1 and 2 tied), reference attribute 1, on
+  // the judgment step; the fixture must hold four attributes.
+  DirectAPresenter& toTiedJudgments() {
+    DirectAPresenter& p = load();
+    place(0, 1);
+    place(1, 2);
+    place(2, 2);
+    place(3, 3);
+    p.cmdNext_Click();
+    p.cmdAttButtons_Click(1);
+    p.cmdNext_Click();
+    return p;
+  }
   // Types both bounds, leaves both boxes and presses Enter.
   void judge(int target, const std::string& lower, const std::string& upper) {
     presenter->imgcmbTargetAtt_Click(target);

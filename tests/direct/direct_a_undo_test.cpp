@@ -43,17 +43,7 @@ std::string describe(const DirectAPresenter& p) {
 class DirectUndoTest : public DirectAPresenterTest {
  protected:
   DirectUndoTest() : DirectAPresenterTest(4) {}
-  DirectAPresenter& toJudgments() {
-    DirectAPresenter& p = load();
-    place(0, 1);
-    place(1, 2);
-    place(2, 2);
-    place(3, 3);
-    p.cmdNext_Click();
-    p.cmdAttButtons_Click(1);
-    p.cmdNext_Click();
-    return p;
-  }
+  DirectAPresenter& toJudgments() { return toTiedJudgments(); }
   std::string state() const { return describe(*presenter); }
 };
 

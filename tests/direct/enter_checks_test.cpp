@@ -15,14 +15,7 @@ class EnterChecksTest : public DirectAPresenterTest {
  protected:
   EnterChecksTest() : DirectAPresenterTest(4) {}
   DirectAPresenter& toJudgments() {
-    DirectAPresenter& p = load();
-    place(0, 1);
-    place(1, 2);
-    place(2, 2);
-    place(3, 3);
-    p.cmdNext_Click();
-    p.cmdAttButtons_Click(1);
-    p.cmdNext_Click();
+    DirectAPresenter& p = toTiedJudgments();
     ui.clearMessages();
     return p;
   }

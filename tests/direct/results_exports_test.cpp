@@ -15,14 +15,7 @@ class ResultsExportsTest : public DirectAPresenterTest {
   // Att1 in the first group, Att2 and Att3 tied in the second, Att4 in the third; Att2 is the
   // reference; Att1 judged [2, 2] and Att4 [0.5, 1]; then the results step.
   DirectAPresenter& toResults() {
-    DirectAPresenter& p = load();
-    place(0, 1);
-    place(1, 2);
-    place(2, 2);
-    place(3, 3);
-    p.cmdNext_Click();
-    p.cmdAttButtons_Click(1);
-    p.cmdNext_Click();
+    DirectAPresenter& p = toTiedJudgments();
     judge(0, "2", "2");
     judge(3, "0.5", "1");
     p.cmdNext_Click();

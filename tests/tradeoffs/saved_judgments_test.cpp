@@ -18,15 +18,6 @@
 namespace tnw::tradeoffs {
 namespace {
 
-class QuietEvents : public TradeOffsAEvents {
- public:
-  void ExportTradeOffsW(const std::string&, std::vector<double>&, std::vector<double>&,
-                        std::vector<double>&) override {}
-  void SendMasseges(const std::string&) override {}
-  void ShowTNWSelMethod() override {}
-  void UnloadTNWizard(std::int16_t, bool) override {}
-};
-
 // Keeps files in memory: what was saved under each name, and what a load of a name gives.
 class MemoryJudgmentsFile : public JudgmentsFile {
  public:
@@ -97,7 +88,7 @@ class SavedJudgmentsTest : public ::testing::Test {
 
   WizardContext m_ctx;
   RecordingUiServices m_ui;
-  QuietEvents m_events;
+  testing::NullTradeOffsEvents m_events;
   testing::SequenceRandomSource m_random{{0.25f, 0.75f}};
   MemoryJudgmentsFile m_file;
   std::unique_ptr<TradeOffsAPresenter> m_presenter;

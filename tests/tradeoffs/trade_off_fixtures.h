@@ -2,13 +2,25 @@
 
 #include "model/attribute_model.h"
 #include "tradeoffs/core/random_source.h"
+#include "tradeoffs/core/tradeoffs_a_events.h"
 
 // Std
+#include <cstdint>
 #include <string>
 #include <utility>
 #include <vector>
 
 namespace tnw::testing {
+
+// Takes the trade-off dialog's events and does nothing with them.
+class NullTradeOffsEvents : public tradeoffs::TradeOffsAEvents {
+ public:
+  void ExportTradeOffsW(const std::string&, std::vector<double>&, std::vector<double>&,
+                        std::vector<double>&) override {}
+  void SendMasseges(const std::string&) override {}
+  void ShowTNWSelMethod() override {}
+  void UnloadTNWizard(std::int16_t, bool) override {}
+};
 
 // Hands out a fixed sequence of draws, then repeats the last one.
 class SequenceRandomSource : public tradeoffs::RandomSource {

@@ -6,9 +6,9 @@
 #include "common/core/number_format.h"
 #include "graphs/ui/chart_widget.h"
 #include "model/value_function.h"
+#include "model_json/judgment_files.h"
 #include "trade_off_dialog_fixture.h"
 #include "tradeoffs/ui/tradeoffs_results_widget.h"
-#include "model_json/judgment_files.h"
 
 // Qt
 #include <QAction>
@@ -56,15 +56,6 @@ AttributeModel carModel() {
   }
   return m;
 }
-
-class NullEvents : public TradeOffsAEvents {
- public:
-  void ExportTradeOffsW(const std::string&, std::vector<double>&, std::vector<double>&,
-                        std::vector<double>&) override {}
-  void SendMasseges(const std::string&) override {}
-  void ShowTNWSelMethod() override {}
-  void UnloadTNWizard(std::int16_t, bool) override {}
-};
 
 // A fixed sequence of uniform draws in [0, 1), enough for every trade-off of the run: were the
 // draws to run out, A and B would get equal scores and the judgment would tell the fit nothing.
@@ -116,7 +107,7 @@ bool savedJudgmentsShot(const QDir& dir) {
   WizardContext context;
   context.model = carModel();
   RecordingUiServices ui;
-  NullEvents events;
+  testing::NullTradeOffsEvents events;
   SequenceRandomSource random(draws(100));
   const JsonJudgmentsFile file;
   TradeOffsADialog d(context, ui, events, &random, &file);
@@ -137,7 +128,7 @@ int run(const QDir& dir) {
   WizardContext context;
   context.model = carModel();
   RecordingUiServices ui;
-  NullEvents events;
+  testing::NullTradeOffsEvents events;
   SequenceRandomSource random(draws(100));
   TradeOffsADialog d(context, ui, events, &random);
   d.resize(d.sizeHint().expandedTo(QSize(860, 600)));
