@@ -3,6 +3,7 @@
 
 #include "common/core/recording_ui_services.h"
 #include "trade_off_fixtures.h"
+#include "tradeoffs/core/score_entry.h"
 #include "tradeoffs/core/tradeoffs_a_events.h"
 #include "tradeoffs/core/tradeoffs_a_presenter.h"
 #include "wizard/core/wizard_context.h"
@@ -61,6 +62,40 @@ std::string describe(const JudgmentPage& page) {
     for (double d : e.valueDiff) out << " " << d;
     out << ")";
   }
+  return out.str();
+}
+
+// Every control of the judgment page, each with all it shows (fixed captions and list items
+// too), and all the page records: two equal texts are two equal pages.
+std::string describeWhole(const JudgmentPage& page) {
+  std::ostringstream out;
+  const JudgmentControls& c = page.controls();
+  const auto option = [&out](const wizard::OptionState& o) {
+    out << " {" << o.caption << " " << o.value << o.enabled << "}";
+  };
+  const auto label = [&out](const wizard::LabelState& l) {
+    out << " {" << l.caption << " " << l.visible << "}";
+  };
+  for (const wizard::ListState* l : {&c.lstTradeOffFirstC, &c.lstTradeOffSecondC}) {
+    out << " {" << l->caption << " " << l->listIndex << l->enabled;
+    for (const std::string& item : l->items) out << " " << item;
+    out << "}";
+  }
+  option(c.optPCAutomatic);
+  option(c.optPCManual);
+  for (const auto& o : c.optPCVerbal) option(o);
+  for (const auto* l : {&c.labPCThisNum, &c.labPCNeccesaryNum, &c.labPCCriterion1,
+                        &c.labPCCriterion2, &c.labTradeOffDiff1, &c.labTradeOffDiff2}) {
+    label(*l);
+  }
+  for (const auto& b : c.scoreBoxes) {
+    out << " {" << b.text << " " << b.selStart << "," << b.selLength << b.enabled << "}";
+  }
+  for (const auto* b : {&c.cmdTradeOffClearAll, &c.cmdTradeOffEnter}) {
+    out << " {" << b->caption << " " << b->enabled << b->visible << "}";
+  }
+  out << " needed " << page.TradeOffsNeeded() << " error " << page.entryError() << " toolbar "
+      << page.changedByToolbar() << " " << describe(page);
   return out.str();
 }
 
@@ -137,10 +172,12 @@ TEST_F(TradeOffsUndoTest, SnapshotsLeaveTheAttributeListsOutAndUndoKeepsThem) {
   load(4);
   const std::vector<std::string> names = m_p->judgmentPage().controls().lstTradeOffFirstC.items;
   ASSERT_EQ(names.size(), 4u);
-  // A long undo history keeps no copy of the names per judgment.
+  // A long undo history keeps no copy of the names per judgment: of a list, a snapshot keeps
+  // the selection and whether it takes clicks.
   const JudgmentPage::Snapshot s = m_p->judgmentPage().snapshot(-1);
-  EXPECT_TRUE(s.controls.lstTradeOffFirstC.items.empty());
-  EXPECT_TRUE(s.controls.lstTradeOffSecondC.items.empty());
+  EXPECT_EQ(s.lstTradeOffFirstC.listIndex, 0);
+  EXPECT_EQ(s.lstTradeOffSecondC.listIndex, 1);
+  EXPECT_FALSE(s.lstTradeOffFirstC.enabled);
   enter(4);
   enter(6);
   m_p->cmdUndo_Click();
@@ -150,6 +187,49 @@ TEST_F(TradeOffsUndoTest, SnapshotsLeaveTheAttributeListsOutAndUndoKeepsThem) {
   m_p->cmdRedo_Click();
   EXPECT_EQ(m_p->judgmentPage().controls().lstTradeOffFirstC.items, names);
   EXPECT_EQ(m_p->judgmentPage().controls().lstTradeOffSecondC.items, names);
+}
+
+TEST_F(TradeOffsUndoTest, UndoAndRedoPutBackTheWholePageWithItsFixedCaptions) {
+  load(4);
+  // Names too long to be kept inside a string, on the lists and the axis captions.
+  for (std::size_t i = 0; i < 4; ++i) {
+    m_ctx.model.AttName[i] = "An attribute with a long name, number " + std::to_string(i + 1);
+  }
+  m_p->Form_Load();
+  // The page just before and just after each command.
+  std::vector<std::string> before;
+  std::vector<std::string> after;
+  const auto command = [&](const auto& click) {
+    before.push_back(describeWhole(m_p->judgmentPage()));
+    click();
+    after.push_back(describeWhole(m_p->judgmentPage()));
+  };
+  const auto enter = [this] { m_p->cmdTradeOffEnter_Click(); };
+  m_p->optPCManual_Click();
+  m_p->lstTradeOffSecondC_Click(3);
+  m_p->lstTradeOffFirstC_Click(2);
+  m_p->tsComparisonApproaches_Click(2);
+  m_p->optPCVerbal_Click(6);
+  m_p->setScoreText(0, "4");
+  command(enter);
+  m_p->tbScoreChanger_ButtonClick(1, true);
+  m_p->scoreBoxKeyPress(0, ScoreEntry::kEnter, 0, 0);
+  ASSERT_EQ(m_p->judgmentPage().focus(), "cmdTradeOffEnter");
+  command(enter);
+  command([this] { m_p->cmdTradeOffClearAll_Click(); });
+  m_p->optPCAutomatic_Click();
+  m_p->tsComparisonApproaches_Click(1);
+  m_p->setScoreText(0, "9");
+  command(enter);
+  ASSERT_EQ(m_p->commands().undoCount(), before.size());
+  for (std::size_t i = before.size(); i > 0; --i) {
+    m_p->cmdUndo_Click();
+    EXPECT_EQ(describeWhole(m_p->judgmentPage()), before[i - 1]) << "undo " << i;
+  }
+  for (std::size_t i = 0; i < after.size(); ++i) {
+    m_p->cmdRedo_Click();
+    EXPECT_EQ(describeWhole(m_p->judgmentPage()), after[i]) << "redo " << i + 1;
+  }
 }
 
 TEST_F(TradeOffsUndoTest, ClearAllIsUndoneWithTheJudgmentsItCleared) {

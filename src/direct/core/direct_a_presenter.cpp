@@ -82,7 +82,7 @@ void DirectAPresenter::cmdFinish_Click() {
 void DirectAPresenter::cmdCancel_Click() {
   // The judgments go with the dialog: the user says so first. No keeps everything as it was.
   const int lost = judgmentsToDiscard();
-  if (lost > 0 && !m_shared.ui.askYesNo(wizard::CommandStack::discardQuestion(lost), "NORIX")) {
+  if (lost > 0 && !m_shared.ui.askYesNo(wizard::UndoTexts::discardQuestion(lost), "NORIX")) {
     return;
   }
   m_shared.events.UnloadTNWizard(m_context.FileIndex, false);
@@ -226,29 +226,29 @@ void DirectAPresenter::cmdReStart_Click() {
 
 void DirectAPresenter::recordCommand(JudgmentPage::Snapshot before) {
   JudgmentPage::Snapshot after = m_judgment.snapshot();
-  JudgmentPage* page = &m_judgment;
-  m_commands.push({[page, before = std::move(before)] { page->restore(before); },
-                   [page, after = std::move(after)] { page->restore(after); }});
+  m_commands.push(std::move(before), std::move(after));
 }
 
 void DirectAPresenter::cmdUndo_Click() {
-  if (step() != kJudgmentStep || !m_commands.undo()) return;
+  const auto restore = [this](const JudgmentPage::Snapshot& s) { m_judgment.restore(s); };
+  if (step() != kJudgmentStep || !m_commands.undo(restore)) return;
   changed();
 }
 
 void DirectAPresenter::cmdRedo_Click() {
-  if (step() != kJudgmentStep || !m_commands.redo()) return;
+  const auto restore = [this](const JudgmentPage::Snapshot& s) { m_judgment.restore(s); };
+  if (step() != kJudgmentStep || !m_commands.redo(restore)) return;
   changed();
 }
 
 wizard::ButtonState DirectAPresenter::cmdUndo() const {
   const bool shown = step() == kJudgmentStep;
-  return {wizard::CommandStack::kUndoCaption, shown && m_commands.canUndo(), shown};
+  return {wizard::UndoTexts::kUndoCaption, shown && m_commands.canUndo(), shown};
 }
 
 wizard::ButtonState DirectAPresenter::cmdRedo() const {
   const bool shown = step() == kJudgmentStep;
-  return {wizard::CommandStack::kRedoCaption, shown && m_commands.canRedo(), shown};
+  return {wizard::UndoTexts::kRedoCaption, shown && m_commands.canRedo(), shown};
 }
 
 }  // namespace tnw::direct

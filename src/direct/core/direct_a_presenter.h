@@ -111,7 +111,7 @@ class DirectAPresenter : public wizard::WizardPresenter {
   wizard::ButtonState cmdUndo() const;
   wizard::ButtonState cmdRedo() const;
   // The undo history of the dialog.
-  const wizard::CommandStack& commands() const { return m_commands; }
+  const wizard::CommandStack<JudgmentPage::Snapshot>& commands() const { return m_commands; }
   // The number of judgments Cancel would throw away: the targets recorded on step 2 since it was
   // entered, and not restarted.
   int judgmentsToDiscard() const { return m_judgment.judgmentsRecorded(); }
@@ -175,7 +175,7 @@ class DirectAPresenter : public wizard::WizardPresenter {
   JudgmentPage m_judgment;
   ResultsPage m_results;
   DirectExport::Weights m_export;
-  wizard::CommandStack m_commands;
+  wizard::CommandStack<JudgmentPage::Snapshot> m_commands;
 };
 
 }  // namespace tnw::direct

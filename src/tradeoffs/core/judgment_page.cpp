@@ -41,7 +41,7 @@ void JudgmentPage::reset() {
   m_controls.lstTradeOffSecondC.items = names;
   m_controls.labPCThisNum.caption = "1";
   m_controls.labPCNeccesaryNum.caption = std::to_string(m_tradeOffsNeeded);
-  m_focus.clear();
+  m_focus = kNoFocus;
   setPair(0, 1);
 }
 
@@ -134,7 +134,7 @@ void JudgmentPage::scoreBoxKeyPress(int box, int key, int selStart, int selLengt
     m_panel.PositioningAandB(boxValue(0), boxValue(1), boxValue(2), boxValue(3));
     m_controls.shpPCA = m_panel.shpPCA();
     m_controls.shpPCB = m_panel.shpPCB();
-    m_focus = "cmdTradeOffEnter";
+    m_focus = kEnterFocus;
     return;
   }
   const int filtered = ScoreEntry::DoKeyPress(b, key);
@@ -202,7 +202,7 @@ bool JudgmentPage::checkBoxRange(int box, float low, float high) {
   const std::optional<std::string> message = ScoreEntry::checkRange(b.text, low, high);
   if (!message) return true;
   m_entryError = true;
-  m_focus = JudgmentControls::kScoreBoxNames[static_cast<std::size_t>(box)];
+  m_focus = static_cast<std::int8_t>(box);
   b.selStart = 0;
   b.selLength = static_cast<int>(b.text.size());
   fail(*message);
@@ -305,58 +305,6 @@ void JudgmentPage::cmdTradeOffClearAll_Click() {
   m_store.JudgmentCount = 0;
   m_controls.labPCThisNum.caption = "1";
   m_controls.cmdTradeOffEnter.enabled = true;
-}
-
-JudgmentPage::Snapshot JudgmentPage::snapshot(int slot) const {
-  Snapshot s{m_controls,
-             m_panel,
-             m_focus,
-             m_tradeOffNo,
-             m_tradeOffsNeeded,
-             m_first,
-             m_second,
-             m_automatic,
-             m_entryError,
-             m_changedByToolbar,
-             {m_lowFirst, m_highFirst, m_lowSecond, m_highSecond},
-             m_store.JudgmentCount,
-             -1,
-             {}};
-  if (slot >= 0 && static_cast<std::size_t>(slot) < m_store.ScoreAFirst.size()) {
-    s.slot = slot;
-    s.judgment = m_store.entry(slot);
-  }
-  // The lists hold the attributes' names, the same for the page's whole life: a snapshot leaves
-  // them out (an undo history of hundreds of judgments would keep a copy of them per snapshot),
-  // and restore keeps the page's own.
-  s.controls.lstTradeOffFirstC.items.clear();
-  s.controls.lstTradeOffFirstC.items.shrink_to_fit();
-  s.controls.lstTradeOffSecondC.items.clear();
-  s.controls.lstTradeOffSecondC.items.shrink_to_fit();
-  return s;
-}
-
-void JudgmentPage::restore(const Snapshot& s) {
-  std::vector<std::string> firstItems = std::move(m_controls.lstTradeOffFirstC.items);
-  std::vector<std::string> secondItems = std::move(m_controls.lstTradeOffSecondC.items);
-  m_controls = s.controls;
-  m_controls.lstTradeOffFirstC.items = std::move(firstItems);
-  m_controls.lstTradeOffSecondC.items = std::move(secondItems);
-  m_panel = s.panel;
-  m_focus = s.focus;
-  m_tradeOffNo = s.tradeOffNo;
-  m_tradeOffsNeeded = s.tradeOffsNeeded;
-  m_first = s.first;
-  m_second = s.second;
-  m_automatic = s.automatic;
-  m_entryError = s.entryError;
-  m_changedByToolbar = s.changedByToolbar;
-  m_lowFirst = s.ranges[0];
-  m_highFirst = s.ranges[1];
-  m_lowSecond = s.ranges[2];
-  m_highSecond = s.ranges[3];
-  m_store.setEntry(s.slot, s.judgment, m_context.model.attributeCount());
-  m_store.JudgmentCount = s.judgmentCount;
 }
 
 std::optional<Currency> JudgmentPage::AbsoluteWeight(int p, int q, int order) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/core/currency.h"
+#include "model/attribute_model.h"
 #include "tradeoffs/core/judgment_controls.h"
 #include "tradeoffs/core/judgment_store.h"
 #include "tradeoffs/core/pair_generator.h"
@@ -26,14 +27,66 @@ namespace tnw::tradeoffs {
 // the regression reads. Messages go through the UI services; the view renders controls().
 class JudgmentPage : public wizard::WizardPage {
  public:
-  // What the page holds, taken before and after a command for undo and redo: every control
-  // (but the lists' items, which never change), counter and flag, the store's judgment count,
-  // and the judgment in one slot of the store (the slot Enter writes; Clear All only lowers the
-  // count and leaves the slots as they are).
+  // The controls the page gives the focus to, by number: none, the score boxes by index
+  // (kBoxAFirst..kBoxBSecond), and Enter.
+  static constexpr std::int8_t kNoFocus = -1;
+  static constexpr std::int8_t kEnterFocus = 4;
+
+  // What a command can change of an option whose caption stays as it is.
+  struct OptionFlags {
+    bool value = false;
+    bool enabled = true;
+  };
+  // What a command can change of a list: its selection and whether it takes clicks.
+  struct ListSelection {
+    int listIndex = -1;
+    bool enabled = false;
+  };
+  // What a command can change of a button whose caption stays as it is.
+  struct ButtonFlags {
+    bool enabled = true;
+    bool visible = true;
+  };
+  // One slot of the store, held in place: a judgment's row has one value difference per
+  // attribute, so at most kMaxAttributes of them.
+  struct StoreSlot {
+    double scoreAFirst = 0.0;
+    double scoreBFirst = 0.0;
+    double scoreASecond = 0.0;
+    double scoreBSecond = 0.0;
+    std::int16_t prefResponse = 0;
+    std::int16_t firstAtt = 0;
+    std::int16_t secondAtt = 0;
+    int valueCount = 0;
+    std::array<double, kMaxAttributes> valueDiff{};
+  };
+  // What the page holds, taken before and after a command for undo and redo: what a command can
+  // change and nothing more. The captions that stay as they are while the page lives (of the
+  // options, the lists and the buttons) and the lists' items stay with the page; the focus is
+  // kept by number and the store's slot in place. So a snapshot holds no memory of its own
+  // (but for a text too long to be kept inside a string), and a history of hundreds of
+  // judgments is cheap to keep and to let go of. The slot is the one Enter writes; Clear All
+  // only lowers the count and leaves the slots as they are.
   struct Snapshot {
-    JudgmentControls controls;
+    OptionFlags optPCAutomatic;
+    OptionFlags optPCManual;
+    std::array<OptionFlags, 7> optPCVerbal;
+    ListSelection lstTradeOffFirstC;
+    ListSelection lstTradeOffSecondC;
+    ButtonFlags cmdTradeOffClearAll;
+    ButtonFlags cmdTradeOffEnter;
+    wizard::LabelState labPCThisNum;
+    wizard::LabelState labPCNeccesaryNum;
+    wizard::LabelState labPCCriterion1;
+    wizard::LabelState labPCCriterion2;
+    wizard::LabelState labTradeOffDiff1;
+    wizard::LabelState labTradeOffDiff2;
+    std::array<wizard::TextBoxState, 4> scoreBoxes;
+    int tsComparisonApproaches = 1;
+    PanelPoint shpPCA;
+    PanelPoint shpPCB;
     ScorePanel panel;
-    std::string focus;
+    std::int8_t focus = kNoFocus;
     std::int16_t tradeOffNo = 0;
     std::int16_t tradeOffsNeeded = 0;
     std::int16_t first = 0;
@@ -44,7 +97,7 @@ class JudgmentPage : public wizard::WizardPage {
     std::array<float, 4> ranges{};
     int judgmentCount = 0;
     int slot = -1;
-    JudgmentStore::Entry judgment;
+    StoreSlot judgment;
   };
 
   // The instruction of the page.
@@ -77,7 +130,7 @@ class JudgmentPage : public wizard::WizardPage {
   // The controls as the view shows them.
   const JudgmentControls& controls() const { return m_controls; }
   // The control that has the focus (its name; empty when the page does not move it).
-  const std::string& focus() const { return m_focus; }
+  const std::string& focus() const;
   // The judgments recorded so far.
   JudgmentStore& store() { return m_store; }
   const JudgmentStore& store() const { return m_store; }
@@ -161,7 +214,7 @@ class JudgmentPage : public wizard::WizardPage {
   JudgmentControls m_controls;
   JudgmentStore m_store;
   ScorePanel m_panel;
-  std::string m_focus;
+  std::int8_t m_focus = kNoFocus;
   std::int16_t m_tradeOffNo = 0;
   std::int16_t m_tradeOffsNeeded = 0;
   std::int16_t m_first = 0;

@@ -128,7 +128,7 @@ void TradeOffsAPresenter::cmdFinish_Click() {
 void TradeOffsAPresenter::cmdCancel_Click() {
   // The judgments go with the dialog: the user says so first. No keeps everything as it was.
   const int lost = judgmentsToDiscard();
-  if (lost > 0 && !m_ui.askYesNo(wizard::CommandStack::discardQuestion(lost), kTitle)) return;
+  if (lost > 0 && !m_ui.askYesNo(wizard::UndoTexts::discardQuestion(lost), kTitle)) return;
   m_events.UnloadTNWizard(m_context.FileIndex, false);
 }
 
@@ -219,7 +219,7 @@ void TradeOffsAPresenter::cmdTradeOffClearAll_Click() {
   // A Clear All with nothing to clear changes nothing, and keeps what can be redone.
   if (before.tradeOffNo != m_judgment.TradeOffNo() ||
       before.judgmentCount != m_judgment.store().JudgmentCount ||
-      before.controls.cmdTradeOffEnter.enabled != m_judgment.controls().cmdTradeOffEnter.enabled) {
+      before.cmdTradeOffEnter.enabled != m_judgment.controls().cmdTradeOffEnter.enabled) {
     recordCommand(std::move(before));
   }
   changed();
@@ -227,29 +227,29 @@ void TradeOffsAPresenter::cmdTradeOffClearAll_Click() {
 
 void TradeOffsAPresenter::recordCommand(JudgmentPage::Snapshot before) {
   JudgmentPage::Snapshot after = m_judgment.snapshot(before.slot);
-  JudgmentPage* page = &m_judgment;
-  m_commands.push({[page, before = std::move(before)] { page->restore(before); },
-                   [page, after = std::move(after)] { page->restore(after); }});
+  m_commands.push(std::move(before), std::move(after));
 }
 
 void TradeOffsAPresenter::cmdUndo_Click() {
-  if (step() != kJudgmentStep || !m_commands.undo()) return;
+  const auto restore = [this](const JudgmentPage::Snapshot& s) { m_judgment.restore(s); };
+  if (step() != kJudgmentStep || !m_commands.undo(restore)) return;
   changed();
 }
 
 void TradeOffsAPresenter::cmdRedo_Click() {
-  if (step() != kJudgmentStep || !m_commands.redo()) return;
+  const auto restore = [this](const JudgmentPage::Snapshot& s) { m_judgment.restore(s); };
+  if (step() != kJudgmentStep || !m_commands.redo(restore)) return;
   changed();
 }
 
 wizard::ButtonState TradeOffsAPresenter::cmdUndo() const {
   const bool shown = step() == kJudgmentStep;
-  return {wizard::CommandStack::kUndoCaption, shown && m_commands.canUndo(), shown};
+  return {wizard::UndoTexts::kUndoCaption, shown && m_commands.canUndo(), shown};
 }
 
 wizard::ButtonState TradeOffsAPresenter::cmdRedo() const {
   const bool shown = step() == kJudgmentStep;
-  return {wizard::CommandStack::kRedoCaption, shown && m_commands.canRedo(), shown};
+  return {wizard::UndoTexts::kRedoCaption, shown && m_commands.canRedo(), shown};
 }
 
 }  // namespace tnw::tradeoffs

@@ -118,7 +118,7 @@ class TradeOffsAPresenter : public wizard::WizardPresenter {
   wizard::ButtonState cmdUndo() const;
   wizard::ButtonState cmdRedo() const;
   // The undo history of the dialog.
-  const wizard::CommandStack& commands() const { return m_commands; }
+  const wizard::CommandStack<JudgmentPage::Snapshot>& commands() const { return m_commands; }
   // The number of judgments Cancel would throw away: those recorded and not cleared.
   int judgmentsToDiscard() const { return m_judgment.store().JudgmentCount; }
 
@@ -139,7 +139,7 @@ class TradeOffsAPresenter : public wizard::WizardPresenter {
   std::optional<std::string> m_fitError;
   std::optional<std::string> m_modelProblem;
 
-  wizard::CommandStack m_commands;
+  wizard::CommandStack<JudgmentPage::Snapshot> m_commands;
   std::vector<JudgmentInfluence> m_worst;
   std::vector<std::string> m_worstLines;
   int m_tabW = 1;

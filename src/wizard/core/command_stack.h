@@ -2,39 +2,65 @@
 
 // Std
 #include <cstddef>
-#include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tnw::wizard {
 
-// The undo history of a dialog: the commands the user made, each able to take itself back and to
-// make itself again. A command is recorded once it is done; undoing it moves it to the redo
-// history, and a new command clears that history. The commands of the two methods put back whole
-// snapshots of what they changed (taken before and after), so undo and redo are exact whatever
-// the command drew at random or worked out on the way.
-class CommandStack {
- public:
-  // One recorded command.
-  struct Command {
-    // Puts back the state from before the command.
-    std::function<void()> undo;
-    // Puts back the state the command left.
-    std::function<void()> redo;
-  };
-
+// What the undo history of every dialog shows the user: the Undo and Redo captions and the
+// question asked before recorded judgments are discarded.
+struct UndoTexts {
   // The captions of the Undo and Redo buttons: their mnemonics match Ctrl+Z and Ctrl+Y.
   static constexpr const char* kUndoCaption = "Undo (&Z)";
   static constexpr const char* kRedoCaption = "Redo (&Y)";
 
+  // The question Cancel asks before n recorded judgments go: "Discard N judgments?", or
+  // "Discard 1 judgment?" for one.
+  static std::string discardQuestion(int n);
+};
+
+// The undo history of a dialog: the commands the user made, each able to take itself back and to
+// make itself again. A command is recorded once it is done; undoing it moves it to the redo
+// history, and a new command clears that history. A command is kept as two snapshots of what it
+// changed (taken before and after), by value and side by side with the others, so undo and redo
+// are exact whatever the command drew at random or worked out on the way, and forgetting a long
+// history frees its storage at once. Undo and redo hand the snapshot to put back to the caller's
+// restore function.
+template <typename State>
+class CommandStack : public UndoTexts {
+ public:
+  // One recorded command.
+  struct Command {
+    // The state from before the command.
+    State before;
+    // The state the command left.
+    State after;
+  };
+
   // Records a command that was just done; whatever was undone before can no longer be redone.
-  void push(Command command);
-  // Takes back the last command done; false when there is none.
-  bool undo();
-  // Makes the last command undone again; false when there is none.
-  bool redo();
-  // Forgets every command (the state they worked on has gone).
-  void clear();
+  void push(State before, State after) {
+    m_done.push_back({std::move(before), std::move(after)});
+    m_undone.clear();
+  }
+  // Takes back the last command done, putting back its state from before with
+  // restore(const State&); false when there is none. If restore throws, the history stays as it
+  // was.
+  template <typename Restore>
+  bool undo(Restore&& restore) {
+    return transfer(m_done, m_undone, restore, &Command::before);
+  }
+  // Makes the last command undone again, putting back the state it left; false when there is
+  // none. If restore throws, the history stays as it was.
+  template <typename Restore>
+  bool redo(Restore&& restore) {
+    return transfer(m_undone, m_done, restore, &Command::after);
+  }
+  // Forgets every command (the state they worked on has gone), and the room they took.
+  void clear() {
+    std::vector<Command>().swap(m_done);
+    std::vector<Command>().swap(m_undone);
+  }
 
   // Whether there is a command to undo, or to redo.
   bool canUndo() const { return !m_done.empty(); }
@@ -43,11 +69,20 @@ class CommandStack {
   std::size_t undoCount() const { return m_done.size(); }
   std::size_t redoCount() const { return m_undone.size(); }
 
-  // The question Cancel asks before n recorded judgments go: "Discard N judgments?", or
-  // "Discard 1 judgment?" for one.
-  static std::string discardQuestion(int n);
-
  private:
+  template <typename Restore>
+  static bool transfer(std::vector<Command>& from, std::vector<Command>& to, Restore& restore,
+                       State Command::*state) {
+    if (from.empty()) return false;
+    // Room first (growing as push_back would), so that once the state is back, moving the
+    // command cannot fail.
+    if (to.size() == to.capacity()) to.reserve(to.empty() ? 1 : 2 * to.size());
+    restore(std::as_const(from.back().*state));
+    to.push_back(std::move(from.back()));
+    from.pop_back();
+    return true;
+  }
+
   std::vector<Command> m_done;
   std::vector<Command> m_undone;
 };

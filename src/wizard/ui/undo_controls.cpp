@@ -24,8 +24,8 @@ QPushButton* undoButton(QWidget* page, const char* name, const char* caption, co
 }  // namespace
 
 UndoButtons makeUndoButtons(QWidget* page, const QString& undoTip) {
-  return {undoButton(page, "cmdUndo", wizard::CommandStack::kUndoCaption, undoTip),
-          undoButton(page, "cmdRedo", wizard::CommandStack::kRedoCaption,
+  return {undoButton(page, "cmdUndo", wizard::UndoTexts::kUndoCaption, undoTip),
+          undoButton(page, "cmdRedo", wizard::UndoTexts::kRedoCaption,
                      QObject::tr("Make again what Undo took back (Ctrl+Shift+Z or Ctrl+Y)"))};
 }
 
