@@ -1,15 +1,13 @@
 #include "graphs/ui/painter_surface.h"
 
 #include "graphs/core/palette.h"
+#include "graphs/ui/text_cache.h"
 
 // Qt
 #include <QFontMetricsF>
-#include <QGlyphRun>
-#include <QHash>
-#include <QList>
+#include <QLineF>
 #include <QPaintDevice>
 #include <QPaintEngine>
-#include <QTextLayout>
 
 // Std
 #include <algorithm>
@@ -41,136 +39,21 @@ QFont scaledFont(const QFont& base, const QPaintDevice* device, double factor) {
   return font;
 }
 
-// The texts of the charts, each measured and laid out once in a font on a device resolution: a
-// chart prints the same scale labels and item names at every paint, and the layout of its texts
-// was most of the time of a paint. Painting happens in one thread; each thread has its cache.
-class TextCache {
- public:
-  // A text's advance width and, once asked for, its glyphs with the baseline at y = ascent.
-  struct Laid {
-    double advance = 0.0;
-    double ascent = 0.0;
-    QList<QGlyphRun> runs;
-    bool hasRuns = false;
-  };
-
-  // A font's line height and ascent on `device`.
-  struct Line {
-    double height = 0.0;
-    double ascent = 0.0;
-  };
-
-  // The line height and ascent of the font as the painter on `device` would measure them.
-  const Line& line(const QFont& font, const QPaintDevice* device) {
-    Bucket& b = bucket(font, device);
-    if (!b.hasLine) {
-      const QFontMetricsF fm(font, device);
-      b.line = {fm.height(), fm.ascent()};
-      b.hasLine = true;
-    }
-    return b.line;
-  }
-
-  // The text measured in the font as the painter on `device` would.
-  const Laid& measured(const QFont& font, const QPaintDevice* device, const QString& text) {
-    return entry(font, device, text);
-  }
-
-  // The text measured and laid out in the font as drawText on `device` would lay it out.
-  const Laid& laidOut(const QFont& font, QPaintDevice* device, const QString& text) {
-    Laid& laid = entry(font, device, text);
-    if (!laid.hasRuns) {
-      QTextLayout layout(text, font, device);
-      layout.setCacheEnabled(true);
-      layout.beginLayout();
-      const QTextLine line = layout.createLine();
-      layout.endLayout();
-      laid.ascent = line.isValid() ? line.ascent() : 0.0;
-      laid.runs = layout.glyphRuns();
-      laid.hasRuns = true;
-    }
-    return laid;
-  }
-
- private:
-  // The texts of one font at one resolution.
-  struct Bucket {
-    QFont font;
-    int dpiX = 0;
-    int dpiY = 0;
-    QHash<QString, Laid> texts;
-    Line line;
-    bool hasLine = false;
-  };
-  // Past these, the cache starts again: the charts use a few fonts and a few hundred texts.
-  static constexpr std::size_t kMostFonts = 16;
-  static constexpr qsizetype kMostTexts = 1024;
-
-  Bucket& bucket(const QFont& font, const QPaintDevice* device) {
-    const int dpiX = device != nullptr ? device->logicalDpiX() : 0;
-    const int dpiY = device != nullptr ? device->logicalDpiY() : 0;
-    for (Bucket& b : m_buckets) {
-      if (b.dpiX == dpiX && b.dpiY == dpiY && b.font == font) {
-        if (b.texts.size() > kMostTexts) b.texts.clear();
-        return b;
-      }
-    }
-    if (m_buckets.size() >= kMostFonts) m_buckets.clear();
-    m_buckets.push_back({font, dpiX, dpiY, {}, {}, false});
-    return m_buckets.back();
-  }
-
-  // The kept entry of the text, measured when it is new.
-  Laid& entry(const QFont& font, const QPaintDevice* device, const QString& text) {
-    QHash<QString, Laid>& texts = bucket(font, device).texts;
-    auto it = texts.find(text);
-    if (it == texts.end()) {
-      Laid laid;
-      laid.advance = QFontMetricsF(font, device).horizontalAdvance(text);
-      it = texts.insert(text, laid);
-    }
-    return *it;
-  }
-
-  std::vector<Bucket> m_buckets;
-};
-
-// Whether texts on images are drawn from the kept layouts (see setTextLayoutsKept).
-bool keepTextLayouts = true;
-
-TextCache& textCache() {
-  thread_local TextCache cache;
-  return cache;
-}
-
 const TextCache::Line& lineOf(const QFont& font, const QPaintDevice* device) {
-  return textCache().line(font, device);
+  TextCache& cache = TextCache::instance();
+  return cache.line(cache.bucket(font, device), device);
 }
 
-double advanceOf(const QFont& font, const QPaintDevice* device, const QString& text) {
-  return textCache().measured(font, device, text).advance;
+double advanceOf(const QFont& font, const QPaintDevice* device, const std::string& text) {
+  TextCache& cache = TextCache::instance();
+  return cache.measured(cache.bucket(font, device), device, text).advance;
 }
 
 double longestWidth(const QFont& font, const QPaintDevice* device,
                     const std::vector<std::string>& texts) {
   double longest = 0.0;
-  for (const std::string& t : texts)
-    longest = std::max(longest, advanceOf(font, device, toQString(t)));
+  for (const std::string& t : texts) longest = std::max(longest, advanceOf(font, device, t));
   return longest;
-}
-
-// Draws a text with its baseline starting at `baseline`, as QPainter::drawText does. On the
-// raster engine (widgets and images) the text's glyphs come from the cache; the other engines
-// (SVG, PDF, printers) are handed the text itself, which they keep as text.
-void drawTextAt(QPainter& painter, const QPointF& baseline, const QString& text) {
-  QPaintEngine* engine = painter.paintEngine();
-  if (!keepTextLayouts || engine == nullptr || engine->type() != QPaintEngine::Raster) {
-    painter.drawText(baseline, text);
-    return;
-  }
-  const TextCache::Laid& laid = textCache().laidOut(painter.font(), painter.device(), text);
-  const QPointF origin(baseline.x(), baseline.y() - laid.ascent);
-  for (const QGlyphRun& run : laid.runs) painter.drawGlyphRun(origin, run);
 }
 
 }  // namespace
@@ -183,7 +66,7 @@ PainterSurface::PainterSurface(QPainter& painter, const QRectF& area)
   }
 }
 
-void PainterSurface::setTextLayoutsKept(bool kept) { keepTextLayouts = kept; }
+void PainterSurface::setTextLayoutsKept(bool kept) { setTextKept(kept); }
 
 QColor PainterSurface::paletteColour(int index) {
   return QColor(static_cast<QRgb>(0xFF000000u | tnw::paletteColour(index)));
@@ -192,7 +75,7 @@ QColor PainterSurface::paletteColour(int index) {
 QFont PainterSurface::fittedFont(const QFont& base, const QPaintDevice* device, double areaWidth) {
   // The charts keep 15 of their 155 horizontal units left of the plot for the scale labels.
   const double room = areaWidth * 12.0 / 155.0;
-  const double width = advanceOf(base, device, QStringLiteral("0.0000"));
+  const double width = advanceOf(base, device, "0.0000");
   if (width <= room || width <= 0) return base;
   return scaledFont(base, device, room / width * 0.95);
 }
@@ -204,7 +87,10 @@ QFont PainterSurface::fontFitting(const QFont& base, const QPaintDevice* device,
   return scaledFont(base, device, width / longest * 0.98);
 }
 
+PainterSurface::~PainterSurface() { flushTurnedNames(); }
+
 void PainterSurface::clear() {
+  flushTurnedNames();
   m_painter.fillRect(m_area, Qt::white);
   m_currentX = m_left;
   m_currentY = m_top;
@@ -217,6 +103,7 @@ void PainterSurface::setScale(double left, double top, double right, double bott
   m_top = top;
   m_right = right;
   m_bottom = bottom;
+  flushTurnedNames();
   m_itemLayout.reset();
 }
 
@@ -241,27 +128,30 @@ double PainterSurface::userPerDeviceY() const {
   return m_area.height() > 0 ? (m_bottom - m_top) / m_area.height() : 0.0;
 }
 
-void PainterSurface::applyPen(const QColor& colour) {
-  QPen pen(colour, m_lineWidth * m_pixelScale);
-  pen.setStyle(m_style == LineStyle::Dot ? Qt::DotLine : Qt::SolidLine);
-  pen.setCapStyle(Qt::FlatCap);
-  m_painter.setPen(pen);
-}
-
 void PainterSurface::line(double x1, double y1, double x2, double y2, int colour) {
   if (!std::isfinite(x1) || !std::isfinite(y1) || !std::isfinite(x2) || !std::isfinite(y2)) return;
-  applyPen(paletteColour(colour));
-  m_painter.drawLine(toDevice(x1, y1), toDevice(x2, y2));
+  const QLineF line(toDevice(x1, y1), toDevice(x2, y2));
+  // The turned names wait to be drawn together, unless a line would cross them.
+  const double reach = m_lineWidth * m_pixelScale / 2.0 + 1.0;
+  if (!m_turnedNames.empty() &&
+      m_turnedBox.intersects(
+          QRectF(line.p1(), line.p2()).normalized().adjusted(-reach, -reach, reach, reach))) {
+    flushTurnedNames();
+  }
+  usePen({false, colour, m_lineWidth, m_style});
+  m_painter.drawLine(line);
 }
 
 void PainterSurface::fillBox(double x1, double y1, double x2, double y2, int colour) {
   if (!std::isfinite(x1) || !std::isfinite(y1) || !std::isfinite(x2) || !std::isfinite(y2)) return;
+  flushTurnedNames();
   m_painter.fillRect(QRectF(toDevice(x1, y1), toDevice(x2, y2)).normalized(),
                      paletteColour(colour));
 }
 
 void PainterSurface::setItemTexts(std::vector<std::string> texts, double slotWidth, double room,
                                   double row) {
+  flushTurnedNames();
   m_itemTexts = std::move(texts);
   m_slotWidth = slotWidth;
   m_room = room;
@@ -296,7 +186,7 @@ PainterSurface::ItemLayout PainterSurface::makeItemLayout() const {
   // size, so smaller fonts are judged from these widths.
   std::vector<double> widths;
   widths.reserve(m_itemTexts.size());
-  for (const std::string& t : m_itemTexts) widths.push_back(advanceOf(base, device, toQString(t)));
+  for (const std::string& t : m_itemTexts) widths.push_back(advanceOf(base, device, t));
   // The font is chosen for the name at three quarters of the lengths, so that one long name
   // does not make all the others small: the few longer are shortened.
   std::vector<std::size_t> order(widths.size());
@@ -306,10 +196,11 @@ PainterSurface::ItemLayout PainterSurface::makeItemLayout() const {
   const double typical = order.empty() ? 0.0 : widths[typicalIndex];
   double factor = typical > slot && typical > 0 ? slot / typical * 0.98 : 1.0;
   layout.font = scaledFont(base, device, factor);
-  if (factor < 1.0) {
+  // Already at the smallest size, the names read upwards whatever the name measures below.
+  const bool smallest = layout.font.pointSizeF() > pointsOf(base, device) * factor * 1.001;
+  if (factor < 1.0 && !smallest) {
     // Hinting does not scale quite linearly: that name is measured once more.
-    const QString name = toQString(m_itemTexts[typicalIndex]);
-    const double real = advanceOf(layout.font, device, name);
+    const double real = advanceOf(layout.font, device, m_itemTexts[typicalIndex]);
     if (real > slot) {
       factor *= slot / real;
       layout.font = scaledFont(base, device, factor);
@@ -329,11 +220,11 @@ PainterSurface::ItemLayout PainterSurface::makeItemLayout() const {
   const double ratio = layout.font.pointSizeF() / pointsOf(base, device);
   const QFontMetricsF fm(layout.font, device);
   for (std::size_t i = 0; i < m_itemTexts.size(); ++i) {
-    const QString text = toQString(m_itemTexts[i]);
     // Only a name that may be too long is measured again, in its own font.
-    layout.shown[m_itemTexts[i]] = widths[i] * ratio > length * 0.98 && length > 0
-                                       ? fm.elidedText(text, Qt::ElideRight, length)
-                                       : text;
+    layout.shown[m_itemTexts[i]] =
+        widths[i] * ratio > length * 0.98 && length > 0
+            ? fm.elidedText(toQString(m_itemTexts[i]), Qt::ElideRight, length).toStdString()
+            : m_itemTexts[i];
   }
   return layout;
 }
@@ -346,7 +237,7 @@ double PainterSurface::textWidth(const std::string& text) const {
                          : advanceOf(items.font, m_painter.device(), items.shown.at(text))) *
            userPerDeviceX();
   }
-  return advanceOf(m_painter.font(), m_painter.device(), toQString(text)) * userPerDeviceX();
+  return advanceOf(m_painter.font(), m_painter.device(), text) * userPerDeviceX();
 }
 
 double PainterSurface::textHeight(const std::string& text) const {
@@ -359,33 +250,65 @@ void PainterSurface::setCurrentX(double x) { m_currentX = x; }
 void PainterSurface::setCurrentY(double y) { m_currentY = y; }
 
 void PainterSurface::print(const std::string& text) {
+  const bool item = isItemText(text);
   const double height = textHeight(text);
   if (std::isfinite(m_currentX) && std::isfinite(m_currentY)) {
     const QPointF topLeft = toDevice(m_currentX, m_currentY);
-    m_painter.setPen(Qt::black);
-    if (isItemText(text)) {
-      const ItemLayout& items = itemLayout();
-      const QString shown = items.shown.at(text);
-      const double ascent = lineOf(items.font, m_painter.device()).ascent;
-      m_painter.save();
-      m_painter.setFont(items.font);
-      if (items.turned) {
-        // Read upwards, the name ends at the row under the plot.
-        m_painter.translate(topLeft.x() + ascent,
-                            topLeft.y() + advanceOf(items.font, m_painter.device(), shown));
-        m_painter.rotate(-90.0);
-        drawTextAt(m_painter, QPointF(0.0, 0.0), shown);
-      } else {
-        drawTextAt(m_painter, QPointF(topLeft.x(), topLeft.y() + ascent), shown);
-      }
-      m_painter.restore();
+    if (item && itemLayout().turned) {
+      addTurnedName(topLeft, itemLayout().shown.at(text));
     } else {
-      const double ascent = lineOf(m_painter.font(), m_painter.device()).ascent;
-      drawTextAt(m_painter, QPointF(topLeft.x(), topLeft.y() + ascent), toQString(text));
+      flushTurnedNames();
+      usePen({true});
+      if (item) {
+        const ItemLayout& items = itemLayout();
+        const double ascent = lineOf(items.font, m_painter.device()).ascent;
+        m_painter.save();
+        m_painter.setFont(items.font);
+        drawTextAt(m_painter, QPointF(topLeft.x(), topLeft.y() + ascent), items.shown.at(text));
+        m_painter.restore();
+      } else {
+        const double ascent = lineOf(m_painter.font(), m_painter.device()).ascent;
+        drawTextAt(m_painter, QPointF(topLeft.x(), topLeft.y() + ascent), text);
+      }
     }
   }
   m_currentX = m_left;
   m_currentY += height;
+}
+
+void PainterSurface::addTurnedName(const QPointF& topLeft, const std::string& shown) {
+  const ItemLayout& items = itemLayout();
+  QPaintDevice* device = m_painter.device();
+  const double ascent = lineOf(items.font, device).ascent;
+  // Read upwards, the name ends at the row under the plot.
+  const TurnedName name{shown,
+                        {topLeft.x() + ascent, topLeft.y() + advanceOf(items.font, device, shown)}};
+  if (!takesTurnedStrip(m_painter)) {
+    drawTurnedNames(m_painter, items.font, {name}, {});
+    return;
+  }
+  const QRectF ink = turnedInk(items.font, device, name);
+  m_turnedBox = m_turnedNames.empty() ? ink : m_turnedBox.united(ink);
+  m_turnedNames.push_back(name);
+}
+
+void PainterSurface::flushTurnedNames() {
+  if (m_turnedNames.empty()) return;
+  drawTurnedNames(m_painter, itemLayout().font, m_turnedNames, m_turnedBox);
+  m_turnedNames.clear();
+}
+
+void PainterSurface::usePen(Pen pen) {
+  if (m_pen && *m_pen == pen) return;
+  m_pen = pen;
+  if (pen.text) {
+    m_painter.setPen(Qt::black);
+    return;
+  }
+  QPen line(paletteColour(pen.colour), pen.width * m_pixelScale);
+  line.setStyle(pen.style == LineStyle::Dot ? Qt::DotLine : Qt::SolidLine);
+  line.setCapStyle(Qt::FlatCap);
+  m_painter.setPen(line);
 }
 
 }  // namespace tnw

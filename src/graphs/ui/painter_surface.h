@@ -1,6 +1,7 @@
 #pragma once
 
 #include "graphs/core/drawing_surface.h"
+#include "graphs/ui/text_cache.h"
 
 // Qt
 #include <QColor>
@@ -22,7 +23,9 @@ namespace tnw {
 // print-out keeps the proportions of the screen; texts use the painter's current font, except
 // the item names under the plot (see setItemTexts). The widths of texts are measured once per
 // font and resolution and kept, and so are the layouts of texts drawn on images: a chart is
-// repainted with the same labels.
+// repainted with the same labels. While it lives the surface alone draws with the painter: it sets
+// a pen only when it needs another one, and on an image the turned item names wait to be drawn
+// together until something that may cross them is drawn, or the surface goes.
 class PainterSurface : public DrawingSurface {
  public:
   // The smallest font size the charts use, in points, on any device.
@@ -30,6 +33,10 @@ class PainterSurface : public DrawingSurface {
 
   // Draws into `area` (device units) of the painter's device; the painter must outlive this.
   PainterSurface(QPainter& painter, const QRectF& area);
+  // Draws what is still waiting to be drawn (the turned item names).
+  ~PainterSurface() override;
+  PainterSurface(const PainterSurface&) = delete;
+  PainterSurface& operator=(const PainterSurface&) = delete;
 
   // Whether texts drawn on images (the raster engine: widgets, pictures) are laid out once per
   // text, font and resolution and kept for the next paint (the default), or laid out at each
@@ -82,10 +89,21 @@ class PainterSurface : public DrawingSurface {
   struct ItemLayout {
     QFont font;
     bool turned = false;
-    std::map<std::string, QString> shown;
+    std::map<std::string, std::string> shown;
   };
 
-  void applyPen(const QColor& colour);
+  // The pen the surface last set on the painter: the texts' or a line's.
+  struct Pen {
+    bool text = false;
+    int colour = 0;
+    int width = 0;
+    LineStyle style = LineStyle::Solid;
+    bool operator==(const Pen&) const = default;
+  };
+
+  void usePen(Pen pen);
+  void addTurnedName(const QPointF& topLeft, const std::string& shown);
+  void flushTurnedNames();
   double userPerDeviceX() const;
   double userPerDeviceY() const;
   bool isItemText(const std::string& text) const;
@@ -108,6 +126,12 @@ class PainterSurface : public DrawingSurface {
   double m_room = 0.0;
   double m_itemRow = -2.0;
   mutable std::optional<ItemLayout> m_itemLayout;
+  // The pen set on the painter, once the surface has set one.
+  std::optional<Pen> m_pen;
+  // The turned item names printed and not yet drawn, and a device box holding their ink: on an
+  // image they are drawn together (see drawTurnedNames).
+  std::vector<TurnedName> m_turnedNames;
+  QRectF m_turnedBox;
 };
 
 }  // namespace tnw
