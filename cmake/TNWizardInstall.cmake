@@ -14,6 +14,10 @@ install(TARGETS ${TNW_EXPORT_TARGETS} EXPORT TNWizardTargets
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
   RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+# Printing and SVG writing, loaded by the component on first use from beside it.
+if(TARGET tnwizard_mavt_print)
+  install(TARGETS tnwizard_mavt_print LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+endif()
 
 # The public headers, and only they: what a host of TNW_MAVT includes (tnw_mavt.h and what it
 # names), and what a user of the Qt-free core includes to read, write and value model files or to

@@ -1,13 +1,11 @@
 #include "graphs/ui/chart_export.h"
 
+#include "graphs/ui/print_support.h"
+
 // Qt
-#include <QBuffer>
 #include <QPagedPaintDevice>
 #include <QPainter>
-#include <QSaveFile>
-#ifdef TNW_HAVE_QT_SVG
-#include <QSvgGenerator>
-#endif
+#include <QtGlobal>
 
 namespace tnw {
 
@@ -21,39 +19,16 @@ QImage ChartExport::toImage(const ChartWidget::Painter& chart, QSize size) {
   return image;
 }
 
-#ifdef TNW_HAVE_QT_SVG
 bool ChartExport::toSvg(const ChartWidget::Painter& chart, const QString& path, QSize size,
-                          const QString& title) {
-  // The picture is made in memory and then saved in one go: a file that could not be written
-  // whole is never reported as written, and an old file at the path is replaced only then.
-  QBuffer buffer;
-  QSvgGenerator svg;
-  svg.setOutputDevice(&buffer);
-  svg.setSize(size);
-  svg.setViewBox(QRect(QPoint(0, 0), size));
-  svg.setTitle(title);
-  {
-    QPainter p;
-    if (!p.begin(&svg)) return false;
-    if (chart) chart(p, QRectF(QPointF(0, 0), QSizeF(size)));
-    if (!p.end()) return false;
-  }
-  const QByteArray& bytes = buffer.data();
-  if (bytes.isEmpty()) return false;
-  QSaveFile file(path);
-  if (!file.open(QIODevice::WriteOnly)) return false;
-  if (file.write(bytes) != bytes.size()) {
-    file.cancelWriting();
+                        const QString& title) {
+  QString error;
+  const PrintSupportFunctions* functions = printSupport(&error);
+  if (functions == nullptr) {
+    qWarning("TNW_MAVT: no SVG is written: %s", qUtf8Printable(error));
     return false;
   }
-  return file.commit();
+  return functions->writeSvg(chart, path, size, title);
 }
-#else
-// A Qt without its Svg module writes no SVG.
-bool ChartExport::toSvg(const ChartWidget::Painter&, const QString&, QSize, const QString&) {
-  return false;
-}
-#endif
 
 void ChartExport::toPage(const ChartWidget::Painter& chart, QPagedPaintDevice& device) {
   QPainter p(&device);

@@ -1,13 +1,13 @@
 #include "graphs/ui/results_printout.h"
 
+#include "graphs/ui/print_support.h"
 #include "graphs/ui/printed_table.h"
 
 // Qt
+#include <QMessageBox>
 #include <QPageLayout>
 #include <QPagedPaintDevice>
 #include <QPainter>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QTableWidget>
 #include <QTextLayout>
 
@@ -201,17 +201,17 @@ void ResultsPrintout::drawTable(Flow& flow, const Table& table) const {
 
 void ResultsPrintout::openPrintDialog(QWidget* parent, const QString& docName,
                                       const std::function<void(QPagedPaintDevice&)>& print) {
-  // Window-modal without a nested event loop: the print-out is made when the dialog is accepted.
-  // The dialog deletes itself when it closes, or goes with its parent; its printer lives as long
-  // as the connection that prints, which ends with the print dialog.
-  auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
-  printer->setDocName(docName);
-  auto* dialog = new QPrintDialog(printer.get(), parent);
-  dialog->setObjectName(QStringLiteral("dlgPrint"));
-  dialog->setWindowTitle(QObject::tr("Print the results"));
-  dialog->setAttribute(Qt::WA_DeleteOnClose);
-  QObject::connect(dialog, &QDialog::accepted, parent, [printer, print] { print(*printer); });
-  dialog->open();
+  QString error;
+  if (const PrintSupportFunctions* functions = printSupport(&error)) {
+    functions->openPrintDialog(parent, docName, print);
+    return;
+  }
+  // Without its module (a broken installation) the wizard cannot print; it says so and goes on.
+  auto* box = new QMessageBox(QMessageBox::Warning, docName,
+                              QObject::tr("Printing is not available: %1").arg(error),
+                              QMessageBox::Ok, parent);
+  box->setAttribute(Qt::WA_DeleteOnClose);
+  box->open();
 }
 
 void ResultsPrintout::drawHeading(Flow& flow) const {

@@ -70,6 +70,7 @@ class ResultsPrintout {
   static Table fromGrid(const QTableWidget& grid, int nameColumn = 0);
   // Opens the platform's print dialog over `parent` without a nested event loop; when it is
   // accepted, `print` draws on its printer. The dialog (dlgPrint) deletes itself when it closes.
+  // Where printing cannot be loaded (graphs/ui/print_support.h), a message box says so instead.
   static void openPrintDialog(QWidget* parent, const QString& docName,
                               const std::function<void(QPagedPaintDevice&)>& print);
 
