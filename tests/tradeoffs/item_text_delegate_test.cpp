@@ -8,6 +8,53 @@
 
 namespace tnw::tradeoffs {
 
+namespace {
+
+// The style's own painting, with the item widths ItemTextDelegate asks for in a list that does
+// not wrap.
+class NarrowStyledDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    QSize size = QStyledItemDelegate::sizeHint(option, index);
+    const auto* list = qobject_cast<const QListView*>(option.widget);
+    if (list != nullptr && !list->wordWrap()) size.setWidth(1);
+    return size;
+  }
+};
+
+// Two lists alike but for their delegates.
+struct ListPair {
+  QListWidget ours;
+  QListWidget styled;
+
+  ListPair(bool wrap, const QStringList& items) {
+    for (QListWidget* list : {&ours, &styled}) {
+      list->setWordWrap(wrap);
+      list->setTextElideMode(Qt::ElideRight);
+      list->resize(170, 220);
+      list->addItems(items);
+    }
+    ours.setItemDelegate(new ItemTextDelegate(&ours));
+    styled.setItemDelegate(new NarrowStyledDelegate(&styled));
+    ours.show();
+    styled.show();
+    QApplication::processEvents();
+  }
+
+  ItemTextDelegate& delegate() { return *static_cast<ItemTextDelegate*>(ours.itemDelegate()); }
+  bool samePixels() {
+    return ours.viewport()->grab().toImage() == styled.viewport()->grab().toImage();
+  }
+};
+
+const QStringList kLongLines = {
+    QStringLiteral("A short line"),
+    QStringLiteral("A judgment line long enough to be wrapped over several lines in a narrow list"),
+    QStringLiteral("Another judgment line, also much longer than the list is wide")};
+
+}  // namespace
+
 class ItemTextDelegateTest : public QObject {
   Q_OBJECT
 
@@ -53,6 +100,45 @@ class ItemTextDelegateTest : public QObject {
     list.item(1)->setText(QStringLiteral("Shorter"));
     QCOMPARE(kept->sizeHint(option, longLine), plain.sizeHint(option, longLine));
     QCOMPARE(kept->measured(), before + 5);
+  }
+
+  // The wrapped lines of a list are painted by the style once, into kept images: the pixels are
+  // the style's own, and painting again copies them.
+  void wrappedItemsArePaintedOnceWithTheStylesPixels() {
+    ListPair lists(true, kLongLines);
+    QVERIFY(lists.samePixels());
+    // Each item at least once (the window's activation may paint them again in its new state).
+    const int painted = lists.delegate().imagesPainted();
+    QVERIFY(painted >= 3);
+    QVERIFY(lists.samePixels());
+    QCOMPARE(lists.delegate().imagesPainted(), painted);
+    // A changed text is painted anew.
+    for (QListWidget* list : {&lists.ours, &lists.styled})
+      list->item(1)->setText(QStringLiteral("A changed line that still wraps in this narrow list"));
+    QApplication::processEvents();
+    QVERIFY(lists.samePixels());
+    QCOMPARE(lists.delegate().imagesPainted(), painted + 1);
+    // A selected item is left to the style at every paint.
+    for (QListWidget* list : {&lists.ours, &lists.styled}) list->setCurrentRow(2);
+    QApplication::processEvents();
+    QVERIFY(lists.samePixels());
+    QCOMPARE(lists.delegate().imagesPainted(), painted + 1);
+  }
+
+  // A text too long for a list that does not wrap is elided by the style, once.
+  void elidedItemsAreTheStyles() {
+    ListPair lists(false, kLongLines);
+    QVERIFY(lists.samePixels());
+    // The short line fits and is drawn from its kept layout; the two long ones are elided.
+    const int painted = lists.delegate().imagesPainted();
+    QVERIFY(painted >= 2);
+    QVERIFY(lists.samePixels());
+    QCOMPARE(lists.delegate().imagesPainted(), painted);
+    lists.ours.item(0)->setText(kLongLines[1]);
+    lists.styled.item(0)->setText(kLongLines[1]);
+    QApplication::processEvents();
+    QVERIFY(lists.samePixels());
+    QCOMPARE(lists.delegate().imagesPainted(), painted);
   }
 };
 

@@ -1,6 +1,7 @@
 #include "direct/ui/direct_judgment_page_widget.h"
 
 #include "common/ui/elided_label_widget.h"
+#include "common/ui/wrapped_label.h"
 #include "direct/core/direct_result.h"
 #include "direct/core/judgment_page.h"
 #include "direct/core/ordering_page.h"
@@ -79,8 +80,8 @@ DirectJudgmentPageWidget::DirectJudgmentPageWidget(QWidget* parent) : QWidget(pa
   left->addWidget(buildRatioFrame());
   left->addLayout(buttons);
   left->addWidget(m_lights);
-  m_diagnosis = namedLabel(QStringLiteral("lblJudgmentDiagnosis"), this);
-  m_diagnosis->setWordWrap(true);
+  m_diagnosis = new WrappedLabel(this);
+  m_diagnosis->setObjectName(QStringLiteral("lblJudgmentDiagnosis"));
   left->addWidget(m_diagnosis);
   left->addStretch(1);
 
@@ -111,11 +112,11 @@ QWidget* DirectJudgmentPageWidget::buildTargetFrame() {
   choose->setBuddy(m_targetList);
   m_targetImage = namedLabel(QStringLiteral("imgTargetAtt"), frame);
   m_targetImage->setFixedSize(32, 32);
-  m_targetName = namedLabel(QStringLiteral("lblTargetAtt"), frame);
+  m_targetName = new WrappedLabel(frame);
+  m_targetName->setObjectName(QStringLiteral("lblTargetAtt"));
   QFont bold = m_targetName->font();
   bold.setBold(true);
   m_targetName->setFont(bold);
-  m_targetName->setWordWrap(true);
   m_targetLow = namedLabel(QStringLiteral("lblTarRangeLow"), frame);
   m_targetHigh = namedLabel(QStringLiteral("lblTarRangeHigh"), frame);
   auto* range = new QHBoxLayout;

@@ -1,14 +1,15 @@
 #include "direct/ui/direct_order_page_widget.h"
 
+#include "common/ui/wrapped_label.h"
+#include "direct/core/drag_payload.h"
+#include "direct/core/ordering_page.h"
 #include "direct/ui/attribute_button_widget.h"
 #include "direct/ui/attribute_drop_filter.h"
 #include "direct/ui/clickable_label_widget.h"
 #include "direct/ui/control_rendering.h"
 #include "direct/ui/direct_view_colours.h"
-#include "direct/core/drag_payload.h"
 #include "direct/ui/flow_layout.h"
 #include "direct/ui/group_box_widget.h"
-#include "direct/core/ordering_page.h"
 
 // Qt
 #include <QButtonGroup>
@@ -46,18 +47,17 @@ DirectOrderPageWidget::DirectOrderPageWidget(QWidget* parent) : QWidget(parent) 
   connect(m_dropFilter, &AttributeDropFilter::dropped, this, &DirectOrderPageWidget::onDropped);
   connect(m_dropFilter, &AttributeDropFilter::dragOver, this, &DirectOrderPageWidget::onDragOver);
 
-  auto* instruction = new QLabel(
+  auto* instruction = new WrappedLabel(
       tr("Order relative importance of the attributes by dragging the attribute name buttons on "
          "the left to the yellow boxes on the right."),
       this);
   instruction->setObjectName(QStringLiteral("lblInstruction"));
-  instruction->setWordWrap(true);
 
   auto* lists = new QHBoxLayout;
   lists->addWidget(buildAttributeList(), 2);
   lists->addWidget(buildOrderPanel(), 3);
 
-  auto* notice = new QLabel(
+  auto* notice = new WrappedLabel(
       QStringLiteral("    Notice that: (1) The attributes in the 1st group are the most important, "
                      "the ones in the 2nd group are less important relative to the 1st group, "
                      "and so on. (2) The attributes with red labels are benefit-oriented, while "
@@ -66,7 +66,6 @@ DirectOrderPageWidget::DirectOrderPageWidget(QWidget* parent) : QWidget(parent) 
   notice->setObjectName(QStringLiteral("lblNotice3"));
   m_notice = notice;
   notice->setTextFormat(Qt::PlainText);
-  notice->setWordWrap(true);
   notice->setAlignment(Qt::AlignLeft | Qt::AlignTop);
 
   auto* bottom = new QHBoxLayout;

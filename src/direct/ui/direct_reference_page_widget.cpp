@@ -1,12 +1,13 @@
 #include "direct/ui/direct_reference_page_widget.h"
 
-#include "direct/ui/attribute_button_widget.h"
+#include "common/ui/wrapped_label.h"
 #include "direct/core/direct_result.h"
-#include "direct/ui/direct_view_colours.h"
-#include "direct/ui/indicator_widget.h"
 #include "direct/core/ordering_page.h"
 #include "direct/core/reference_page.h"
 #include "direct/core/status_lamps.h"
+#include "direct/ui/attribute_button_widget.h"
+#include "direct/ui/direct_view_colours.h"
+#include "direct/ui/indicator_widget.h"
 
 // Qt
 #include <QGroupBox>
@@ -18,10 +19,9 @@ namespace tnw::direct {
 
 DirectReferencePageWidget::DirectReferencePageWidget(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("picStep1"));
-  auto* instruction = new QLabel(
+  auto* instruction = new WrappedLabel(
       tr("Click the attribute that the other attributes are to be compared with."), this);
   instruction->setObjectName(QStringLiteral("lblRefInstruction"));
-  instruction->setWordWrap(true);
 
   auto* frame = new QGroupBox(tr("Importance order:"), this);
   frame->setObjectName(QStringLiteral("picOrderFrame"));

@@ -1,5 +1,6 @@
 #include "direct/ui/direct_results_page_widget.h"
 
+#include "common/ui/wrapped_label.h"
 #include "direct/core/results_grid.h"
 #include "direct/core/results_page.h"
 #include "direct/ui/control_rendering.h"
@@ -45,8 +46,8 @@ void drawPageChart(const ResultsPage& page, QPainter& painter, const QRectF& are
 
 DirectResultsPageWidget::DirectResultsPageWidget(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("picStep3"));
-  auto* caption = new QLabel(tr("Weights of the attributes derived from your judgments:"), this);
-  caption->setWordWrap(true);
+  auto* caption =
+      new WrappedLabel(tr("Weights of the attributes derived from your judgments:"), this);
   m_grid = new QTableWidget(this);
   m_grid->setObjectName(QStringLiteral("gridTN"));
   m_grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -69,9 +70,8 @@ DirectResultsPageWidget::DirectResultsPageWidget(QWidget* parent) : QWidget(pare
   layout->addWidget(caption);
   layout->addWidget(m_grid, 1);
 
-  m_exactTitle = new QLabel(QString::fromUtf8(ExactWeightBounds::kTitle), this);
+  m_exactTitle = new WrappedLabel(QString::fromUtf8(ExactWeightBounds::kTitle), this);
   m_exactTitle->setObjectName(QStringLiteral("lblExactBounds"));
-  m_exactTitle->setWordWrap(true);
   QFont bold = m_exactTitle->font();
   bold.setBold(true);
   m_exactTitle->setFont(bold);

@@ -2,6 +2,7 @@
 
 #include "common/ui/accessibility.h"
 #include "common/ui/wizard_buttons.h"
+#include "common/ui/wrapped_label.h"
 
 // Qt
 #include <QDialogButtonBox>
@@ -78,8 +79,9 @@ void SelMethodDialog::buildLayout() {
   m_picDescription->setFrameShadow(QFrame::Sunken);
   m_picDescription->setBackgroundRole(QPalette::Base);
   m_picDescription->setAutoFillBackground(true);
-  m_lblDescription = makeLabel("lblDescription", QString(), m_picDescription);
-  m_lblDescription->setWordWrap(true);
+  m_lblDescription = new WrappedLabel(m_picDescription);
+  m_lblDescription->setObjectName(QStringLiteral("lblDescription"));
+  m_lblDescription->setTextFormat(Qt::PlainText);
   m_lblDescription->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   // Room for the longest description, so that no method's text is ever clipped.
   const int textWidth = fontMetrics().averageCharWidth() * 44;

@@ -3,8 +3,12 @@
 // Qt
 #include <QApplication>
 #include <QListView>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QStyle>
+
+// Std
+#include <cmath>
 
 namespace tnw::tradeoffs {
 
@@ -78,9 +82,78 @@ QSize ItemTextDelegate::sizeHint(const QStyleOptionViewItem& option,
                                  const QModelIndex& index) const {
   QSize size = KeptSizeDelegate::sizeHint(option, index);
   // In a list, an item asks for no width of its own: it takes the view's width and a long
-  // text is elided to it, instead of widening the rows past the view where they are cut.
-  if (qobject_cast<const QListView*>(option.widget) != nullptr) size.setWidth(1);
+  // text is elided to it, instead of widening the rows past the view where they are cut. A list
+  // that wraps its texts gets them wrapped at the width the style measured them for.
+  const auto* list = qobject_cast<const QListView*>(option.widget);
+  if (list != nullptr && !list->wordWrap()) size.setWidth(1);
   return size;
+}
+
+void ItemTextDelegate::drawGridLines(QPainter* painter, const QStyleOptionViewItem& opt,
+                                     const QRect& rect) const {
+  const QWidget* widget = opt.widget;
+  const QStyle* style = widget != nullptr ? widget->style() : QApplication::style();
+  const QColor grid = QColor::fromRgba(
+      static_cast<QRgb>(style->styleHint(QStyle::SH_Table_GridLineColor, &opt, widget)));
+  painter->fillRect(QRect(rect.right(), rect.top(), 1, rect.height()), grid);
+  painter->fillRect(QRect(rect.left(), rect.bottom(), rect.width(), 1), grid);
+}
+
+bool ItemTextDelegate::paintKept(QPainter* painter, const QStyleOptionViewItem& option,
+                                 const QModelIndex& index, const QStyleOptionViewItem& opt) const {
+  // Only an item the style draws on the view's plain background can be painted ahead, and only
+  // for a raster painter that copies the image pixel for pixel.
+  const bool plain =
+      !(opt.state & (QStyle::State_Selected | QStyle::State_HasFocus)) &&
+      opt.backgroundBrush.style() == Qt::NoBrush && opt.icon.isNull() &&
+      !(opt.features & (QStyleOptionViewItem::HasCheckIndicator | QStyleOptionViewItem::Alternate));
+  const QPaintEngine* engine = painter->paintEngine();
+  const QTransform& transform = painter->transform();
+  if (!plain || engine == nullptr || engine->type() != QPaintEngine::Raster ||
+      transform.type() > QTransform::TxTranslate || transform.dx() != std::round(transform.dx()) ||
+      transform.dy() != std::round(transform.dy()) || opt.rect.isEmpty()) {
+    return false;
+  }
+  const QWidget* widget = opt.widget;
+  KeptImage key;
+  key.font = opt.font;
+  key.size = opt.rect.size();
+  key.palette = opt.palette.cacheKey();
+  key.base = opt.palette.color(QPalette::Base).rgba();
+  key.state = static_cast<int>(opt.state);
+  key.features = static_cast<int>(opt.features);
+  key.alignment = static_cast<int>(opt.displayAlignment);
+  key.elideMode = static_cast<int>(opt.textElideMode);
+  key.direction = static_cast<int>(opt.direction);
+  key.pixelRatio = painter->device()->devicePixelRatioF();
+  key.style = widget != nullptr ? widget->style() : QApplication::style();
+  if (m_images.size() > kMostTexts) m_images.clear();
+  std::vector<KeptImage>& kept = m_images[opt.text];
+  for (const KeptImage& k : kept) {
+    if (k.size == key.size && k.palette == key.palette && k.base == key.base &&
+        k.state == key.state && k.features == key.features && k.alignment == key.alignment &&
+        k.elideMode == key.elideMode && k.direction == key.direction &&
+        k.pixelRatio == key.pixelRatio && k.style == key.style && k.font == key.font) {
+      painter->drawPixmap(opt.rect.topLeft(), k.image);
+      return true;
+    }
+  }
+  // The style paints the item, grid lines first, as it would on the view.
+  const QRect at(QPoint(0, 0), opt.rect.size());
+  key.image = QPixmap(at.size() * key.pixelRatio);
+  key.image.setDevicePixelRatio(key.pixelRatio);
+  key.image.fill(QColor::fromRgba(key.base));
+  {
+    QPainter p(&key.image);
+    if (m_gridLines) drawGridLines(&p, opt, at);
+    QStyleOptionViewItem moved = option;
+    moved.rect = at;
+    QStyledItemDelegate::paint(&p, moved, index);
+  }
+  ++m_imagesPainted;
+  kept.push_back(std::move(key));
+  painter->drawPixmap(opt.rect.topLeft(), kept.back().image);
+  return true;
 }
 
 void ItemTextDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -91,15 +164,14 @@ void ItemTextDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
   QStyle* style = widget != nullptr ? widget->style() : QApplication::style();
   const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, widget) + 1;
   const QRect textRect = opt.rect.adjusted(margin, 0, -margin, 0);
-  const QStaticText& text = laidOut(opt.text, opt.font);
-  if (m_gridLines) {
-    const QColor grid = QColor::fromRgba(
-        static_cast<QRgb>(style->styleHint(QStyle::SH_Table_GridLineColor, &opt, widget)));
-    painter->fillRect(QRect(opt.rect.right(), opt.rect.top(), 1, opt.rect.height()), grid);
-    painter->fillRect(QRect(opt.rect.left(), opt.rect.bottom(), opt.rect.width(), 1), grid);
-  }
-  if (!opt.icon.isNull() || text.size().width() > textRect.width()) {
-    // The style elides the text to the cell, as the view's elide mode says.
+  // The style wraps the texts of a view that wraps them, and elides a text too long for its
+  // cell as the view's elide mode says; only the texts drawn here are laid out here.
+  const bool wrapped = !opt.icon.isNull() || (opt.features & QStyleOptionViewItem::WrapText) != 0;
+  const QStaticText* text = wrapped ? nullptr : &laidOut(opt.text, opt.font);
+  const bool styled = text == nullptr || text->size().width() > textRect.width();
+  if (styled && paintKept(painter, option, index, opt)) return;
+  if (m_gridLines) drawGridLines(painter, opt, opt.rect);
+  if (styled) {
     QStyledItemDelegate::paint(painter, option, index);
     return;
   }
@@ -115,13 +187,13 @@ void ItemTextDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
                                                                            : QPalette::Normal;
   const QPalette::ColorRole role =
       (opt.state & QStyle::State_Selected) ? QPalette::HighlightedText : QPalette::Text;
-  const QSizeF size = text.size();
+  const QSizeF size = text->size();
   const QRect placed =
       QStyle::alignedRect(opt.direction, opt.displayAlignment, size.toSize(), textRect);
   painter->save();
   painter->setPen(opt.palette.color(group, role));
   painter->setFont(opt.font);
-  painter->drawStaticText(placed.topLeft(), text);
+  painter->drawStaticText(placed.topLeft(), *text);
   painter->restore();
 }
 

@@ -3,6 +3,7 @@
 // Qt
 #include <QFont>
 #include <QHash>
+#include <QPixmap>
 #include <QSize>
 #include <QStaticText>
 #include <QStyledItemDelegate>
@@ -54,9 +55,10 @@ class KeptSizeDelegate : public QStyledItemDelegate {
 // text laid out once (a QStaticText) instead of laying it out again at every paint: with 31
 // attributes the lists and grids are repainted on most user actions, and the layout of their
 // texts was most of that time. A plain item (not selected, without focus) is not handed to the
-// style at all; a text too long for its cell is left to the style, which elides it. For a grid
-// the delegate draws the grid lines too, as filled edges of each cell, which costs less than
-// the view's own lines (the grid turns those off).
+// style at all. A text the style must elide or wrap is painted by the style once, on the view's
+// background, into a kept image that later paints copy; a selected or focused one is left to the
+// style each time. For a grid the delegate draws the grid lines too, as filled edges of each
+// cell, which costs less than the view's own lines (the grid turns those off).
 class ItemTextDelegate : public KeptSizeDelegate {
   Q_OBJECT
 
@@ -65,17 +67,45 @@ class ItemTextDelegate : public KeptSizeDelegate {
   // bottom grid line.
   explicit ItemTextDelegate(QObject* parent = nullptr, bool gridLines = false);
 
-  // The style's size of the item (kept, see KeptSizeDelegate); in a list, no width of its own.
+  // The style's size of the item (kept, see KeptSizeDelegate); in a list that does not wrap its
+  // texts, no width of its own.
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
   // Paints the item's panel with the style and its text from the cache.
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override;
 
+  // How many times the style painted an item into a kept image (for tests).
+  int imagesPainted() const { return m_imagesPainted; }
+
  private:
+  // One kept image and what it was painted for (besides the text, the cache's key).
+  struct KeptImage {
+    QFont font;
+    QSize size;
+    qint64 palette = 0;
+    QRgb base = 0;
+    int state = 0;
+    int features = 0;
+    int alignment = 0;
+    int elideMode = 0;
+    int direction = 0;
+    qreal pixelRatio = 1.0;
+    const void* style = nullptr;
+    QPixmap image;
+  };
+
   const QStaticText& laidOut(const QString& text, const QFont& font) const;
+  // Draws the right and bottom grid lines of a cell at `rect`.
+  void drawGridLines(QPainter* painter, const QStyleOptionViewItem& opt, const QRect& rect) const;
+  // Paints the item from a kept image of the style's painting; false when the item cannot be
+  // kept (selected, focused, with a background or an icon of its own, or a painter that scales).
+  bool paintKept(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index,
+                 const QStyleOptionViewItem& opt) const;
 
   mutable QHash<QString, QStaticText> m_texts;
   mutable QFont m_font;
+  mutable QHash<QString, std::vector<KeptImage>> m_images;
+  mutable int m_imagesPainted = 0;
   bool m_gridLines = false;
 };
 

@@ -1,6 +1,7 @@
 #include "tradeoffs/ui/tradeoffs_a_dialog.h"
 
 #include "common/ui/wizard_buttons.h"
+#include "common/ui/wrapped_label.h"
 #include "graphs/ui/results_export.h"
 #include "tradeoffs/core/clock_random_source.h"
 #include "tradeoffs/core/saved_judgments.h"
@@ -109,9 +110,8 @@ QString TradeOffsADialog::hostDirectory(const WizardContext& context) {
 }
 
 void TradeOffsADialog::buildFrame() {
-  m_instruction = new QLabel(this);
+  m_instruction = new WrappedLabel(this);
   m_instruction->setObjectName(QStringLiteral("lblInstruction"));
-  m_instruction->setWordWrap(true);
   QFont f = m_instruction->font();
   f.setBold(true);
   m_instruction->setFont(f);

@@ -1,5 +1,6 @@
 #include "tradeoffs/ui/tradeoffs_results_widget.h"
 
+#include "common/ui/wrapped_label.h"
 #include "graphs/ui/chart_widget.h"
 #include "graphs/ui/results_export.h"
 #include "tradeoffs/core/leave_one_out.h"
@@ -191,13 +192,13 @@ QWidget* TradeOffsResultsWidget::buildRegStatus() {
   m_c.lstWorstJudgments = new QListWidget(panel);
   m_c.lstWorstJudgments->setObjectName(QStringLiteral("lstWorstJudgments"));
   m_c.lstWorstJudgments->setWordWrap(true);
-  // The list's wrapped lines are measured once per text, not each time the tab is shown.
-  m_c.lstWorstJudgments->setItemDelegate(new KeptSizeDelegate(m_c.lstWorstJudgments));
+  // The list's wrapped lines are measured and painted once per text, not each time the tab is
+  // shown.
+  m_c.lstWorstJudgments->setItemDelegate(new ItemTextDelegate(m_c.lstWorstJudgments));
   // The caption's first letter is its mnemonic, as "C&omments:" has one.
   m_c.lblWorstJudgments =
-      new QLabel(QLatin1Char('&') + QString::fromUtf8(LeaveOneOut::kCaption), panel);
+      new WrappedLabel(QLatin1Char('&') + QString::fromUtf8(LeaveOneOut::kCaption), panel);
   m_c.lblWorstJudgments->setObjectName(QStringLiteral("lblWorstJudgments"));
-  m_c.lblWorstJudgments->setWordWrap(true);
   m_c.lblWorstJudgments->setBuddy(m_c.lstWorstJudgments);
   right->addWidget(m_c.lblWorstJudgments);
   right->addWidget(m_c.lstWorstJudgments, 1);
