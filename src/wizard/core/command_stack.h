@@ -74,11 +74,16 @@ class CommandStack : public UndoTexts {
   static bool transfer(std::vector<Command>& from, std::vector<Command>& to, Restore& restore,
                        State Command::*state) {
     if (from.empty()) return false;
-    // Room first (growing as push_back would), so that once the state is back, moving the
-    // command cannot fail.
-    if (to.size() == to.capacity()) to.reserve(to.empty() ? 1 : 2 * to.size());
-    restore(std::as_const(from.back().*state));
+    // The command moves first (a failed push_back leaves both histories as they were), and moves
+    // back if the state cannot be put back.
     to.push_back(std::move(from.back()));
+    try {
+      restore(std::as_const(to.back().*state));
+    } catch (...) {
+      from.back() = std::move(to.back());
+      to.pop_back();
+      throw;
+    }
     from.pop_back();
     return true;
   }
