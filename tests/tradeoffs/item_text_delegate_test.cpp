@@ -3,6 +3,7 @@
 // Qt
 #include <QApplication>
 #include <QListWidget>
+#include <QTableWidget>
 #include <QStyledItemDelegate>
 #include <QtTest>
 
@@ -123,6 +124,43 @@ class ItemTextDelegateTest : public QObject {
     QApplication::processEvents();
     QVERIFY(lists.samePixels());
     QCOMPARE(lists.delegate().imagesPainted(), painted + 1);
+  }
+
+  // A grid's plain cells are drawn once into kept images: painting the grid again copies them,
+  // and a changed cell alone is drawn anew.
+  void gridCellsAreDrawnOnceAndCopiedAfter() {
+    QTableWidget grid(8, 3);
+    // As the results grids: one line per cell, the delegate's own grid lines.
+    grid.setWordWrap(false);
+    grid.setShowGrid(false);
+    auto* delegate = new ItemTextDelegate(&grid, true);
+    grid.setItemDelegate(delegate);
+    for (int r = 0; r < 8; ++r)
+      for (int c = 0; c < 3; ++c)
+        grid.setItem(r, c, new QTableWidgetItem(QStringLiteral("%1.%2").arg(r).arg(c * 7)));
+    grid.setCurrentCell(-1, -1);
+    grid.clearFocus();
+    grid.resize(360, 320);
+    grid.show();
+    QApplication::processEvents();
+    const QImage first = grid.viewport()->grab().toImage();
+    const int painted = delegate->imagesPainted();
+    QVERIFY(painted >= 24);
+    const QImage again = grid.viewport()->grab().toImage();
+    QCOMPARE(delegate->imagesPainted(), painted);
+    QVERIFY(again == first);
+    grid.item(2, 1)->setText(QStringLiteral("99.5"));
+    QApplication::processEvents();
+    const QImage changed = grid.viewport()->grab().toImage();
+    QCOMPARE(delegate->imagesPainted(), painted + 1);
+    QVERIFY(changed != first);
+    // Only the changed cell's pixels differ.
+    const QRect cell = grid.visualItemRect(grid.item(2, 1));
+    for (int y = 0; y < first.height(); ++y) {
+      for (int x = 0; x < first.width(); ++x) {
+        if (!cell.contains(x, y)) QCOMPARE(changed.pixel(x, y), first.pixel(x, y));
+      }
+    }
   }
 
   // A text too long for a list that does not wrap is elided by the style, once.

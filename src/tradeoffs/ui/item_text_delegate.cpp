@@ -17,6 +17,8 @@ namespace {
 // The cache holds the texts of one dialog's lists and grids; it is emptied when it grows past
 // them, as when the model changes.
 constexpr qsizetype kMostTexts = 512;
+// The kept images of one view: about the cells of a few screens of a grid.
+constexpr int kMostImages = 2048;
 
 }  // namespace
 
@@ -100,9 +102,10 @@ void ItemTextDelegate::drawGridLines(QPainter* painter, const QStyleOptionViewIt
 }
 
 bool ItemTextDelegate::paintKept(QPainter* painter, const QStyleOptionViewItem& option,
-                                 const QModelIndex& index, const QStyleOptionViewItem& opt) const {
-  // Only an item the style draws on the view's plain background can be painted ahead, and only
-  // for a raster painter that copies the image pixel for pixel.
+                                 const QModelIndex& index, const QStyleOptionViewItem& opt,
+                                 const QStaticText* text) const {
+  // Only an item drawn on the view's plain background can be painted ahead, and only for a
+  // raster painter that copies the image pixel for pixel.
   const bool plain =
       !(opt.state & (QStyle::State_Selected | QStyle::State_HasFocus)) &&
       opt.backgroundBrush.style() == Qt::NoBrush && opt.icon.isNull() &&
@@ -127,7 +130,6 @@ bool ItemTextDelegate::paintKept(QPainter* painter, const QStyleOptionViewItem& 
   key.direction = static_cast<int>(opt.direction);
   key.pixelRatio = painter->device()->devicePixelRatioF();
   key.style = widget != nullptr ? widget->style() : QApplication::style();
-  if (m_images.size() > kMostTexts) m_images.clear();
   std::vector<KeptImage>& kept = m_images[opt.text];
   for (const KeptImage& k : kept) {
     if (k.size == key.size && k.palette == key.palette && k.base == key.base &&
@@ -138,43 +140,42 @@ bool ItemTextDelegate::paintKept(QPainter* painter, const QStyleOptionViewItem& 
       return true;
     }
   }
-  // The style paints the item, grid lines first, as it would on the view.
+  if (m_imageCount >= kMostImages) {
+    // Past what a dialog's views show at once: the images are painted again as needed.
+    m_images.clear();
+    m_imageCount = 0;
+  }
+  // The item is drawn as it would be on the view, on the view's background.
   const QRect at(QPoint(0, 0), opt.rect.size());
   key.image = QPixmap(at.size() * key.pixelRatio);
   key.image.setDevicePixelRatio(key.pixelRatio);
   key.image.fill(QColor::fromRgba(key.base));
   {
     QPainter p(&key.image);
-    if (m_gridLines) drawGridLines(&p, opt, at);
-    QStyleOptionViewItem moved = option;
+    QStyleOptionViewItem movedOption = option;
+    movedOption.rect = at;
+    QStyleOptionViewItem moved = opt;
     moved.rect = at;
-    QStyledItemDelegate::paint(&p, moved, index);
+    drawItem(&p, movedOption, index, moved, text);
   }
   ++m_imagesPainted;
-  kept.push_back(std::move(key));
-  painter->drawPixmap(opt.rect.topLeft(), kept.back().image);
+  ++m_imageCount;
+  std::vector<KeptImage>& slot = m_images[opt.text];
+  slot.push_back(std::move(key));
+  painter->drawPixmap(opt.rect.topLeft(), slot.back().image);
   return true;
 }
 
-void ItemTextDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
-                             const QModelIndex& index) const {
-  QStyleOptionViewItem opt = option;
-  initStyleOption(&opt, index);
-  const QWidget* widget = opt.widget;
-  QStyle* style = widget != nullptr ? widget->style() : QApplication::style();
-  const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, widget) + 1;
-  const QRect textRect = opt.rect.adjusted(margin, 0, -margin, 0);
-  // The style wraps the texts of a view that wraps them, and elides a text too long for its
-  // cell as the view's elide mode says; only the texts drawn here are laid out here.
-  const bool wrapped = !opt.icon.isNull() || (opt.features & QStyleOptionViewItem::WrapText) != 0;
-  const QStaticText* text = wrapped ? nullptr : &laidOut(opt.text, opt.font);
-  const bool styled = text == nullptr || text->size().width() > textRect.width();
-  if (styled && paintKept(painter, option, index, opt)) return;
+void ItemTextDelegate::drawItem(QPainter* painter, const QStyleOptionViewItem& option,
+                                const QModelIndex& index, QStyleOptionViewItem& opt,
+                                const QStaticText* text) const {
   if (m_gridLines) drawGridLines(painter, opt, opt.rect);
-  if (styled) {
+  if (text == nullptr) {
     QStyledItemDelegate::paint(painter, option, index);
     return;
   }
+  const QWidget* widget = opt.widget;
+  QStyle* style = widget != nullptr ? widget->style() : QApplication::style();
   // The selection, a cell's own background and the focus frame as the style draws them; a plain
   // item has none of them (the view has drawn the row's background).
   if ((opt.state & (QStyle::State_Selected | QStyle::State_HasFocus)) ||
@@ -187,14 +188,31 @@ void ItemTextDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
                                                                            : QPalette::Normal;
   const QPalette::ColorRole role =
       (opt.state & QStyle::State_Selected) ? QPalette::HighlightedText : QPalette::Text;
-  const QSizeF size = text->size();
+  const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, widget) + 1;
+  const QRect textRect = opt.rect.adjusted(margin, 0, -margin, 0);
   const QRect placed =
-      QStyle::alignedRect(opt.direction, opt.displayAlignment, size.toSize(), textRect);
+      QStyle::alignedRect(opt.direction, opt.displayAlignment, text->size().toSize(), textRect);
   painter->save();
   painter->setPen(opt.palette.color(group, role));
   painter->setFont(opt.font);
   painter->drawStaticText(placed.topLeft(), *text);
   painter->restore();
+}
+
+void ItemTextDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                             const QModelIndex& index) const {
+  QStyleOptionViewItem opt = option;
+  initStyleOption(&opt, index);
+  const QWidget* widget = opt.widget;
+  const QStyle* style = widget != nullptr ? widget->style() : QApplication::style();
+  const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, widget) + 1;
+  // The style wraps the texts of a view that wraps them, and elides a text too long for its
+  // cell as the view's elide mode says; the other texts are drawn here from their kept layouts.
+  const bool wrapped = !opt.icon.isNull() || (opt.features & QStyleOptionViewItem::WrapText) != 0;
+  const QStaticText* text = wrapped ? nullptr : &laidOut(opt.text, opt.font);
+  if (text != nullptr && text->size().width() > opt.rect.width() - 2 * margin) text = nullptr;
+  if (paintKept(painter, option, index, opt, text)) return;
+  drawItem(painter, option, index, opt, text);
 }
 
 }  // namespace tnw::tradeoffs

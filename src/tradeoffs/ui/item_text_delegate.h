@@ -54,10 +54,10 @@ class KeptSizeDelegate : public QStyledItemDelegate {
 // Paints the items of the trade-off dialog's lists and grids as the style does, but keeps each
 // text laid out once (a QStaticText) instead of laying it out again at every paint: with 31
 // attributes the lists and grids are repainted on most user actions, and the layout of their
-// texts was most of that time. A plain item (not selected, without focus) is not handed to the
-// style at all. A text the style must elide or wrap is painted by the style once, on the view's
-// background, into a kept image that later paints copy; a selected or focused one is left to the
-// style each time. For a grid the delegate draws the grid lines too, as filled edges of each
+// texts was most of that time. A text the style must elide or wrap is left to the style. A plain
+// item (not selected, without focus, on the view's plain background) is drawn once into a kept
+// image, which later paints copy: a tab shown again copies its grid's cells instead of drawing
+// their glyphs anew. For a grid the delegate draws the grid lines too, as filled edges of each
 // cell, which costs less than the view's own lines (the grid turns those off).
 class ItemTextDelegate : public KeptSizeDelegate {
   Q_OBJECT
@@ -74,7 +74,7 @@ class ItemTextDelegate : public KeptSizeDelegate {
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override;
 
-  // How many times the style painted an item into a kept image (for tests).
+  // How many times an item was drawn into a kept image (for tests).
   int imagesPainted() const { return m_imagesPainted; }
 
  private:
@@ -97,15 +97,20 @@ class ItemTextDelegate : public KeptSizeDelegate {
   const QStaticText& laidOut(const QString& text, const QFont& font) const;
   // Draws the right and bottom grid lines of a cell at `rect`.
   void drawGridLines(QPainter* painter, const QStyleOptionViewItem& opt, const QRect& rect) const;
-  // Paints the item from a kept image of the style's painting; false when the item cannot be
-  // kept (selected, focused, with a background or an icon of its own, or a painter that scales).
+  // Paints the item from a kept image of its drawing; false when the item cannot be kept
+  // (selected, focused, with a background or an icon of its own, or a painter that scales).
   bool paintKept(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index,
-                 const QStyleOptionViewItem& opt) const;
+                 const QStyleOptionViewItem& opt, const QStaticText* text) const;
+  // Draws the item: its grid lines, then its text from the kept layout `text`, or by the style
+  // (which wraps or elides it) when there is none.
+  void drawItem(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index,
+                QStyleOptionViewItem& opt, const QStaticText* text) const;
 
   mutable QHash<QString, QStaticText> m_texts;
   mutable QFont m_font;
   mutable QHash<QString, std::vector<KeptImage>> m_images;
   mutable int m_imagesPainted = 0;
+  mutable int m_imageCount = 0;
   bool m_gridLines = false;
 };
 
