@@ -24,6 +24,31 @@ constexpr int kMostImages = 2048;
 
 KeptSizeDelegate::KeptSizeDelegate(QObject* parent) : QStyledItemDelegate(parent) {}
 
+KeptSizeDelegate::ItemLook KeptSizeDelegate::ItemLook::of(const QStyleOptionViewItem& opt) {
+  ItemLook look;
+  look.font = opt.font;
+  look.size = opt.rect.size();
+  look.features = static_cast<int>(opt.features);
+  look.alignment = static_cast<int>(opt.displayAlignment);
+  look.state = static_cast<int>(opt.state);
+  look.decorationSize = opt.decorationSize;
+  look.decorationPosition = static_cast<int>(opt.decorationPosition);
+  look.elideMode = static_cast<int>(opt.textElideMode);
+  look.direction = static_cast<int>(opt.direction);
+  look.palette = opt.palette.cacheKey();
+  look.base = opt.palette.color(QPalette::Base).rgba();
+  look.style = opt.widget != nullptr ? opt.widget->style() : QApplication::style();
+  return look;
+}
+
+bool KeptSizeDelegate::ItemLook::operator==(const ItemLook& other) const {
+  return size == other.size && features == other.features && alignment == other.alignment &&
+         state == other.state && decorationSize == other.decorationSize &&
+         decorationPosition == other.decorationPosition && elideMode == other.elideMode &&
+         direction == other.direction && palette == other.palette && base == other.base &&
+         style == other.style && font == other.font;
+}
+
 QSize KeptSizeDelegate::sizeHint(const QStyleOptionViewItem& option,
                                  const QModelIndex& index) const {
   QStyleOptionViewItem opt = option;
@@ -34,27 +59,11 @@ QSize KeptSizeDelegate::sizeHint(const QStyleOptionViewItem& option,
     ++m_measured;
     return QStyledItemDelegate::sizeHint(option, index);
   }
-  const QWidget* widget = opt.widget;
-  Kept key;
-  key.font = opt.font;
-  key.rect = opt.rect.size();
-  key.features = static_cast<int>(opt.features);
-  key.alignment = static_cast<int>(opt.displayAlignment);
-  key.state = static_cast<int>(opt.state);
-  key.decorationSize = opt.decorationSize;
-  key.decorationPosition = static_cast<int>(opt.decorationPosition);
-  key.elideMode = static_cast<int>(opt.textElideMode);
-  key.direction = static_cast<int>(opt.direction);
-  key.style = widget != nullptr ? widget->style() : QApplication::style();
   if (m_sizes.size() > kMostTexts) m_sizes.clear();
+  Kept key{ItemLook::of(opt), {}};
   std::vector<Kept>& kept = m_sizes[opt.text];
   for (const Kept& k : kept) {
-    if (k.rect == key.rect && k.features == key.features && k.alignment == key.alignment &&
-        k.state == key.state && k.decorationSize == key.decorationSize &&
-        k.decorationPosition == key.decorationPosition && k.elideMode == key.elideMode &&
-        k.direction == key.direction && k.style == key.style && k.font == key.font) {
-      return k.size;
-    }
+    if (k.look == key.look) return k.size;
   }
   ++m_measured;
   key.size = QStyledItemDelegate::sizeHint(option, index);
@@ -117,25 +126,10 @@ bool ItemTextDelegate::paintKept(QPainter* painter, const QStyleOptionViewItem& 
       transform.dy() != std::round(transform.dy()) || opt.rect.isEmpty()) {
     return false;
   }
-  const QWidget* widget = opt.widget;
-  KeptImage key;
-  key.font = opt.font;
-  key.size = opt.rect.size();
-  key.palette = opt.palette.cacheKey();
-  key.base = opt.palette.color(QPalette::Base).rgba();
-  key.state = static_cast<int>(opt.state);
-  key.features = static_cast<int>(opt.features);
-  key.alignment = static_cast<int>(opt.displayAlignment);
-  key.elideMode = static_cast<int>(opt.textElideMode);
-  key.direction = static_cast<int>(opt.direction);
-  key.pixelRatio = painter->device()->devicePixelRatioF();
-  key.style = widget != nullptr ? widget->style() : QApplication::style();
+  KeptImage key{ItemLook::of(opt), painter->device()->devicePixelRatioF(), {}};
   std::vector<KeptImage>& kept = m_images[opt.text];
   for (const KeptImage& k : kept) {
-    if (k.size == key.size && k.palette == key.palette && k.base == key.base &&
-        k.state == key.state && k.features == key.features && k.alignment == key.alignment &&
-        k.elideMode == key.elideMode && k.direction == key.direction &&
-        k.pixelRatio == key.pixelRatio && k.style == key.style && k.font == key.font) {
+    if (k.pixelRatio == key.pixelRatio && k.look == key.look) {
       painter->drawPixmap(opt.rect.topLeft(), k.image);
       return true;
     }
@@ -149,7 +143,7 @@ bool ItemTextDelegate::paintKept(QPainter* painter, const QStyleOptionViewItem& 
   const QRect at(QPoint(0, 0), opt.rect.size());
   key.image = QPixmap(at.size() * key.pixelRatio);
   key.image.setDevicePixelRatio(key.pixelRatio);
-  key.image.fill(QColor::fromRgba(key.base));
+  key.image.fill(QColor::fromRgba(key.look.base));
   {
     QPainter p(&key.image);
     QStyleOptionViewItem movedOption = option;

@@ -31,11 +31,12 @@ class KeptSizeDelegate : public QStyledItemDelegate {
   // How many times the style was asked (for tests).
   int measured() const { return m_measured; }
 
- private:
-  // One answer and what it was given for (besides the text, the cache's key).
-  struct Kept {
+ protected:
+  // What the style measures and draws an item from, besides its text: items of the same text and
+  // look measure and paint alike.
+  struct ItemLook {
     QFont font;
-    QSize rect;
+    QSize size;
     int features = 0;
     int alignment = 0;
     int state = 0;
@@ -43,7 +44,19 @@ class KeptSizeDelegate : public QStyledItemDelegate {
     int decorationPosition = 0;
     int elideMode = 0;
     int direction = 0;
+    qint64 palette = 0;
+    QRgb base = 0;
     const void* style = nullptr;
+
+    // The look of the item `opt` describes (its size is its rectangle's).
+    static ItemLook of(const QStyleOptionViewItem& opt);
+    bool operator==(const ItemLook& other) const;
+  };
+
+ private:
+  // One answer and the look it was given for (the text is the cache's key).
+  struct Kept {
+    ItemLook look;
     QSize size;
   };
 
@@ -78,19 +91,10 @@ class ItemTextDelegate : public KeptSizeDelegate {
   int imagesPainted() const { return m_imagesPainted; }
 
  private:
-  // One kept image and what it was painted for (besides the text, the cache's key).
+  // One kept image and the look and resolution it was drawn for (the text is the cache's key).
   struct KeptImage {
-    QFont font;
-    QSize size;
-    qint64 palette = 0;
-    QRgb base = 0;
-    int state = 0;
-    int features = 0;
-    int alignment = 0;
-    int elideMode = 0;
-    int direction = 0;
+    ItemLook look;
     qreal pixelRatio = 1.0;
-    const void* style = nullptr;
     QPixmap image;
   };
 
