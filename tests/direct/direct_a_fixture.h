@@ -31,16 +31,16 @@ class DirectAPresenterTest : public ::testing::Test {
     while (presenter->ordering().order().GroupCount() < g) presenter->cmdAdd_Click();
     presenter->picOrder_DragDrop(g, "A" + std::to_string(j));
   }
-  // Four attributes ordered {1, 2, 2, 3} (attributes 1 and 2 tied), reference attribute 1, on
-  // the judgment step; the fixture must hold four attributes.
-  DirectAPresenter& toTiedJudgments() {
+  // Four attributes ordered {1, 2, 2, 3} (attributes 1 and 2 tied), reference attribute `ref`
+  // (1 unless given), on the judgment step; the fixture must hold four attributes.
+  DirectAPresenter& toTiedJudgments(int ref = 1) {
     DirectAPresenter& p = load();
     place(0, 1);
     place(1, 2);
     place(2, 2);
     place(3, 3);
     p.cmdNext_Click();
-    p.cmdAttButtons_Click(1);
+    p.cmdAttButtons_Click(ref);
     p.cmdNext_Click();
     return p;
   }

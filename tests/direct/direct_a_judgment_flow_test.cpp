@@ -11,14 +11,7 @@ class JudgmentFlowTest : public DirectAPresenterTest {
  protected:
   JudgmentFlowTest() : DirectAPresenterTest(4) {}
   DirectAPresenter& toJudgments(int ref = 1) {
-    DirectAPresenter& p = load();
-    place(0, 1);
-    place(1, 2);
-    place(2, 2);
-    place(3, 3);
-    p.cmdNext_Click();
-    p.cmdAttButtons_Click(ref);
-    p.cmdNext_Click();
+    DirectAPresenter& p = toTiedJudgments(ref);
     ui.clearMessages();
     return p;
   }
