@@ -127,11 +127,13 @@ bool ItemTextDelegate::paintKept(QPainter* painter, const QStyleOptionViewItem& 
     return false;
   }
   KeptImage key{ItemLook::of(opt), painter->device()->devicePixelRatioF(), {}};
-  std::vector<KeptImage>& kept = m_images[opt.text];
-  for (const KeptImage& k : kept) {
-    if (k.pixelRatio == key.pixelRatio && k.look == key.look) {
-      painter->drawPixmap(opt.rect.topLeft(), k.image);
-      return true;
+  const auto found = m_images.constFind(opt.text);
+  if (found != m_images.cend()) {
+    for (const KeptImage& k : *found) {
+      if (k.pixelRatio == key.pixelRatio && k.look == key.look) {
+        painter->drawPixmap(opt.rect.topLeft(), k.image);
+        return true;
+      }
     }
   }
   if (m_imageCount >= kMostImages) {
@@ -154,9 +156,9 @@ bool ItemTextDelegate::paintKept(QPainter* painter, const QStyleOptionViewItem& 
   }
   ++m_imagesPainted;
   ++m_imageCount;
-  std::vector<KeptImage>& slot = m_images[opt.text];
-  slot.push_back(std::move(key));
-  painter->drawPixmap(opt.rect.topLeft(), slot.back().image);
+  std::vector<KeptImage>& kept = m_images[opt.text];
+  kept.push_back(std::move(key));
+  painter->drawPixmap(opt.rect.topLeft(), kept.back().image);
   return true;
 }
 
