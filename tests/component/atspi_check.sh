@@ -36,12 +36,11 @@ wait "$pid" || status=$?
 pid=$!
 window 'Tarnel Wizard'
 key Down alt+n
-sleep 1
-window 'Tarnel Wizard'
+# The trade-off dialog has the selection dialog's title.
+newWindow 'Tarnel Wizard'
 /usr/bin/python3 "$4" panel >"$2/panel.txt"
 for _ in $(seq 30); do KEY_DELAY=0.05 key alt+e; done
 key alt+n
-sleep 0.7
 /usr/bin/python3 "$4" chart >"$2/chart.txt"
 key alt+f
 wait "$pid"

@@ -76,7 +76,13 @@ def main():
         if box is not None:
             print("box:", box.name)
     elif what == "chart":
-        chart = named(app, lambda n: n == "Attribute Weights and Their Ranges")
+        # The chart is read once the results page is shown, which may take a moment.
+        chart = None
+        for _ in range(50):
+            chart = named(app, lambda n: n == "Attribute Weights and Their Ranges")
+            if chart is not None and chart.getState().contains(pyatspi.STATE_SHOWING):
+                break
+            time.sleep(0.2)
         if chart is not None:
             table = chart.queryTable()
             print("chart:", chart.name, table.nRows, "x", table.nColumns)

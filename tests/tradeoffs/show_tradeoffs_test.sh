@@ -15,13 +15,12 @@ pid=$!
 source "$3"
 window 'Tarnel Wizard'
 key Down alt+n
-# The trade-off dialog has the selection dialog's title: give the change a moment.
-sleep 1
-window 'Tarnel Wizard'
+# The trade-off dialog has the selection dialog's title.
+newWindow 'Tarnel Wizard'
 for _ in $(seq 30); do KEY_DELAY=0.05 key alt+e; done
 key alt+n
-sleep 0.7
-key alt+f
+# Finish is disabled until the results are shown.
+untilEnded alt+f
 wait "$pid"
 DRIVE
 timeout 80 xvfb-run -a -s "-screen 0 1280x1024x24" bash "$out/drive.sh" "$tnwizard" "$out" \
