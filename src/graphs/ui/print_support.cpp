@@ -3,9 +3,6 @@
 #ifdef TNW_PRINT_MODULE
 // POSIX
 #include <dlfcn.h>
-
-// Std
-#include <string>
 #endif
 
 namespace tnw {
@@ -13,6 +10,11 @@ namespace tnw {
 #ifdef TNW_PRINT_MODULE
 
 namespace {
+
+std::string& moduleFile() {
+  static std::string file = TNW_PRINT_MODULE;
+  return file;
+}
 
 // The module once loaded, or why it could not be.
 struct LoadedModule {
@@ -36,7 +38,7 @@ std::string ownFolder() {
 // the dynamic loader looks (the program's RUNPATH, LD_LIBRARY_PATH). It stays loaded: the dialogs
 // and printers it makes use its code until the process ends.
 LoadedModule loadModule() {
-  const char* file = TNW_PRINT_MODULE;
+  const char* file = moduleFile().c_str();
   void* handle = nullptr;
   const std::string folder = ownFolder();
   if (!folder.empty()) handle = dlopen((folder + file).c_str(), RTLD_NOW | RTLD_LOCAL);
@@ -59,9 +61,13 @@ const PrintSupportFunctions* printSupport(QString* error) {
   return loaded.functions;
 }
 
+void setPrintModuleFile(const std::string& file) { moduleFile() = file; }
+
 #else
 
 const PrintSupportFunctions* printSupport(QString*) { return tnw_print_support(); }
+
+void setPrintModuleFile(const std::string&) {}
 
 #endif
 

@@ -8,6 +8,7 @@
 
 // Std
 #include <functional>
+#include <string>
 
 class QPagedPaintDevice;
 class QWidget;
@@ -32,6 +33,11 @@ struct PrintSupportFunctions {
 // The printing and SVG functions, loading their module on the first call where there is one.
 // Null when the module cannot be loaded, with the reason in *error (when error is not null).
 const PrintSupportFunctions* printSupport(QString* error = nullptr);
+
+// For tests: the file name of the module to load instead of the built one. It counts only
+// before the first call of printSupport; where printing is linked in there is nothing to load
+// and it does nothing.
+void setPrintModuleFile(const std::string& file);
 
 }  // namespace tnw
 
