@@ -87,16 +87,28 @@ class KeptTextLabelTest : public QObject {
     QCOMPARE(kept.laidOut(), 1);
   }
 
+  // A mnemonic is underlined, or its '&' is shown as it is without a buddy, as QLabel does.
+  void mnemonicsArePaintedAsQLabel() {
+    QLineEdit buddy;
+    for (const QString& text : {QStringLiteral("The fi&rst:"), QStringLiteral("(&1):"),
+                                QStringLiteral("Save && &Load"), QStringLiteral("End&")}) {
+      for (const bool withBuddy : {true, false}) {
+        QLabel stock(text);
+        KeptTextLabel kept(text);
+        for (QLabel* l : {&stock, static_cast<QLabel*>(&kept)}) {
+          if (withBuddy) l->setBuddy(&buddy);
+          l->resize(110, 22);
+        }
+        QVERIFY(kept.paintsKept());
+        QCOMPARE(painted(kept), painted(stock));
+      }
+    }
+  }
+
   // What a kept layout does not cover is painted by QLabel itself, and looks the same.
   void otherLabelsArePaintedByQLabel() {
-    QLineEdit buddy;
-    const QString mnemonic = QStringLiteral("The fi&rst:");
     const QString rich = QStringLiteral("<b>Bold</b> and plain");
     const std::function<void(QLabel&)> setUps[] = {
-        [&](QLabel& l) {
-          l.setText(mnemonic);
-          l.setBuddy(&buddy);
-        },
         [&](QLabel& l) { l.setText(rich); },
         [&](QLabel& l) {
           l.setText(QStringLiteral("Selectable"));

@@ -27,14 +27,40 @@ bool KeptText::canKeep(const QString& text, int flags, const QFont& font) {
   if ((flags & kUnkeptFlags) != 0) return false;
   if (font.underline() || font.strikeOut() || font.overline()) return false;
   if (text.isRightToLeft()) return false;
+#ifdef Q_OS_MACOS
+  // drawText drops a whole "(&x)" there when it hides mnemonics.
+  if ((flags & Qt::TextHideMnemonic) != 0 && text.contains(u'&')) return false;
+#endif
   for (const QChar c : text) {
-    // Mnemonics, tabs, line breaks and length variants are drawText's own processing.
-    if (c == u'&' || c == u'\t' || c == u'\r' || c == u'\n' || c == QChar(0x9c) ||
-        c == QChar::LineSeparator || c == QChar::ParagraphSeparator) {
+    // Tabs, line breaks and length variants are drawText's own processing.
+    if (c == u'\t' || c == u'\r' || c == u'\n' || c == QChar(0x9c) || c == QChar::LineSeparator ||
+        c == QChar::ParagraphSeparator) {
       return false;
     }
   }
   return true;
+}
+
+QString KeptText::withoutMnemonics(const QString& text, bool hide,
+                                   QList<QTextLayout::FormatRange>& underlines) {
+  // As drawText: each '&' goes, the character after a single one is underlined unless
+  // mnemonics are hidden, and "&&" leaves one '&'.
+  QString shown;
+  shown.reserve(text.size());
+  for (qsizetype i = 0; i < text.size(); ++i) {
+    if (text.at(i) == u'&') {
+      if (++i == text.size()) break;
+      if (text.at(i) != u'&' && !hide) {
+        QTextLayout::FormatRange range;
+        range.start = static_cast<int>(shown.size());
+        range.length = 1;
+        range.format.setFontUnderline(true);
+        underlines.append(range);
+      }
+    }
+    shown.append(text.at(i));
+  }
+  return shown;
 }
 
 bool KeptText::drawsPlainItemText(const QStyle* style) {
@@ -50,8 +76,14 @@ void KeptText::layOut(const QString& text, const QFont& font, int flags, QSizeF 
   m_flags = flags;
   m_size = size;
   m_valid = true;
-  m_layout.setText(text);
+  QString shown = text;
+  QList<QTextLayout::FormatRange> underlines;
+  if ((flags & (Qt::TextShowMnemonic | Qt::TextHideMnemonic)) != 0) {
+    shown = withoutMnemonics(text, (flags & Qt::TextHideMnemonic) != 0, underlines);
+  }
+  m_layout.setText(shown);
   m_layout.setFont(font);
+  m_layout.setFormats(underlines);
   QTextOption option;
   option.setTextDirection(Qt::LeftToRight);
   option.setAlignment(Qt::AlignLeft);

@@ -18,9 +18,9 @@ namespace tnw {
 // so the pixels are the same.
 class KeptText {
  public:
-  // Whether text drawn with flags in font can be kept: a left-to-right text without mnemonics,
-  // tabs, line breaks or length variants, in a font without lines through or under it, neither
-  // justified nor wrapped anywhere.
+  // Whether text drawn with flags in font can be kept: a left-to-right text without tabs, line
+  // breaks or length variants, in a font without lines through or under it, neither justified
+  // nor wrapped anywhere. Mnemonics are shown or hidden as drawText does.
   static bool canKeep(const QString& text, int flags, const QFont& font);
   // Whether style draws an item's text as it comes, with the palette's brush for the role and
   // nothing else: then drawing a kept text in its place is drawing what the style draws.
@@ -36,6 +36,8 @@ class KeptText {
 
  private:
   void layOut(const QString& text, const QFont& font, int flags, QSizeF size);
+  static QString withoutMnemonics(const QString& text, bool hide,
+                                  QList<QTextLayout::FormatRange>& underlines);
 
   QTextLayout m_layout;
   QString m_text;

@@ -14,8 +14,17 @@ KeptTextLabel::KeptTextLabel(QWidget* parent) : QLabel(parent) {}
 
 int KeptTextLabel::textFlags() const {
   // QLabel keeps the word wrap among its alignment flags and draws with the text's direction.
-  return static_cast<int>(QStyle::visualAlignment(Qt::LeftToRight, alignment())) |
-         (wordWrap() ? Qt::TextWordWrap : 0) | Qt::TextForceLeftToRight;
+  int flags = static_cast<int>(QStyle::visualAlignment(Qt::LeftToRight, alignment())) |
+              (wordWrap() ? Qt::TextWordWrap : 0) | Qt::TextForceLeftToRight;
+  // A label with a buddy shows its mnemonic as QLabel does.
+  if (buddy() != nullptr && text().contains(u'&')) {
+    flags |= Qt::TextShowMnemonic;
+    QStyleOption option;
+    option.initFrom(this);
+    if (style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this) == 0)
+      flags |= Qt::TextHideMnemonic;
+  }
+  return flags;
 }
 
 bool KeptTextLabel::paintsKept() const {

@@ -278,7 +278,7 @@ QWidget* TradeOffsJudgmentWidget::buildScores() {
     edit->setAlignment(Qt::AlignRight);
     edit->setMinimumWidth(boxWidth);
     edit->setMaximumWidth(boxWidth * 3 / 2);
-    auto* caption = new QLabel(QString::fromLatin1(kScoreBoxCaptions[b]), panel);
+    auto* caption = new KeptTextLabel(QString::fromLatin1(kScoreBoxCaptions[b]), panel);
     caption->setObjectName(QStringLiteral("lblScore%1").arg(b + 1));
     caption->setBuddy(edit);
     m_c.scoreBox[b] = edit;
