@@ -31,7 +31,12 @@ void ElidedLabelWidget::updateToolTip() {
 }
 
 QString ElidedLabelWidget::shownText() const {
-  return fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
+  const QString full = text();
+  const int width = contentsRect().width();
+  if (width != m_shortened.width || full != m_shortened.text || font() != m_shortened.font) {
+    m_shortened = {full, font(), width, fontMetrics().elidedText(full, Qt::ElideRight, width)};
+  }
+  return m_shortened.shown;
 }
 
 QSize ElidedLabelWidget::minimumSizeHint() const { return sizeHint(); }
@@ -49,8 +54,14 @@ void ElidedLabelWidget::paintEvent(QPaintEvent*) {
   QPainter p(this);
   const QRect r = contentsRect();
   const QString shown = shownText();
-  style()->drawItemText(&p, r, static_cast<int>(alignment()), palette(), isEnabled(), shown,
-                        foregroundRole());
+  const int flags = static_cast<int>(alignment());
+  if (shown.isEmpty() || !KeptText::drawsPlainItemText(style())) {
+    style()->drawItemText(&p, r, flags, palette(), isEnabled(), shown, foregroundRole());
+    return;
+  }
+  // The style's drawItemText, with the text drawn from its kept layout.
+  p.setPen(QPen(palette().brush(foregroundRole()), p.pen().widthF()));
+  m_kept.draw(p, r, flags, shown);
 }
 
 }  // namespace tnw

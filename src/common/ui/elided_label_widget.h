@@ -1,12 +1,16 @@
 #pragma once
 
+#include "common/ui/kept_text.h"
+
 // Qt
 #include <QLabel>
 
 namespace tnw {
 
 // A one-line label that shortens its text with an ellipsis when it is narrower than the text
-// (an attribute's name can be long); the whole text stays available as text() and tooltip.
+// (an attribute's name can be long); the whole text stays available as text() and tooltip. The
+// shortened text and its layout are kept between paints, made again when the text, the font or
+// the width changes.
 class ElidedLabelWidget : public QLabel {
   Q_OBJECT
 
@@ -33,6 +37,15 @@ class ElidedLabelWidget : public QLabel {
   void updateToolTip();
 
   QString m_heading;
+  // The text last shortened, for the font and width it was shortened for, and what it became.
+  struct Shortened {
+    QString text;
+    QFont font;
+    int width = -1;
+    QString shown;
+  };
+  mutable Shortened m_shortened;
+  KeptText m_kept;
 };
 
 }  // namespace tnw

@@ -10,11 +10,11 @@ constexpr std::size_t kMostWidths = 8;
 
 }  // namespace
 
-WrappedLabel::WrappedLabel(const QString& text, QWidget* parent) : QLabel(text, parent) {
+WrappedLabel::WrappedLabel(const QString& text, QWidget* parent) : KeptTextLabel(text, parent) {
   setWordWrap(true);
 }
 
-WrappedLabel::WrappedLabel(QWidget* parent) : QLabel(parent) { setWordWrap(true); }
+WrappedLabel::WrappedLabel(QWidget* parent) : KeptTextLabel(parent) { setWordWrap(true); }
 
 bool WrappedLabel::Shape::operator==(const Shape& other) const {
   return wrapped == other.wrapped && frameWidth == other.frameWidth && margin == other.margin &&

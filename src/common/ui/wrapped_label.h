@@ -1,8 +1,9 @@
 #pragma once
 
+#include "common/ui/kept_text_label.h"
+
 // Qt
 #include <QFont>
-#include <QLabel>
 #include <QMargins>
 #include <QString>
 
@@ -16,8 +17,9 @@ namespace tnw {
 // width. Layouts ask a wrapped label for its height at a width many times whenever a page is
 // shown or laid out again, and QLabel lays its text out anew for every question; this one lays it
 // out once per width until something that shapes the text changes (the text, the font, the
-// margins, the frame, the indent, the alignment or the format).
-class WrappedLabel : public QLabel {
+// margins, the frame, the indent, the alignment or the format). Its text's layout is kept between
+// paints as well (KeptTextLabel).
+class WrappedLabel : public KeptTextLabel {
   Q_OBJECT
 
  public:

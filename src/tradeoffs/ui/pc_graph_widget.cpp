@@ -93,6 +93,10 @@ void PcGraphWidget::dragPointTo(PcPointWidget* shape, QPointF widgetPos, bool fi
   emit pointDragged(which, fraction, final);
 }
 
+bool PcGraphWidget::GridColours::operator==(const GridColours& other) const {
+  return background == other.background && grid == other.grid && axes == other.axes;
+}
+
 void PcGraphWidget::changeEvent(QEvent* event) {
   if (event->type() == QEvent::PaletteChange) m_grid = QPixmap();
   QFrame::changeEvent(event);
@@ -102,12 +106,27 @@ void PcGraphWidget::paintEvent(QPaintEvent* event) {
   QFrame::paintEvent(event);
   const QRectF r = plotRect();
   const qreal ratio = devicePixelRatioF();
-  if (m_grid.isNull() || m_grid.size() != size() * ratio || m_grid.devicePixelRatio() != ratio) {
+  // The colours of the palette's current group, which follows the enabled and active states.
+  const GridColours colours{palette().brush(backgroundRole()), palette().color(QPalette::Mid),
+                            palette().color(QPalette::WindowText)};
+  if (m_grid.isNull() || m_grid.size() != size() * ratio || m_grid.devicePixelRatio() != ratio ||
+      !(colours == m_gridColours)) {
+    m_gridColours = colours;
+    // The grid is drawn once over the background, so that a paint copies it as an opaque
+    // picture instead of blending a transparent one; its lines are not antialiased, so the pixels
+    // are the same either way.
     m_grid = QPixmap(size() * ratio);
     m_grid.setDevicePixelRatio(ratio);
-    m_grid.fill(Qt::transparent);
     QPainter g(&m_grid);
-    QPen dotted(palette().color(QPalette::Mid), 1, Qt::DotLine);
+    if (colours.background.isOpaque()) {
+      g.fillRect(rect(), colours.background);
+    } else {
+      // A see-through background is the widget's own fill; the grid goes over it.
+      g.setCompositionMode(QPainter::CompositionMode_Source);
+      g.fillRect(rect(), Qt::transparent);
+      g.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    }
+    QPen dotted(colours.grid, 1, Qt::DotLine);
     g.setPen(dotted);
     for (int i = 1; i < 4; ++i) {
       const double x = r.left() + r.width() * i / 4.0;
@@ -115,17 +134,20 @@ void PcGraphWidget::paintEvent(QPaintEvent* event) {
       g.drawLine(QPointF(x, r.top()), QPointF(x, r.bottom()));
       g.drawLine(QPointF(r.left(), y), QPointF(r.right(), y));
     }
-    g.setPen(QPen(palette().color(QPalette::WindowText), 1.5));
+    g.setPen(QPen(colours.axes, 1.5));
     g.drawLine(r.bottomLeft(), r.topLeft());
     g.drawLine(r.bottomLeft(), r.bottomRight());
   }
   QPainter p(this);
-  p.drawPixmap(0, 0, m_grid);
+  // Inside the frame only: the frame is the style's.
+  const QRect inside = contentsRect();
+  p.drawPixmap(inside, m_grid,
+               QRectF(QPointF(inside.topLeft()) * ratio, QSizeF(inside.size()) * ratio));
   // The projections of A and B onto the axes make the two score differences visible.
-  const QColor colours[2] = {QColor(0, 0, 160), QColor(176, 0, 0)};
+  const QColor pointColours[2] = {QColor(0, 0, 160), QColor(176, 0, 0)};
   for (int i = 0; i < 2; ++i) {
     const QPointF c = toWidget(m_fractions[i]);
-    p.setPen(QPen(colours[i], 1, Qt::DashLine));
+    p.setPen(QPen(pointColours[i], 1, Qt::DashLine));
     p.drawLine(c, QPointF(c.x(), r.bottom()));
     p.drawLine(c, QPointF(r.left(), c.y()));
   }

@@ -1,6 +1,8 @@
 #pragma once
 
 // Qt
+#include <QBrush>
+#include <QColor>
 #include <QCursor>
 #include <QFrame>
 #include <QPixmap>
@@ -60,9 +62,19 @@ class PcGraphWidget : public QFrame {
 
   PcPointWidget* m_points[2];
   QPointF m_fractions[2];
-  // The grid and the axes as last drawn: a drag repaints the panel at every step, and only the
-  // projections of A and B move.
+  // What the kept grid was drawn with.
+  struct GridColours {
+    QBrush background;
+    QColor grid;
+    QColor axes;
+
+    bool operator==(const GridColours& other) const;
+  };
+
+  // The background, the grid and the axes as last drawn: a drag repaints the panel at every
+  // step, and only the projections of A and B move.
   QPixmap m_grid;
+  GridColours m_gridColours;
 };
 
 }  // namespace tnw::tradeoffs

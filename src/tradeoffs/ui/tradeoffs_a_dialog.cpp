@@ -263,10 +263,14 @@ void TradeOffsADialog::render() {
   const TradeOffsAPresenter& p = *m_presenter;
   const QString instruction = QString::fromStdString(p.lblInstruction().caption);
   if (m_instruction->text() != instruction) m_instruction->setText(instruction);
-  m_instruction->setVisible(p.step() == TradeOffsAPresenter::kJudgmentStep);
   QWidget* page =
       p.step() == TradeOffsAPresenter::kResultsStep ? static_cast<QWidget*>(m_results) : m_judgment;
-  if (m_pages->currentWidget() != page) m_pages->setCurrentWidget(page);
+  const bool turning = m_pages->currentWidget() != page;
+  // The page left goes first: showing the instruction lays the dialog out at once, and a page
+  // still shown would be laid out again for a height it is no longer shown at.
+  if (turning) m_pages->currentWidget()->hide();
+  m_instruction->setVisible(p.step() == TradeOffsAPresenter::kJudgmentStep);
+  if (turning) m_pages->setCurrentWidget(page);
   renderButton(m_cmdBack, p.cmdBack());
   renderButton(m_cmdNext, p.cmdNext());
   renderButton(m_cmdFinish, p.cmdFinish());

@@ -1,6 +1,7 @@
 #include "tradeoffs/ui/tradeoffs_judgment_widget.h"
 
 #include "common/ui/elided_label_widget.h"
+#include "common/ui/kept_text_label.h"
 #include "tradeoffs/core/judgment_controls.h"
 #include "tradeoffs/ui/item_text_delegate.h"
 #include "tradeoffs/ui/pc_graph_widget.h"
@@ -55,7 +56,7 @@ QIcon arrowIcon(bool up, const QPalette& palette) {
 }
 
 QLabel* namedLabel(const char* name, const QString& text, QWidget* parent) {
-  auto* label = new QLabel(text, parent);
+  auto* label = new KeptTextLabel(text, parent);
   label->setObjectName(QString::fromLatin1(name));
   return label;
 }
@@ -277,7 +278,7 @@ QWidget* TradeOffsJudgmentWidget::buildScores() {
     edit->setAlignment(Qt::AlignRight);
     edit->setMinimumWidth(boxWidth);
     edit->setMaximumWidth(boxWidth * 3 / 2);
-    auto* caption = new QLabel(QString::fromLatin1(kScoreBoxCaptions[b]), panel);
+    auto* caption = new KeptTextLabel(QString::fromLatin1(kScoreBoxCaptions[b]), panel);
     caption->setObjectName(QStringLiteral("lblScore%1").arg(b + 1));
     caption->setBuddy(edit);
     m_c.scoreBox[b] = edit;
