@@ -55,6 +55,37 @@ void compareWithDrawText(QColor background, bool under,
   QCOMPARE(turnedNames(crowdedNames(), background, under, after), reference);
 }
 
+// What decides how the item names are laid out: the names, the picture's width and resolution,
+// the painter's font size and the room under the row.
+struct ItemSetting {
+  // The names: "Attribute 1" and so on, numbers only, or "Other 1" and so on.
+  std::string prefix = "Attribute ";
+  int width = 620;
+  int dpi = 96;
+  double points = 9.0;
+  double room = 27.0;
+};
+
+// How a new surface lays the names out in a setting: the names' font size, whether they are
+// turned, and the widths of the first and last names.
+std::vector<double> itemLayout(const ItemSetting& setting) {
+  std::vector<std::string> names;
+  for (int i = 1; i <= 31; ++i) names.push_back(setting.prefix + std::to_string(i));
+  QImage image(setting.width, 450, QImage::Format_RGB32);
+  image.setDotsPerMeterX(qRound(setting.dpi / 0.0254));
+  image.setDotsPerMeterY(qRound(setting.dpi / 0.0254));
+  QPainter p(&image);
+  QFont font(QStringLiteral("DejaVu Sans"));
+  font.setPointSizeF(setting.points);
+  p.setFont(font);
+  PainterSurface s(p, QRectF(image.rect()));
+  s.setScale(-15, 120, 140, -30);
+  s.setItemTexts(names, 100.0 / 31 * 0.95, setting.room);
+  s.setCurrentY(-2.0);
+  return {s.itemFont().pointSizeF(), s.itemTextsTurned() ? 1.0 : 0.0, s.textWidth(names.front()),
+          s.textWidth(names.back())};
+}
+
 }  // namespace
 
 class ChartTextQtTest : public QObject {
@@ -149,6 +180,35 @@ class ChartTextQtTest : public QObject {
       s.setCurrentY(-6.0);
       s.print("Over the names");
     });
+  }
+
+  // Each surface lays the names out as its own names, picture, font and room say, whatever the
+  // surface before it laid out: each setting differs from the one before it in one of them, and
+  // is laid out after it, and after the one after it, as it is after other names.
+  void itemNamesAreLaidOutForTheirOwnSetting() {
+    std::vector<ItemSetting> settings(6);
+    settings[1].room = 12.0;
+    settings[2] = settings[1];
+    settings[2].prefix = "";
+    settings[3] = settings[2];
+    settings[3].width = 1240;
+    settings[4] = settings[3];
+    settings[4].points = 12.0;
+    settings[5] = settings[4];
+    settings[5].dpi = 192;
+    ItemSetting other;
+    other.prefix = "Other ";
+    std::vector<std::vector<double>> alone;
+    for (const ItemSetting& setting : settings) {
+      itemLayout(other);
+      alone.push_back(itemLayout(setting));
+    }
+    for (std::size_t i = 1; i < settings.size(); ++i) {
+      QVERIFY(alone[i] != alone[i - 1]);
+      itemLayout(settings[i - 1]);
+      QCOMPARE(itemLayout(settings[i]), alone[i]);
+      QCOMPARE(itemLayout(settings[i - 1]), alone[i - 1]);
+    }
   }
 
   // Other names make another strip.

@@ -170,17 +170,46 @@ bool PainterSurface::isItemText(const std::string& text) const {
 }
 
 const PainterSurface::ItemLayout& PainterSurface::itemLayout() const {
-  if (!m_itemLayout) m_itemLayout = makeItemLayout();
+  if (!m_itemLayout) m_itemLayout = keptItemLayout();
   return *m_itemLayout;
 }
 
-PainterSurface::ItemLayout PainterSurface::makeItemLayout() const {
-  ItemLayout layout;
+std::shared_ptr<const PainterSurface::ItemLayout> PainterSurface::keptItemLayout() const {
+  // A chart is painted again and again with the same names in the same slots, each time by a new
+  // surface: the last layout is kept with what it was made from.
+  struct Kept {
+    QFont font;
+    int dpiX = 0;
+    int dpiY = 0;
+    std::vector<std::string> texts;
+    double slot = 0.0;
+    double room = 0.0;
+    std::shared_ptr<const ItemLayout> layout;
+  };
+  thread_local Kept kept;
   const QPaintDevice* device = m_painter.device();
+  const int dpiX = device != nullptr ? device->logicalDpiX() : 0;
+  const int dpiY = device != nullptr ? device->logicalDpiY() : 0;
   const double perX = userPerDeviceX();
   const double perY = std::abs(userPerDeviceY());
   const double slot = perX > 0 ? m_slotWidth / perX : 0.0;
   const double room = perY > 0 ? m_room / perY : 0.0;
+  if (!kept.layout || kept.dpiX != dpiX || kept.dpiY != dpiY || kept.slot != slot ||
+      kept.room != room || kept.texts != m_itemTexts || kept.font != m_painter.font()) {
+    kept = {m_painter.font(),
+            dpiX,
+            dpiY,
+            m_itemTexts,
+            slot,
+            room,
+            std::make_shared<const ItemLayout>(makeItemLayout(slot, room))};
+  }
+  return kept.layout;
+}
+
+PainterSurface::ItemLayout PainterSurface::makeItemLayout(double slot, double room) const {
+  ItemLayout layout;
+  const QPaintDevice* device = m_painter.device();
   const QFont base = m_painter.font();
   // Each name is measured once, in the painter's font; a text's width grows with the font's
   // size, so smaller fonts are judged from these widths.

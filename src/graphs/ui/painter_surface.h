@@ -108,7 +108,9 @@ class PainterSurface : public DrawingSurface {
   double userPerDeviceY() const;
   bool isItemText(const std::string& text) const;
   const ItemLayout& itemLayout() const;
-  ItemLayout makeItemLayout() const;
+  std::shared_ptr<const ItemLayout> keptItemLayout() const;
+  // The layout of the item names in slots `slot` device units wide with `room` below.
+  ItemLayout makeItemLayout(double slot, double room) const;
 
   QPainter& m_painter;
   QRectF m_area;
@@ -125,7 +127,7 @@ class PainterSurface : public DrawingSurface {
   double m_slotWidth = 0.0;
   double m_room = 0.0;
   double m_itemRow = -2.0;
-  mutable std::optional<ItemLayout> m_itemLayout;
+  mutable std::shared_ptr<const ItemLayout> m_itemLayout;
   // The pen set on the painter, once the surface has set one.
   std::optional<Pen> m_pen;
   // The turned item names printed and not yet drawn, and a device box holding their ink: on an
