@@ -106,12 +106,13 @@ int differingPixels(const QImage& a, const QImage& b, int ratio) {
   return count;
 }
 
-// The same for two widgets of one size, at single and at double scale, on light and dark grounds.
+// The same for two widgets of one size, at single and then at double scale, on light and dark
+// grounds.
 int differingPixels(QWidget& mine, QWidget& theirs) {
+  const QColor grounds[] = {QColor(Qt::white), QColor(0xef, 0xef, 0xef), QColor(0x30, 0x40, 0x50)};
   int count = 0;
-  for (const QColor ground :
-       {QColor(Qt::white), QColor(0xef, 0xef, 0xef), QColor(0x30, 0x40, 0x50)}) {
-    for (const int ratio : {1, 2}) {
+  for (const int ratio : {1, 2}) {
+    for (const QColor& ground : grounds) {
       count += differingPixels(pixels(mine, ratio, ground), pixels(theirs, ratio, ground), ratio);
     }
   }
@@ -227,6 +228,43 @@ class AttributeButtonLookTest : public QObject {
     reference.setDown(look.pressed);
     QCOMPARE(button.shownText(), reference.text());
     QCOMPARE(differingPixels(button, reference), 0);
+  }
+
+  void aButtonPaintedAgainInAnotherStateShowsThatState() {
+    AttributeButtonWidget button(QStringLiteral("cmdAttA"), 0);
+    button.setText(QStringLiteral("Running cost"));
+    button.resize(button.sizeHint() + QSize(30, 0));
+    // The button, painted again after each change, against a push button with the old style
+    // sheet in the same state.
+    const auto check = [&button](bool marked, const char* state) {
+      QPushButton reference;
+      reference.setFont(button.font());
+      reference.setStyleSheet(referenceSheet(button.faceColour(), marked));
+      reference.resize(button.size());
+      reference.setText(reference.fontMetrics().elidedText(button.text(), Qt::ElideRight,
+                                                           referenceRoom(reference, marked)));
+      reference.setDown(button.isDown());
+      // First at the scale the last check ended with, where the button may keep a picture of its
+      // inside from before the change.
+      QVERIFY2(differingPixels(pixels(button, 2), pixels(reference, 2), 2) == 0, state);
+      QVERIFY2(differingPixels(button, reference) == 0, state);
+    };
+    check(false, "plain");
+    button.setDown(true);
+    check(false, "pressed");
+    button.setDown(false);
+    button.setFaceColour(QColor(192, 192, 255));
+    check(false, "another face");
+    button.setMarked(true);
+    check(true, "marked");
+    button.setText(QStringLiteral("Fuel consumption in town"));
+    check(true, "another text");
+    button.resize(button.width() - 25, button.height());
+    check(true, "narrower");
+    QFont bold = button.font();
+    bold.setBold(true);
+    button.setFont(bold);
+    check(true, "bold");
   }
 
   void theFocusedButtonPaintsWhatTheStyleSheetPainted_data() {

@@ -145,6 +145,7 @@ const AttributeButtonWidget::Caption& AttributeButtonWidget::caption(
   c.layout.setTextOption(option);
   c.layout.setCacheEnabled(true);
   c.layout.setFormats(underlined);
+  ++c.generation;
   c.advance = 0;
   c.height = 0;
   if (laid.isEmpty()) return c;
@@ -201,15 +202,51 @@ void AttributeButtonWidget::paintCaption(QPainter& painter, const QRect& room) c
   if (clip) painter.restore();
 }
 
+void AttributeButtonWidget::paintInside(QPainter& painter, const QColor& face, const QRect& room,
+                                        int ratio) const {
+  // Clear of the frame's rounded corners, which show what lies under the button.
+  const int b = borderWidth();
+  const QRect inside = rect().adjusted(ButtonFrame::kRadius, b, -ButtonFrame::kRadius, -b);
+  if (inside.isEmpty()) {
+    paintCaption(painter, room);
+    return;
+  }
+  QStyleOptionButton option;
+  initStyleOption(&option);
+  const bool underline = style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this);
+  const Caption& c = caption(room.size(), underline, painter.layoutDirection());
+  const QRect roomInside = room.translated(-inside.topLeft());
+  if (m_inside.isNull() || m_insideGeneration != c.generation || m_insideFace != face.rgba() ||
+      m_insideRoom != roomInside || m_inside.devicePixelRatio() != ratio ||
+      m_inside.deviceIndependentSize() != QSizeF(inside.size())) {
+    m_inside = QImage(inside.size() * ratio, QImage::Format_ARGB32_Premultiplied);
+    m_inside.setDevicePixelRatio(ratio);
+    m_inside.fill(face);
+    QPainter picture(&m_inside);
+    picture.setLayoutDirection(painter.layoutDirection());
+    picture.translate(-inside.topLeft());
+    paintCaption(picture, room);
+    m_insideGeneration = c.generation;
+    m_insideFace = face.rgba();
+    m_insideRoom = roomInside;
+  }
+  painter.drawImage(inside.topLeft(), m_inside);
+}
+
 void AttributeButtonWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const bool focus = hasFocus();
   QColor border = m_marked ? kMarkedFrameColour : kFrameColour;
   if (focus) border = kFocusFrameColour;
-  ButtonFrame::paint(painter, rect(), isDown() ? m_face.darker(115) : m_face, border,
-                     borderWidth());
+  const QColor face = isDown() ? m_face.darker(115) : m_face;
+  ButtonFrame::paint(painter, rect(), face, border, borderWidth());
   const QRect room = contentsRect(rect());
-  paintCaption(painter, room);
+  const int ratio = ButtonFrame::wholeRatio(painter);
+  if (isEnabled() && ratio > 0) {
+    paintInside(painter, face, room, ratio);
+  } else {
+    paintCaption(painter, room);
+  }
   if (focus) {
     // The style's own focus mark inside the padding (some styles draw it only after Tab).
     QStyleOptionButton option;

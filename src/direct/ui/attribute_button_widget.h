@@ -3,6 +3,7 @@
 // Qt
 #include <QColor>
 #include <QFont>
+#include <QImage>
 #include <QPoint>
 #include <QPushButton>
 #include <QSize>
@@ -69,6 +70,8 @@ class AttributeButtonWidget : public QPushButton {
     QTextLayout layout;
     qreal advance = 0;
     qreal height = 0;
+    // Counts the layouts, so that a picture of the caption knows when it is out of date.
+    int generation = 0;
   };
 
   int borderWidth() const { return m_marked ? 3 : 1; }
@@ -79,6 +82,9 @@ class AttributeButtonWidget : public QPushButton {
   // underlining of shortcuts or the text direction changed.
   const Caption& caption(const QSize& room, bool underline, Qt::LayoutDirection direction) const;
   void paintCaption(QPainter& painter, const QRect& room) const;
+  // Paints the face and caption between the frame's sides from a kept picture, painted again
+  // when the caption, the face colour, the room or the scale changed.
+  void paintInside(QPainter& painter, const QColor& face, const QRect& room, int ratio) const;
 
   int m_index = 0;
   QString m_tag;
@@ -88,6 +94,10 @@ class AttributeButtonWidget : public QPushButton {
   QPoint m_pressPos;
   bool m_pressed = false;
   mutable Caption m_caption;
+  mutable QImage m_inside;
+  mutable int m_insideGeneration = -1;
+  mutable QRgb m_insideFace = 0;
+  mutable QRect m_insideRoom;
   mutable QString m_hintText;
   mutable QSize m_hint;
 };
