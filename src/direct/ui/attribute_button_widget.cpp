@@ -1,22 +1,62 @@
 #include "direct/ui/attribute_button_widget.h"
 
 #include "direct/ui/attribute_drop_filter.h"
+#include "direct/ui/button_frame.h"
 
 // Qt
 #include <QApplication>
 #include <QDrag>
+#include <QEvent>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QStyle>
 #include <QStyleOptionButton>
-#include <QStylePainter>
+#include <QStyleOptionFocusRect>
+#include <QTextLine>
+#include <QTextOption>
+
+// Std
+#include <algorithm>
 
 namespace tnw::direct {
+namespace {
+
+constexpr int kRightPadding = 8;
+constexpr int kVerticalPadding = 2;
+const QColor kFrameColour(0x70, 0x70, 0x70);
+const QColor kMarkedFrameColour(0xc0, 0x00, 0x00);
+const QColor kFocusFrameColour(0x00, 0x50, 0xc0);
+
+// Strips the mnemonic marks from text the way QPainter::drawText does: "&&" stays one "&", any
+// other "&" goes and, when shortcuts are underlined, underlines the character after it.
+QString stripMnemonics(const QString& text, bool underline,
+                       QList<QTextLayout::FormatRange>* ranges) {
+  QString out;
+  out.reserve(text.size());
+  for (qsizetype i = 0; i < text.size(); ++i) {
+    if (text[i] == QLatin1Char('&')) {
+      if (++i == text.size()) break;
+      if (text[i] != QLatin1Char('&') && underline) {
+        QTextLayout::FormatRange range;
+        range.start = static_cast<int>(out.size());
+        range.length = 1;
+        range.format.setFontUnderline(true);
+        ranges->append(range);
+      }
+    }
+    out.append(text[i]);
+  }
+  return out;
+}
+
+}  // namespace
+
 AttributeButtonWidget::AttributeButtonWidget(const QString& arrayName, int index, QWidget* parent)
     : QPushButton(parent), m_index(index) {
   setObjectName(arrayName + QLatin1Char('_') + QString::number(index));
   setAutoDefault(false);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-  applyStyle();
 }
 
 void AttributeButtonWidget::setTag(const QString& tag) {
@@ -33,53 +73,196 @@ int AttributeButtonWidget::attribute() const {
 void AttributeButtonWidget::setFaceColour(const QColor& colour) {
   if (m_face == colour) return;
   m_face = colour;
-  applyStyle();
+  update();
 }
 
 void AttributeButtonWidget::setMarked(bool marked) {
   if (m_marked == marked) return;
   m_marked = marked;
-  applyStyle();
-}
-
-void AttributeButtonWidget::applyStyle() {
-  const QColor face = m_face;
-  setStyleSheet(
-      QStringLiteral("QPushButton { background-color: %1; color: black;"
-                     " border: %2px solid %3; border-radius: 3px; padding: 2px 8px 2px %5px; }"
-                     "QPushButton:focus { border-color: #0050c0; }"
-                     "QPushButton:pressed { background-color: %4; }")
-          .arg(face.name())
-          .arg(m_marked ? 3 : 1)
-          .arg(m_marked ? QStringLiteral("#c00000") : QStringLiteral("#707070"))
-          .arg(face.darker(115).name())
-          // A marked button leaves room on its left for the indicator.
-          .arg(m_marked ? 22 : 8));
+  m_hint = QSize();
+  updateGeometry();
+  update();
 }
 
 QSize AttributeButtonWidget::sizeHint() const {
-  const QSize hint = QPushButton::sizeHint();
+  if (m_hint.isValid() && m_hintText == text()) return m_hint;
+  m_hintText = text();
+  // The caption's natural size (a few letters when empty) inside the frame and the padding.
+  const QSize caption = fontMetrics().size(
+      Qt::TextShowMnemonic, m_hintText.isEmpty() ? QStringLiteral("XXXX") : m_hintText);
+  const int frame = 2 * borderWidth();
+  m_hint = {caption.width() + frame + leftPadding() + kRightPadding,
+            caption.height() + frame + 2 * kVerticalPadding};
   // Long names are elided by the layout's width; keep a readable minimum.
-  return {std::max(hint.width(), fontMetrics().averageCharWidth() * 10), hint.height()};
+  m_hint.setWidth(std::max(m_hint.width(), fontMetrics().averageCharWidth() * 10));
+  return m_hint;
 }
 
 QSize AttributeButtonWidget::minimumSizeHint() const {
   return {fontMetrics().horizontalAdvance(QStringLiteral("Mmmm\u2026")) + 24, sizeHint().height()};
 }
 
+QRect AttributeButtonWidget::contentsRect(const QRect& rect) const {
+  const int b = borderWidth();
+  const QRect room = rect.adjusted(b + leftPadding(), b + kVerticalPadding, -b - kRightPadding,
+                                   -b - kVerticalPadding);
+  return QStyle::visualRect(layoutDirection(), rect, room);
+}
+
 QString AttributeButtonWidget::shownText() const {
-  // The room inside the style sheet's border and padding (see applyStyle).
-  const int border = m_marked ? 3 : 1;
-  const int room = width() - 2 * border - (m_marked ? 22 : 8) - 8;
-  return fontMetrics().elidedText(text(), Qt::ElideRight, std::max(room, 0));
+  const QSize room = contentsRect(rect()).size();
+  if (m_caption.room == room && m_caption.text == text() && m_caption.font == font())
+    return m_caption.shown;
+  return fontMetrics().elidedText(text(), Qt::ElideRight, std::max(room.width(), 0));
+}
+
+const AttributeButtonWidget::Caption& AttributeButtonWidget::caption(
+    const QSize& room, bool underline, Qt::LayoutDirection direction) const {
+  Caption& c = m_caption;
+  if (c.room == room && c.underline == underline && c.direction == direction && c.text == text() &&
+      c.font == font())
+    return c;
+  c.text = text();
+  c.room = room;
+  c.font = font();
+  c.direction = direction;
+  c.underline = underline;
+  c.shown = fontMetrics().elidedText(c.text, Qt::ElideRight, std::max(room.width(), 0));
+  // Laid out as QPainter::drawText lays out one centred line: returns start a new line, tabs
+  // and carriage returns are spaces.
+  QString laid = c.shown;
+  for (QChar& ch : laid) {
+    if (ch == QLatin1Char('\n')) ch = QChar::LineSeparator;
+    if (ch == QLatin1Char('\r') || ch == QLatin1Char('\t')) ch = QLatin1Char(' ');
+  }
+  QList<QTextLayout::FormatRange> underlined;
+  laid = stripMnemonics(laid, underline, &underlined);
+  c.layout.clearLayout();
+  c.layout.setText(laid);
+  c.layout.setFont(QFont(c.font, this));
+  QTextOption option(Qt::AlignLeft);
+  option.setTextDirection(c.direction);
+  c.layout.setTextOption(option);
+  c.layout.setCacheEnabled(true);
+  c.layout.setFormats(underlined);
+  ++c.generation;
+  c.advance = 0;
+  c.height = 0;
+  if (laid.isEmpty()) return c;
+  const qreal leading = QFontMetricsF(c.layout.font()).leading();
+  c.layout.beginLayout();
+  for (QTextLine line = c.layout.createLine(); line.isValid(); line = c.layout.createLine()) {
+    line.setLineWidth(0x01000000);
+    if (line.lineNumber() > 0) c.height += leading;
+    c.height = std::ceil(c.height);
+    line.setPosition(QPointF(0, c.height));
+    c.height += line.ascent() + line.descent();
+    c.advance = std::max(c.advance, line.naturalTextWidth());
+    if (c.height >= room.height()) break;
+  }
+  c.layout.endLayout();
+  return c;
+}
+
+void AttributeButtonWidget::paintCaption(QPainter& painter, const QRect& room) const {
+  QStyleOptionButton option;
+  initStyleOption(&option);
+  const bool underline = style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this);
+  const Caption& c = caption(room.size(), underline, painter.layoutDirection());
+  if (c.layout.text().isEmpty()) return;
+  if (!isEnabled()) {
+    // A disabled caption is drawn as the style draws one (some etch it), in black on the face.
+    QPalette palette = option.palette;
+    palette.setColor(QPalette::ButtonText, Qt::black);
+    palette.setColor(QPalette::WindowText, Qt::black);
+    palette.setColor(QPalette::Text, Qt::black);
+    palette.setColor(QPalette::Button, m_face);
+    palette.setColor(QPalette::Window, m_face);
+    palette.setColor(QPalette::Light, m_face.lighter(115));
+    palette.setColor(QPalette::Midlight, m_face.lighter(107));
+    palette.setColor(QPalette::Dark, m_face.darker(150));
+    palette.setColor(QPalette::Shadow, m_face.darker(300));
+    int flags = Qt::AlignCenter | Qt::TextShowMnemonic;
+    if (!underline) flags |= Qt::TextHideMnemonic;
+    style()->drawItemText(&painter, room, flags, palette, false, c.shown, QPalette::ButtonText);
+    return;
+  }
+  painter.setPen(QPen(QBrush(Qt::black), 1));
+  const QPointF at(room.x() + (room.width() - c.advance) / 2,
+                   room.y() + (room.height() - c.height) / 2);
+  const bool clip = !QRectF(room).contains(QRectF(at, QSizeF(c.advance, c.height)));
+  if (clip) {
+    painter.save();
+    painter.setClipRect(room, Qt::IntersectClip);
+  }
+  for (int i = 0; i < c.layout.lineCount(); ++i) {
+    const QTextLine line = c.layout.lineAt(i);
+    line.draw(&painter, QPointF(room.x() + (room.width() - line.horizontalAdvance()) / 2, at.y()));
+  }
+  if (clip) painter.restore();
+}
+
+void AttributeButtonWidget::paintInside(QPainter& painter, const QColor& face, const QRect& room,
+                                        int ratio) const {
+  // Clear of the frame's rounded corners, which show what lies under the button.
+  const int b = borderWidth();
+  const QRect inside = rect().adjusted(ButtonFrame::kRadius, b, -ButtonFrame::kRadius, -b);
+  if (inside.isEmpty()) {
+    paintCaption(painter, room);
+    return;
+  }
+  QStyleOptionButton option;
+  initStyleOption(&option);
+  const bool underline = style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this);
+  const Caption& c = caption(room.size(), underline, painter.layoutDirection());
+  const QRect roomInside = room.translated(-inside.topLeft());
+  if (m_inside.isNull() || m_insideGeneration != c.generation || m_insideFace != face.rgba() ||
+      m_insideRoom != roomInside || m_inside.devicePixelRatio() != ratio ||
+      m_inside.deviceIndependentSize() != QSizeF(inside.size())) {
+    m_inside = QImage(inside.size() * ratio, QImage::Format_ARGB32_Premultiplied);
+    m_inside.setDevicePixelRatio(ratio);
+    m_inside.fill(face);
+    QPainter picture(&m_inside);
+    picture.setLayoutDirection(painter.layoutDirection());
+    picture.translate(-inside.topLeft());
+    paintCaption(picture, room);
+    m_insideGeneration = c.generation;
+    m_insideFace = face.rgba();
+    m_insideRoom = roomInside;
+  }
+  painter.drawImage(inside.topLeft(), m_inside);
 }
 
 void AttributeButtonWidget::paintEvent(QPaintEvent*) {
-  QStylePainter painter(this);
-  QStyleOptionButton option;
-  initStyleOption(&option);
-  option.text = shownText();
-  painter.drawControl(QStyle::CE_PushButton, option);
+  QPainter painter(this);
+  const bool focus = hasFocus();
+  QColor border = m_marked ? kMarkedFrameColour : kFrameColour;
+  if (focus) border = kFocusFrameColour;
+  const QColor face = isDown() ? m_face.darker(115) : m_face;
+  ButtonFrame::paint(painter, rect(), face, border, borderWidth());
+  const QRect room = contentsRect(rect());
+  const int ratio = ButtonFrame::wholeRatio(painter);
+  if (isEnabled() && ratio > 0) {
+    paintInside(painter, face, room, ratio);
+  } else {
+    paintCaption(painter, room);
+  }
+  if (focus) {
+    // The style's own focus mark inside the padding (some styles draw it only after Tab).
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    QStyleOptionFocusRect focusRect;
+    focusRect.QStyleOption::operator=(option);
+    focusRect.rect = room;
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focusRect, &painter, this);
+  }
+}
+
+bool AttributeButtonWidget::hitButton(const QPoint& pos) const { return rect().contains(pos); }
+
+void AttributeButtonWidget::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) m_hint = QSize();
+  QPushButton::changeEvent(event);
 }
 
 void AttributeButtonWidget::mousePressEvent(QMouseEvent* event) {

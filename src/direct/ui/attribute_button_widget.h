@@ -2,15 +2,21 @@
 
 // Qt
 #include <QColor>
+#include <QFont>
+#include <QImage>
 #include <QPoint>
 #include <QPushButton>
+#include <QSize>
 #include <QString>
+#include <QTextLayout>
 
 namespace tnw::direct {
 
 // An attribute's button (cmdAttA, cmdAttB, cmdAttButtons, cmdAttBtn): a flat push button in the
 // attribute's orientation colour that shows the attribute's name and, when draggable, starts a
-// drag carrying its tag ("A3", "B3") under the private attribute MIME type.
+// drag carrying its tag ("A3", "B3") under the private attribute MIME type. It paints itself: a
+// rounded face with a thin grey frame (a heavy red one when marked, blue while it has the focus),
+// and its caption laid out once and kept until the text, font, width or mark changes.
 class AttributeButtonWidget : public QPushButton {
   Q_OBJECT
 
@@ -43,13 +49,42 @@ class AttributeButtonWidget : public QPushButton {
   QString shownText() const;
 
  protected:
-  // Paints the button with its caption elided to the room inside its frame.
+  // Paints the face, the frame and the caption elided to the room inside the frame.
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+  // Measures the button again after a change of font or style.
+  void changeEvent(QEvent* event) override;
+  // The whole face takes clicks, its rounded corners included.
+  bool hitButton(const QPoint& pos) const override;
 
  private:
-  void applyStyle();
+  // The caption as laid out for painting, and what it was laid out for.
+  struct Caption {
+    QString text;
+    QSize room{-1, -1};
+    QFont font;
+    Qt::LayoutDirection direction = Qt::LeftToRight;
+    bool underline = false;
+    QString shown;
+    QTextLayout layout;
+    qreal advance = 0;
+    qreal height = 0;
+    // Counts the layouts, so that a picture of the caption knows when it is out of date.
+    int generation = 0;
+  };
+
+  int borderWidth() const { return m_marked ? 3 : 1; }
+  int leftPadding() const { return m_marked ? 22 : 8; }
+  // The room inside the frame and the padding, in widget coordinates.
+  QRect contentsRect(const QRect& rect) const;
+  // The caption laid out for the room; laid out again when the text, the room, the font, the
+  // underlining of shortcuts or the text direction changed.
+  const Caption& caption(const QSize& room, bool underline, Qt::LayoutDirection direction) const;
+  void paintCaption(QPainter& painter, const QRect& room) const;
+  // Paints the face and caption between the frame's sides from a kept picture, painted again
+  // when the caption, the face colour, the room or the scale changed.
+  void paintInside(QPainter& painter, const QColor& face, const QRect& room, int ratio) const;
 
   int m_index = 0;
   QString m_tag;
@@ -58,6 +93,13 @@ class AttributeButtonWidget : public QPushButton {
   bool m_marked = false;
   QPoint m_pressPos;
   bool m_pressed = false;
+  mutable Caption m_caption;
+  mutable QImage m_inside;
+  mutable int m_insideGeneration = -1;
+  mutable QRgb m_insideFace = 0;
+  mutable QRect m_insideRoom;
+  mutable QString m_hintText;
+  mutable QSize m_hint;
 };
 
 }  // namespace tnw::direct

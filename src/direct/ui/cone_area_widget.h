@@ -1,6 +1,7 @@
 #pragma once
 
 // Qt
+#include <QImage>
 #include <QPointF>
 #include <QPolygonF>
 #include <QWidget>
@@ -9,6 +10,7 @@
 #include <array>
 
 class QFrame;
+class QPainter;
 
 namespace tnw::direct {
 
@@ -63,6 +65,8 @@ class ConeAreaWidget : public QWidget {
 
  private:
   void layoutHandles();
+  // Paints the square, its grid and the cone over the whole widget.
+  void paintArea(QPainter& p) const;
   double scale() const;
   QRectF squareRect() const;
 
@@ -72,6 +76,11 @@ class ConeAreaWidget : public QWidget {
   QPolygonF m_cone;
   int m_dragging = -1;
   QPointF m_grabOffset;
+  // The drawing as last painted, and the cone, side and colours it was painted for.
+  QImage m_picture;
+  QPolygonF m_pictureCone;
+  double m_pictureSide = 0.0;
+  qint64 m_picturePalette = 0;
 };
 
 }  // namespace tnw::direct

@@ -8,6 +8,10 @@
 #include <QPainter>
 #include <QPushButton>
 
+// Std
+#include <algorithm>
+#include <cmath>
+
 namespace tnw::direct {
 namespace {
 
@@ -91,8 +95,23 @@ void GroupBoxWidget::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void GroupBoxWidget::paintEvent(QPaintEvent* event) {
-  QFrame::paintEvent(event);
   QPainter p(this);
+  // The plain box as four fills: the frame's own drawing strokes each side pixel by pixel. A
+  // fractional scale rounds the frame to device pixels, which the frame's drawing does itself.
+  const qreal ratio = devicePixelRatioF();
+  if (frameShape() == QFrame::Box && frameShadow() == QFrame::Plain && ratio == std::round(ratio)) {
+    const QColor line = palette().color(foregroundRole());
+    const QRect r = frameRect();
+    const int w = std::min({lineWidth(), r.width() / 2, r.height() / 2});
+    p.fillRect(QRect(r.left(), r.top(), r.width(), w), line);
+    p.fillRect(QRect(r.left(), r.bottom() - w + 1, r.width(), w), line);
+    p.fillRect(QRect(r.left(), r.top() + w, w, r.height() - 2 * w), line);
+    p.fillRect(QRect(r.right() - w + 1, r.top() + w, w, r.height() - 2 * w), line);
+  } else {
+    p.end();
+    QFrame::paintEvent(event);
+    p.begin(this);
+  }
   if (hasFocus()) {
     p.setPen(QPen(palette().color(QPalette::Highlight), 1, Qt::DashLine));
     p.drawRect(rect().adjusted(5, 5, -6, -6));
