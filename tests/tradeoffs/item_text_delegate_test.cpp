@@ -3,8 +3,8 @@
 // Qt
 #include <QApplication>
 #include <QListWidget>
-#include <QTableWidget>
 #include <QStyledItemDelegate>
+#include <QTableWidget>
 #include <QtTest>
 
 namespace tnw::tradeoffs {
@@ -161,6 +161,35 @@ class ItemTextDelegateTest : public QObject {
         if (!cell.contains(x, y)) QCOMPARE(changed.pixel(x, y), first.pixel(x, y));
       }
     }
+  }
+
+  // The cells of a grid with alternating row colours, as the results grids are, are kept too,
+  // each on its row's colour: the grid shows the style's pixels, and painting it again copies
+  // every cell instead of drawing it.
+  void alternateRowsAreKeptWithTheStylesPixels() {
+    QTableWidget ours(8, 3);
+    QTableWidget styled(8, 3);
+    auto* delegate = new ItemTextDelegate(&ours);
+    ours.setItemDelegate(delegate);
+    styled.setItemDelegate(new QStyledItemDelegate(&styled));
+    for (QTableWidget* grid : {&ours, &styled}) {
+      grid->setAlternatingRowColors(true);
+      grid->setWordWrap(false);
+      for (int r = 0; r < 8; ++r)
+        for (int c = 0; c < 3; ++c)
+          grid->setItem(r, c, new QTableWidgetItem(QStringLiteral("%1.%2").arg(r).arg(c * 7)));
+      grid->setCurrentCell(-1, -1);
+      grid->clearFocus();
+      grid->resize(360, 320);
+      grid->show();
+    }
+    QApplication::processEvents();
+    QVERIFY(ours.palette().color(QPalette::AlternateBase) != ours.palette().color(QPalette::Base));
+    const QImage first = ours.viewport()->grab().toImage();
+    QVERIFY(first == styled.viewport()->grab().toImage());
+    const int drawn = delegate->itemsDrawn();
+    QVERIFY(ours.viewport()->grab().toImage() == first);
+    QCOMPARE(delegate->itemsDrawn(), drawn);
   }
 
   // A text too long for a list that does not wrap is elided by the style, once.

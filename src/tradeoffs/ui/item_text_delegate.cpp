@@ -113,12 +113,11 @@ void ItemTextDelegate::drawGridLines(QPainter* painter, const QStyleOptionViewIt
 bool ItemTextDelegate::paintKept(QPainter* painter, const QStyleOptionViewItem& option,
                                  const QModelIndex& index, const QStyleOptionViewItem& opt,
                                  const QStaticText* text) const {
-  // Only an item drawn on the view's plain background can be painted ahead, and only for a
-  // raster painter that copies the image pixel for pixel.
-  const bool plain =
-      !(opt.state & (QStyle::State_Selected | QStyle::State_HasFocus)) &&
-      opt.backgroundBrush.style() == Qt::NoBrush && opt.icon.isNull() &&
-      !(opt.features & (QStyleOptionViewItem::HasCheckIndicator | QStyleOptionViewItem::Alternate));
+  // Only an item drawn on the view's plain background (or its row's alternate colour) can be
+  // painted ahead, and only for a raster painter that copies the image pixel for pixel.
+  const bool plain = !(opt.state & (QStyle::State_Selected | QStyle::State_HasFocus)) &&
+                     opt.backgroundBrush.style() == Qt::NoBrush && opt.icon.isNull() &&
+                     !(opt.features & QStyleOptionViewItem::HasCheckIndicator);
   const QPaintEngine* engine = painter->paintEngine();
   const QTransform& transform = painter->transform();
   if (!plain || engine == nullptr || engine->type() != QPaintEngine::Raster ||
@@ -152,6 +151,12 @@ bool ItemTextDelegate::paintKept(QPainter* painter, const QStyleOptionViewItem& 
     movedOption.rect = at;
     QStyleOptionViewItem moved = opt;
     moved.rect = at;
+    // Under the item, the row's panel as the view draws it: the alternate rows' colour.
+    if (opt.features & QStyleOptionViewItem::Alternate) {
+      const QWidget* widget = opt.widget;
+      const QStyle* style = widget != nullptr ? widget->style() : QApplication::style();
+      style->drawPrimitive(QStyle::PE_PanelItemViewRow, &movedOption, &p, widget);
+    }
     drawItem(&p, movedOption, index, moved, text);
   }
   ++m_imagesPainted;
@@ -165,6 +170,7 @@ bool ItemTextDelegate::paintKept(QPainter* painter, const QStyleOptionViewItem& 
 void ItemTextDelegate::drawItem(QPainter* painter, const QStyleOptionViewItem& option,
                                 const QModelIndex& index, QStyleOptionViewItem& opt,
                                 const QStaticText* text) const {
+  ++m_itemsDrawn;
   if (m_gridLines) drawGridLines(painter, opt, opt.rect);
   if (text == nullptr) {
     QStyledItemDelegate::paint(painter, option, index);

@@ -89,6 +89,8 @@ class ItemTextDelegate : public KeptSizeDelegate {
 
   // How many times an item was drawn into a kept image (for tests).
   int imagesPainted() const { return m_imagesPainted; }
+  // How many times an item was drawn, into a kept image or on the view (for tests).
+  int itemsDrawn() const { return m_itemsDrawn; }
 
  private:
   // One kept image and the look and resolution it was drawn for (the text is the cache's key).
@@ -114,6 +116,7 @@ class ItemTextDelegate : public KeptSizeDelegate {
   mutable QFont m_font;
   mutable QHash<QString, std::vector<KeptImage>> m_images;
   mutable int m_imagesPainted = 0;
+  mutable int m_itemsDrawn = 0;
   mutable int m_imageCount = 0;
   bool m_gridLines = false;
 };
