@@ -1,5 +1,6 @@
 #include "direct/ui/direct_a_dialog.h"
 
+#include "common/ui/kept_text_label.h"
 #include "common/ui/wizard_buttons.h"
 #include "direct/core/drag_payload.h"
 #include "direct/ui/cone_area_widget.h"
@@ -43,7 +44,7 @@ QPushButton* makeButton(const char* name, QWidget* parent) {
 }
 
 QLabel* makeLabel(const char* name, QWidget* parent) {
-  auto* label = new QLabel(parent);
+  auto* label = new KeptTextLabel(parent);
   label->setObjectName(QString::fromUtf8(name));
   label->setTextFormat(Qt::PlainText);
   return label;
@@ -131,7 +132,7 @@ QSize DirectADialog::initialSize() const {
 QWidget* DirectADialog::buildHeader() {
   m_header = new QWidget(this);
   m_header->setObjectName(QStringLiteral("picRefHeader"));
-  auto* caption = new QLabel(tr("Reference attribute (Wr):"), m_header);
+  auto* caption = new KeptTextLabel(tr("Reference attribute (Wr):"), m_header);
   m_refImage = makeLabel("imgRefAtt", m_header);
   m_refImage->setFixedSize(32, 32);
   m_refName = makeLabel("lblRefAtt", m_header);
@@ -142,11 +143,11 @@ QWidget* DirectADialog::buildHeader() {
   m_refRange = new QWidget(m_header);
   auto* range = new QHBoxLayout(m_refRange);
   range->setContentsMargins(0, 0, 0, 0);
-  range->addWidget(new QLabel(tr("Score range:"), m_refRange));
+  range->addWidget(new KeptTextLabel(tr("Score range:"), m_refRange));
   m_refLow = makeLabel("lblRefRangeLow", m_refRange);
   m_refHigh = makeLabel("lblRefRangeHigh", m_refRange);
   range->addWidget(m_refLow);
-  range->addWidget(new QLabel(tr("to"), m_refRange));
+  range->addWidget(new KeptTextLabel(tr("to"), m_refRange));
   range->addWidget(m_refHigh);
   auto* row = new QHBoxLayout(m_header);
   row->setContentsMargins(0, 0, 0, 4);

@@ -1,6 +1,7 @@
 #include "direct/ui/direct_judgment_page_widget.h"
 
 #include "common/ui/elided_label_widget.h"
+#include "common/ui/kept_text_label.h"
 #include "common/ui/wrapped_label.h"
 #include "direct/core/direct_result.h"
 #include "direct/core/judgment_page.h"
@@ -31,7 +32,7 @@ namespace tnw::direct {
 namespace {
 
 QLabel* namedLabel(const QString& name, QWidget* parent) {
-  auto* label = new QLabel(parent);
+  auto* label = new KeptTextLabel(parent);
   label->setObjectName(name);
   return label;
 }
@@ -108,7 +109,7 @@ QWidget* DirectJudgmentPageWidget::buildTargetFrame() {
   m_targetList->setMinimumContentsLength(16);
   m_targetList->setIconSize(QSize(20, 20));
   m_targetList->setMaxVisibleItems(16);
-  auto* choose = new QLabel(tr("Tar&get:"), frame);
+  auto* choose = new KeptTextLabel(tr("Tar&get:"), frame);
   choose->setBuddy(m_targetList);
   m_targetImage = namedLabel(QStringLiteral("imgTargetAtt"), frame);
   m_targetImage->setFixedSize(32, 32);
@@ -120,9 +121,9 @@ QWidget* DirectJudgmentPageWidget::buildTargetFrame() {
   m_targetLow = namedLabel(QStringLiteral("lblTarRangeLow"), frame);
   m_targetHigh = namedLabel(QStringLiteral("lblTarRangeHigh"), frame);
   auto* range = new QHBoxLayout;
-  range->addWidget(new QLabel(tr("Score range:"), frame));
+  range->addWidget(new KeptTextLabel(tr("Score range:"), frame));
   range->addWidget(m_targetLow);
-  range->addWidget(new QLabel(tr("to"), frame));
+  range->addWidget(new KeptTextLabel(tr("to"), frame));
   range->addWidget(m_targetHigh);
   range->addStretch(1);
   auto* grid = new QGridLayout(frame);
@@ -140,18 +141,18 @@ QWidget* DirectJudgmentPageWidget::buildRatioFrame() {
   frame->setObjectName(QStringLiteral("fraWeightRatio"));
   m_lower = ratioBox(QStringLiteral("txtWRLower"), frame);
   m_upper = ratioBox(QStringLiteral("txtWRUpper"), frame);
-  auto* from = new QLabel(tr("Fro&m:"), frame);
+  auto* from = new KeptTextLabel(tr("Fro&m:"), frame);
   from->setBuddy(m_lower);
-  auto* to = new QLabel(tr("T&o:"), frame);
+  auto* to = new KeptTextLabel(tr("T&o:"), frame);
   to->setBuddy(m_upper);
   auto* row = new QHBoxLayout(frame);
   row->addWidget(from);
   row->addWidget(m_lower);
-  row->addWidget(new QLabel(QStringLiteral("/1"), frame));
+  row->addWidget(new KeptTextLabel(QStringLiteral("/1"), frame));
   row->addSpacing(16);
   row->addWidget(to);
   row->addWidget(m_upper);
-  row->addWidget(new QLabel(QStringLiteral("/1"), frame));
+  row->addWidget(new KeptTextLabel(QStringLiteral("/1"), frame));
   row->addStretch(1);
   return frame;
 }
