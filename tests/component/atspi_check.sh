@@ -45,7 +45,7 @@ key alt+n
 key alt+f
 wait "$pid"
 DRIVE
-timeout 150 xvfb-run -a -s "-screen 0 1280x1024x24" dbus-run-session -- \
+timeout 150 "$here/../scripts/private-display" 1280x1024x24 dbus-run-session -- \
   bash "$out/drive.sh" "$tnwizard" "$out" "$here/../show_keyboard.sh" "$here/atspi_read.py"
 
 cat "$out/direct.txt" "$out/panel.txt" "$out/chart.txt"

@@ -23,7 +23,7 @@ key alt+n
 untilEnded alt+f
 wait "$pid"
 DRIVE
-timeout 80 xvfb-run -a -s "-screen 0 1280x1024x24" bash "$out/drive.sh" "$tnwizard" "$out" \
+timeout 80 "$(dirname "$0")/../scripts/private-display" 1280x1024x24 bash "$out/drive.sh" "$tnwizard" "$out" \
   "$(dirname "$0")/../show_keyboard.sh"
 
 python3 - "$out/show.out" <<'CHECK'
