@@ -67,6 +67,6 @@ assert re.search(r"^box: A, \S+", panel, re.M), panel
 m = re.search(r"^chart: Attribute Weights and Their Ranges (\d+) x (\d+)$", chart, re.M)
 assert m and int(m.group(1)) == 6 and int(m.group(2)) == 4, chart
 rows = re.findall(r"^row: (.+)$", chart, re.M)
-assert len(rows) == 6 and all(re.fullmatch(r"[^|]+( \| \d+\.\d{4}){3}", r) for r in rows), chart
+assert len(rows) == 6 and all(re.fullmatch(r"[^|]+( \| -?\d+\.\d{4}){3}", r) for r in rows), chart
 print("AT-SPI check passed")
 CHECK
