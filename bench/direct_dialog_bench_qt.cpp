@@ -7,13 +7,13 @@
 // them in its label. Under valgrind --tool=callgrind --instr-atstart=no only the actions are
 // instrumented.
 
+#include "action_times.h"
 #include "common/core/recording_ui_services.h"
 #include "direct/core/direct_a_events.h"
 #include "direct/ui/attribute_drop_filter.h"
 #include "direct/ui/cone_area_widget.h"
 #include "direct/ui/direct_a_dialog.h"
 #include "paint_counter_qt.h"
-#include "process_cpu_clock.h"
 #include "wizard/core/wizard_context.h"
 
 // Qt
@@ -30,17 +30,7 @@
 // Google Benchmark
 #include <benchmark/benchmark.h>
 
-// Valgrind's client requests cost a few instructions when the program runs on its own.
-#if __has_include(<valgrind/callgrind.h>)
-#include <valgrind/callgrind.h>
-#define TNW_CALLGRIND(request) request
-#else
-#define TNW_CALLGRIND(request)
-#endif
-
 // Std
-#include <algorithm>
-#include <chrono>
 #include <memory>
 #include <string>
 #include <vector>
@@ -109,45 +99,6 @@ struct JudgmentPageAt31 {
   RecordingUiServices ui;
   NoEvents events;
   std::unique_ptr<direct::DirectADialog> dialog;
-};
-
-// The times of single actions, reported as their median, 90th percentile and maximum.
-class ActionTimes {
- public:
-  // Starts timing one action.
-  void start() {
-    TNW_CALLGRIND(CALLGRIND_START_INSTRUMENTATION);
-    m_start = std::chrono::steady_clock::now();
-    m_cpuStart = processCpuMicros();
-  }
-  // Ends the action begun by start().
-  void stop() {
-    m_cpuMicros.push_back(processCpuMicros() - m_cpuStart);
-    m_micros.push_back(
-        std::chrono::duration<double, std::micro>(std::chrono::steady_clock::now() - m_start)
-            .count());
-    TNW_CALLGRIND(CALLGRIND_STOP_INSTRUMENTATION);
-  }
-  // Sets the counters p50_us, p90_us and max_us (wall time), cpu_p50_us and cpu_p90_us.
-  void report(benchmark::State& state) {
-    if (m_micros.empty()) return;
-    std::sort(m_micros.begin(), m_micros.end());
-    std::sort(m_cpuMicros.begin(), m_cpuMicros.end());
-    const auto at = [](const std::vector<double>& sorted, double q) {
-      return sorted[static_cast<std::size_t>(q * static_cast<double>(sorted.size() - 1))];
-    };
-    state.counters["p50_us"] = at(m_micros, 0.5);
-    state.counters["p90_us"] = at(m_micros, 0.9);
-    state.counters["max_us"] = m_micros.back();
-    state.counters["cpu_p50_us"] = at(m_cpuMicros, 0.5);
-    state.counters["cpu_p90_us"] = at(m_cpuMicros, 0.9);
-  }
-
- private:
-  std::chrono::steady_clock::time_point m_start;
-  double m_cpuStart = 0.0;
-  std::vector<double> m_micros;
-  std::vector<double> m_cpuMicros;
 };
 
 void BM_HandleDragStep(benchmark::State& state) {

@@ -6,10 +6,10 @@
 // percentile of their process CPU time (cpu_p50_us, cpu_p90_us), and the paint events per
 // action (paints) with the widgets that got them in its label.
 
+#include "action_times.h"
 #include "common/core/recording_ui_services.h"
 #include "graphs/ui/chart_widget.h"
 #include "paint_counter_qt.h"
-#include "process_cpu_clock.h"
 #include "tradeoffs/core/tradeoffs_a_events.h"
 #include "tradeoffs/ui/tradeoffs_a_dialog.h"
 #include "wizard/core/wizard_context.h"
@@ -29,18 +29,8 @@
 // Google Benchmark
 #include <benchmark/benchmark.h>
 
-// Valgrind's client requests cost a few instructions when the program runs on its own.
-#if __has_include(<valgrind/callgrind.h>)
-#include <valgrind/callgrind.h>
-#define TNW_CALLGRIND(request) request
-#else
-#define TNW_CALLGRIND(request)
-#endif
-
 // Std
-#include <algorithm>
 #include <array>
-#include <chrono>
 #include <functional>
 #include <memory>
 #include <string>
@@ -137,21 +127,17 @@ struct UserAction {
   std::function<void(Fixture&, int)> act;
 };
 
-// The timed part of an action. Under valgrind --tool=callgrind --instr-atstart=no only this is
-// instrumented, so the instruction counts are the actions' alone.
+// The timed part of an action.
 [[gnu::noinline]] void performAction(const UserAction& action, Fixture& f, int i) {
-  TNW_CALLGRIND(CALLGRIND_START_INSTRUMENTATION);
   action.act(f, i);
   // The repaint of what the action changed belongs to it.
   QApplication::processEvents();
-  TNW_CALLGRIND(CALLGRIND_STOP_INSTRUMENTATION);
 }
 
 void runAction(benchmark::State& state, const UserAction& action) {
   Fixture f;
   if (action.prepare) action.prepare(f);
-  std::vector<double> micros;
-  std::vector<double> cpuMicros;
+  ActionTimes times;
   PaintCounter paints;
   int i = 0;
   for (auto _ : state) {
@@ -161,29 +147,15 @@ void runAction(benchmark::State& state, const UserAction& action) {
       QApplication::processEvents();
       state.ResumeTiming();
     }
-    const auto start = std::chrono::steady_clock::now();
-    const double cpuStart = processCpuMicros();
+    times.start();
     paints.setCounting(true);
     performAction(action, f, i);
     paints.setCounting(false);
-    cpuMicros.push_back(processCpuMicros() - cpuStart);
-    micros.push_back(
-        std::chrono::duration<double, std::micro>(std::chrono::steady_clock::now() - start)
-            .count());
+    times.stop();
     ++i;
   }
-  if (micros.empty()) return;
-  std::sort(micros.begin(), micros.end());
-  std::sort(cpuMicros.begin(), cpuMicros.end());
-  const auto at = [](const std::vector<double>& sorted, double q) {
-    return sorted[static_cast<std::size_t>(q * static_cast<double>(sorted.size() - 1))];
-  };
-  state.counters["p50_us"] = at(micros, 0.5);
-  state.counters["p90_us"] = at(micros, 0.9);
-  state.counters["max_us"] = micros.back();
-  state.counters["cpu_p50_us"] = at(cpuMicros, 0.5);
-  state.counters["cpu_p90_us"] = at(cpuMicros, 0.9);
-  paints.report(state, static_cast<long long>(micros.size()));
+  times.report(state);
+  paints.report(state, state.iterations());
 }
 
 // Each tab of a tab strip, coming from the other one.
