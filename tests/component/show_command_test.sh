@@ -34,7 +34,8 @@ for _ in $(seq 30); do
 done
 wait "$pid"
 DRIVE
-timeout 120 "$(dirname "$0")/../scripts/private-display" 1280x1024x24 bash "$out/drive.sh" "$tnwizard" "$out" ||
+timeout 120 "$(dirname "$0")/../scripts/private-display" 1280x1024x24 \
+  bash "$out/drive.sh" "$tnwizard" "$out" ||
   { echo "the show run failed; its standard error:"; cat "$out/show.err"; exit 1; }
 
 expected='{"event":"SendMasseges","msg":"Select a method to make value judgments between the attributes."}

@@ -48,7 +48,8 @@ key alt+f
 wait "$pid"
 DRIVE
 status=0
-timeout 100 "$(dirname "$0")/../scripts/private-display" 1280x1024x24 bash "$out/drive.sh" "$tnwizard" "$out" \
+timeout 100 "$(dirname "$0")/../scripts/private-display" 1280x1024x24 \
+  bash "$out/drive.sh" "$tnwizard" "$out" \
   "$(dirname "$0")/../show_keyboard.sh" ||
   status=$?
 if [ "$status" -ne 0 ]; then

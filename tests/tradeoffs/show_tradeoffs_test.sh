@@ -23,7 +23,8 @@ key alt+n
 untilEnded alt+f
 wait "$pid"
 DRIVE
-timeout 80 "$(dirname "$0")/../scripts/private-display" 1280x1024x24 bash "$out/drive.sh" "$tnwizard" "$out" \
+timeout 80 "$(dirname "$0")/../scripts/private-display" 1280x1024x24 \
+  bash "$out/drive.sh" "$tnwizard" "$out" \
   "$(dirname "$0")/../show_keyboard.sh"
 
 python3 - "$out/show.out" <<'CHECK'
