@@ -11,11 +11,13 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSize>
 #include <QtTest>
 
 // Std
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tnw::testing {
@@ -77,6 +79,36 @@ inline void typeScores(QWidget* dialog, const char* a1, const char* a2, const ch
 // Clicks a push button of the dialog with the mouse.
 inline void clickButton(QWidget* dialog, const char* name) {
   QTest::mouseClick(child<QPushButton>(dialog, QString::fromLatin1(name)), Qt::LeftButton);
+}
+
+// What a trade-off dialog under test is made with: the wizard's context, recorders of the UI
+// services and of the events, and fixed draws for the random pairs. A dialog test class derives
+// from it beside QObject.
+class TradeOffDialogParts {
+ protected:
+  // A dialog on `model`, first resized to `size` when one is given, shown as the wizard shows it.
+  std::unique_ptr<tradeoffs::TradeOffsADialog> showDialog(AttributeModel model, QSize size = {}) {
+    m_context.model = std::move(model);
+    auto d = std::make_unique<tradeoffs::TradeOffsADialog>(m_context, m_ui, m_events, &m_random);
+    if (size.isValid()) d->resize(size);
+    d->showModal();
+    return d;
+  }
+  // Makes every part new, as before the first test.
+  void renewParts() { *this = TradeOffDialogParts{}; }
+
+  WizardContext m_context;
+  RecordingUiServices m_ui;
+  RecordingTradeOffsEvents m_events;
+  SequenceRandomSource m_random{{0.2f, 0.7f, 0.4f, 0.9f, 0.1f, 0.6f}};
+};
+
+// Enters the scores the page offers for every trade-off of the automatic cycle, then goes Next
+// to the results.
+inline void enterEveryTradeOffAndGoNext(QWidget* dialog) {
+  auto* enter = child<QPushButton>(dialog, QStringLiteral("cmdTradeOffEnter"));
+  while (enter->isEnabled()) enter->click();
+  clickButton(dialog, "cmdNext");
 }
 
 }  // namespace tnw::testing

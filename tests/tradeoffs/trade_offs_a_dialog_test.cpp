@@ -41,14 +41,12 @@ int countColour(const QImage& image, int paletteIndex) {
 
 }  // namespace
 
-class TradeOffsADialogTest : public QObject {
+class TradeOffsADialogTest : public QObject, TradeOffDialogParts {
   Q_OBJECT
 
  private:
   std::unique_ptr<TradeOffsADialog> open(int numAtt) {
-    m_context.model = makeModel(numAtt);
-    auto d = std::make_unique<TradeOffsADialog>(m_context, m_ui, m_events, &m_random);
-    d->showModal();
+    auto d = showDialog(makeModel(numAtt));
     [&] { QVERIFY(QTest::qWaitForWindowExposed(d.get())); }();
     return d;
   }
@@ -75,19 +73,12 @@ class TradeOffsADialogTest : public QObject {
   }
   void runFullTradeOffs(TradeOffsADialog* d);
 
-  WizardContext m_context;
-  RecordingUiServices m_ui;
-  RecordingTradeOffsEvents m_events;
-  SequenceRandomSource m_random{{0.2f, 0.7f, 0.4f, 0.9f, 0.1f, 0.6f}};
 
  private slots:
   void init() {
-    m_context = WizardContext{};
+    renewParts();
     m_context.FileIndex = 3;
     m_context.NorixDir = "C:\\NORIX";
-    m_ui = RecordingUiServices{};
-    m_events = RecordingTradeOffsEvents{};
-    m_random = SequenceRandomSource{{0.2f, 0.7f, 0.4f, 0.9f, 0.1f, 0.6f}};
   }
 
   void cleanup() {

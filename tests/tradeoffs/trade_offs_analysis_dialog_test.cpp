@@ -14,7 +14,7 @@ namespace tnw::tradeoffs {
 
 using namespace tnw::testing;
 
-class TradeOffsAnalysisDialogTest : public QObject {
+class TradeOffsAnalysisDialogTest : public QObject, TradeOffDialogParts {
   Q_OBJECT
 
  private slots:
@@ -25,16 +25,10 @@ class TradeOffsAnalysisDialogTest : public QObject {
   void theRegressionStatusTabListsTheJudgmentThatHurtsMost();
 
  private:
-  WizardContext m_context;
-  RecordingUiServices m_ui;
-  RecordingTradeOffsEvents m_events;
-  SequenceRandomSource m_random{{0.2f, 0.7f, 0.4f, 0.9f, 0.1f, 0.6f}};
 };
 
 void TradeOffsAnalysisDialogTest::theRegressionStatusTabListsTheJudgmentThatHurtsMost() {
-  m_context.model = makeModel(3);
-  auto d = std::make_unique<TradeOffsADialog>(m_context, m_ui, m_events, &m_random);
-  d->showModal();
+  auto d = showDialog(makeModel(3));
   QVERIFY(QTest::qWaitForWindowExposed(d.get()));
   QApplication::setActiveWindow(d.get());
   QVERIFY(QTest::qWaitForWindowActive(d.get()));

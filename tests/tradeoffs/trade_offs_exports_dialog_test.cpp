@@ -45,22 +45,18 @@ QByteArray readAll(const QString& path) {
 
 }  // namespace
 
-class TradeOffsExportsDialogTest : public QObject {
+class TradeOffsExportsDialogTest : public QObject, TradeOffDialogParts {
   Q_OBJECT
 
  private slots:
   void init() {
-    m_context.model = makeModel(3);
+    renewParts();
     m_context.PathAndFileName = "/home/anna/models/Office site.nrx";
-    m_ui = std::make_unique<RecordingUiServices>();
-    m_dialog = std::make_unique<TradeOffsADialog>(m_context, *m_ui, m_events, &m_random);
-    m_dialog->showModal();
-    auto* enter = child<QPushButton>(m_dialog.get(), QStringLiteral("cmdTradeOffEnter"));
-    while (enter->isEnabled()) enter->click();
-    clickButton(m_dialog.get(), "cmdNext");
+    m_dialog = showDialog(makeModel(3));
+    enterEveryTradeOffAndGoNext(m_dialog.get());
     QCOMPARE(m_dialog->presenter().step(), TradeOffsAPresenter::kResultsStep);
     // What the fit said on the way is no concern of these tests.
-    m_ui->clearMessages();
+    m_ui.clearMessages();
   }
   void cleanup() {
     m_dialog.reset();
@@ -86,10 +82,6 @@ class TradeOffsExportsDialogTest : public QObject {
     return child<QTableWidget>(m_dialog.get(), QStringLiteral("gridWeights"));
   }
 
-  WizardContext m_context;
-  std::unique_ptr<RecordingUiServices> m_ui;
-  RecordingTradeOffsEvents m_events;
-  SequenceRandomSource m_random{{0.2f, 0.7f, 0.4f, 0.9f, 0.1f, 0.6f}};
   std::unique_ptr<TradeOffsADialog> m_dialog;
 };
 
@@ -131,33 +123,33 @@ void TradeOffsExportsDialogTest::copyPutsTheWeightGridAsTextAndTheChartAsAPictur
     }
   }
   QVERIFY(coloured);
-  QVERIFY(m_ui->fileRequests().empty());
+  QVERIFY(m_ui.fileRequests().empty());
 }
 
 void TradeOffsExportsDialogTest::saveAsCsvWritesTheWeightGridWithDecimalPointsInAnyLocale() {
   QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
   QTemporaryDir dir;
   const QString path = dir.filePath(QStringLiteral("weights.csv"));
-  m_ui->setSaveFile(path.toStdString());
+  m_ui.setSaveFile(path.toStdString());
   clickButton(m_dialog.get(), "cmdSaveCsv");
-  QCOMPARE(m_ui->fileRequests().size(), std::size_t{1});
-  QCOMPARE(m_ui->fileRequests().back().filter, std::string("CSV files (*.csv)"));
-  QCOMPARE(m_ui->fileRequests().back().suggestedName, std::string("Office site_weights.csv"));
+  QCOMPARE(m_ui.fileRequests().size(), std::size_t{1});
+  QCOMPARE(m_ui.fileRequests().back().filter, std::string("CSV files (*.csv)"));
+  QCOMPARE(m_ui.fileRequests().back().suggestedName, std::string("Office site_weights.csv"));
   const QString csv = QString::fromUtf8(readAll(path));
   QCOMPARE(csv, shownLines(*grid(), QLatin1Char(',')).join(QStringLiteral("\r\n")) +
                     QStringLiteral("\r\n"));
   QVERIFY2(csv.contains(QRegularExpression(QStringLiteral("\\r\\nAtt1,-?\\d+\\.\\d{4},"))),
            qPrintable(csv));
-  QVERIFY(m_ui->messages().empty());
+  QVERIFY(m_ui.messages().empty());
 }
 
 void TradeOffsExportsDialogTest::cancellingTheCsvFileWritesNothingAndSaysNothing() {
   QTemporaryDir dir;
-  m_ui->setSaveFile("");
+  m_ui.setSaveFile("");
   clickButton(m_dialog.get(), "cmdSaveCsv");
-  QCOMPARE(m_ui->fileRequests().size(), std::size_t{1});
+  QCOMPARE(m_ui.fileRequests().size(), std::size_t{1});
   QVERIFY(QDir(dir.path()).entryList(QDir::Files).isEmpty());
-  QVERIFY(m_ui->messages().empty());
+  QVERIFY(m_ui.messages().empty());
 }
 
 void TradeOffsExportsDialogTest::aCsvFileThatCannotBeWrittenIsReportedAndChangesNothing() {
@@ -165,13 +157,13 @@ void TradeOffsExportsDialogTest::aCsvFileThatCannotBeWrittenIsReportedAndChanges
   // The chosen name is taken by a folder, which no file can replace.
   const QString path = dir.filePath(QStringLiteral("weights.csv"));
   QVERIFY(QDir().mkdir(path));
-  m_ui->setSaveFile(path.toStdString());
+  m_ui.setSaveFile(path.toStdString());
   const auto eventsBefore = m_events.log;
   clickButton(m_dialog.get(), "cmdSaveCsv");
-  QCOMPARE(m_ui->messages().size(), std::size_t{1});
-  QCOMPARE(m_ui->messages().back().title, std::string("NORIX"));
-  QVERIFY(m_ui->messages().back().icon == MessageIcon::Exclamation);
-  QCOMPARE(QString::fromStdString(m_ui->messages().back().text), ResultsExport::writeError(path));
+  QCOMPARE(m_ui.messages().size(), std::size_t{1});
+  QCOMPARE(m_ui.messages().back().title, std::string("NORIX"));
+  QVERIFY(m_ui.messages().back().icon == MessageIcon::Exclamation);
+  QCOMPARE(QString::fromStdString(m_ui.messages().back().text), ResultsExport::writeError(path));
   QVERIFY(QFileInfo(path).isDir());
   QCOMPARE(QDir(dir.path()).entryList(QDir::Files), QStringList());
   QCOMPARE(m_events.log, eventsBefore);
@@ -185,16 +177,16 @@ void TradeOffsExportsDialogTest::saveChartAsSvgWritesTheChartInView() {
   }
   QTemporaryDir dir;
   const QString path = dir.filePath(QStringLiteral("chart.svg"));
-  m_ui->setSaveFile(path.toStdString());
+  m_ui.setSaveFile(path.toStdString());
   clickButton(m_dialog.get(), "cmdSaveSvg");
-  QCOMPARE(m_ui->fileRequests().back().filter, std::string("SVG images (*.svg)"));
-  QCOMPARE(m_ui->fileRequests().back().suggestedName, std::string("Office site_chart.svg"));
+  QCOMPARE(m_ui.fileRequests().back().filter, std::string("SVG images (*.svg)"));
+  QCOMPARE(m_ui.fileRequests().back().suggestedName, std::string("Office site_chart.svg"));
   const QByteArray bytes = readAll(path);
   QVERIFY(bytes.contains("<svg"));
   QVERIFY(bytes.contains("<title>Attribute Weights and Their Ranges</title>"));
   // The chart in view is the first high-low-close kind, with its legend.
   QVERIFY(bytes.contains(">Close Est.<"));
-  QVERIFY(m_ui->messages().empty());
+  QVERIFY(m_ui.messages().empty());
 }
 
 void TradeOffsExportsDialogTest::cancellingTheSvgFileWritesNothing() {
@@ -203,19 +195,19 @@ void TradeOffsExportsDialogTest::cancellingTheSvgFileWritesNothing() {
     return;
   }
   QTemporaryDir dir;
-  m_ui->setSaveFile("");
+  m_ui.setSaveFile("");
   clickButton(m_dialog.get(), "cmdSaveSvg");
-  QCOMPARE(m_ui->fileRequests().size(), std::size_t{1});
+  QCOMPARE(m_ui.fileRequests().size(), std::size_t{1});
   QVERIFY(QDir(dir.path()).entryList(QDir::Files).isEmpty());
-  QVERIFY(m_ui->messages().empty());
+  QVERIFY(m_ui.messages().empty());
 }
 
 void TradeOffsExportsDialogTest::printStaysAsItWas() {
   QCOMPARE(button("cmdPrint")->text(), QStringLiteral("&Print"));
   QVERIFY(button("cmdPrint")->isEnabled());
   // The exports ask for no file and show no message on their own.
-  QVERIFY(m_ui->fileRequests().empty());
-  QVERIFY(m_ui->messages().empty());
+  QVERIFY(m_ui.fileRequests().empty());
+  QVERIFY(m_ui.messages().empty());
 }
 
 void TradeOffsExportsDialogTest::ctrlCOnTheWeightEstimatesCopiesTheGridAndTheChart() {

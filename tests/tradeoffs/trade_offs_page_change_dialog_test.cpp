@@ -40,15 +40,12 @@ class ResizeCounter : public QObject {
 
 }  // namespace
 
-class TradeOffsPageChangeDialogTest : public QObject {
+class TradeOffsPageChangeDialogTest : public QObject, TradeOffDialogParts {
   Q_OBJECT
 
  private:
   std::unique_ptr<TradeOffsADialog> openOnResults() {
-    m_context.model = makeModel(3);
-    auto d = std::make_unique<TradeOffsADialog>(m_context, m_ui, m_events, &m_random);
-    d->resize(900, 620);
-    d->showModal();
+    auto d = showDialog(makeModel(3), {900, 620});
     [&] { QVERIFY(QTest::qWaitForWindowExposed(d.get())); }();
     typeScores(d.get(), "6", "2", "3", "7");
     clickButton(d.get(), "cmdTradeOffEnter");
@@ -57,10 +54,6 @@ class TradeOffsPageChangeDialogTest : public QObject {
     return d;
   }
 
-  WizardContext m_context;
-  RecordingUiServices m_ui;
-  RecordingTradeOffsEvents m_events;
-  SequenceRandomSource m_random{{0.2f, 0.7f, 0.4f, 0.9f, 0.1f, 0.6f}};
 
  private slots:
   void cleanup() {

@@ -107,18 +107,14 @@ AttributeModel namedModel(int n) {
 
 }  // namespace
 
-class TradeOffsPrintDialogTest : public QObject {
+class TradeOffsPrintDialogTest : public QObject, TradeOffDialogParts {
   Q_OBJECT
 
  private:
   // A shown dialog on its results page after every trade-off of the automatic cycle.
   std::unique_ptr<TradeOffsADialog> resultsOf(int numAtt) {
-    m_context.model = namedModel(numAtt);
-    auto d = std::make_unique<TradeOffsADialog>(m_context, m_ui, m_events, &m_random);
-    d->showModal();
-    auto* enter = child<QPushButton>(d.get(), QStringLiteral("cmdTradeOffEnter"));
-    while (enter->isEnabled()) enter->click();
-    clickButton(d.get(), "cmdNext");
+    auto d = showDialog(namedModel(numAtt));
+    enterEveryTradeOffAndGoNext(d.get());
     return d;
   }
   static QPrintDialog* openPrintDialog(TradeOffsADialog* d) {
@@ -128,10 +124,6 @@ class TradeOffsPrintDialogTest : public QObject {
     return print;
   }
 
-  WizardContext m_context;
-  RecordingUiServices m_ui;
-  RecordingTradeOffsEvents m_events;
-  SequenceRandomSource m_random{{0.2f, 0.7f, 0.4f, 0.9f, 0.1f, 0.6f}};
 
  private slots:
   void cleanup() {

@@ -6,7 +6,7 @@ namespace tnw::tradeoffs {
 
 using namespace tnw::testing;
 
-class TradeOffsScoreBoxTest : public QObject {
+class TradeOffsScoreBoxTest : public QObject, TradeOffDialogParts {
   Q_OBJECT
 
  private slots:
@@ -19,9 +19,7 @@ class TradeOffsScoreBoxTest : public QObject {
 
  private:
   std::unique_ptr<TradeOffsADialog> open() {
-    m_context.model = makeModel(3);
-    auto d = std::make_unique<TradeOffsADialog>(m_context, m_ui, m_events, &m_random);
-    d->showModal();
+    auto d = showDialog(makeModel(3));
     [&] {
       QVERIFY(QTest::qWaitForWindowExposed(d.get()));
       d->activateWindow();
@@ -30,10 +28,6 @@ class TradeOffsScoreBoxTest : public QObject {
     return d;
   }
 
-  WizardContext m_context;
-  RecordingUiServices m_ui;
-  RecordingTradeOffsEvents m_events;
-  SequenceRandomSource m_random{{0.2f, 0.7f, 0.4f, 0.9f, 0.1f, 0.6f}};
 };
 
 void TradeOffsScoreBoxTest::keysHeldWithCtrlAltOrMetaTypeNothing() {
