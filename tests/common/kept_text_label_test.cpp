@@ -1,12 +1,14 @@
 #include "common/ui/kept_text_label.h"
 
 #include "common/ui/elided_label_widget.h"
+#include "common/ui/kept_text.h"
 #include "common/ui/wrapped_label.h"
 
 // Qt
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QtTest>
 
 // Std
@@ -162,6 +164,37 @@ class KeptTextLabelTest : public QObject {
     stock.resize(180, 80);
     QCOMPARE(painted(wrapped), painted(stock));
     QCOMPARE(wrapped.laidOut(), 2);
+  }
+
+  // A painter on an image lays text out in the text's own direction (Auto) unless told one:
+  // the kept text draws what drawText draws in each, from its layout when the line runs left to
+  // right.
+  void keptTextDrawsAsDrawTextInEveryPainterDirection() {
+    const QString text = QStringLiteral("Fuel &consumption in town");
+    const int flags = Qt::AlignCenter | Qt::TextShowMnemonic;
+    const auto draw = [&](Qt::LayoutDirection direction, const std::function<void(QPainter&)>& f) {
+      QImage image(220, 30, QImage::Format_ARGB32_Premultiplied);
+      image.fill(Qt::white);
+      QPainter p(&image);
+      if (direction != Qt::LayoutDirectionAuto) p.setLayoutDirection(direction);
+      f(p);
+      return image;
+    };
+    {
+      QImage image(1, 1, QImage::Format_ARGB32_Premultiplied);
+      QCOMPARE(QPainter(&image).layoutDirection(), Qt::LayoutDirectionAuto);
+    }
+    const QRect room(0, 0, 220, 30);
+    KeptText kept;
+    int layouts = 0;
+    for (const auto direction : {Qt::LayoutDirectionAuto, Qt::LeftToRight, Qt::RightToLeft}) {
+      const QImage mine = draw(direction, [&](QPainter& p) { kept.draw(p, room, flags, text); });
+      const QImage theirs = draw(direction, [&](QPainter& p) { p.drawText(room, flags, text); });
+      QCOMPARE(mine, theirs);
+      // Auto and left to right share one layout; right to left is drawText's own.
+      QCOMPARE(kept.laidOut(), direction == Qt::RightToLeft ? layouts : 1);
+      layouts = kept.laidOut();
+    }
   }
 
   // The shortened name is painted as a QLabel showing the shortened text paints it.

@@ -110,8 +110,11 @@ void KeptText::layOut(const QString& text, const QFont& font, int flags, QSizeF 
 void KeptText::draw(QPainter& painter, const QRect& rect, int flags, const QString& text) {
   if (text.isEmpty()) return;
   const QFont& font = painter.font();
-  const bool leftToRight =
-      (flags & Qt::TextForceLeftToRight) != 0 || painter.layoutDirection() == Qt::LeftToRight;
+  // drawText lays a text out in the painter's direction or, when that is Auto, in the text's own.
+  const Qt::LayoutDirection direction =
+      (flags & Qt::TextForceLeftToRight) != 0 ? Qt::LeftToRight : painter.layoutDirection();
+  const bool leftToRight = direction == Qt::LeftToRight ||
+                           (direction == Qt::LayoutDirectionAuto && !text.isRightToLeft());
   if (!leftToRight || !canKeep(text, flags, font)) {
     painter.drawText(rect, flags, text);
     return;

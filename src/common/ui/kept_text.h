@@ -27,8 +27,9 @@ class KeptText {
   static bool drawsPlainItemText(const QStyle* style);
 
   // Draws text in rect with the painter's font and pen, as painter.drawText(rect, flags, text)
-  // does: from the kept layout when canKeep(text, flags, painter.font()) holds and the painter
-  // lays text out left to right, otherwise by drawText itself.
+  // does: from the kept layout when canKeep(text, flags, painter.font()) holds and the line runs
+  // left to right (the painter's direction, or the text's own when the painter's is Auto, as on
+  // an image), otherwise by drawText itself.
   void draw(QPainter& painter, const QRect& rect, int flags, const QString& text);
 
   // How many times the text was laid out (for tests).
