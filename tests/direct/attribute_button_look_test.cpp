@@ -267,6 +267,25 @@ class AttributeButtonLookTest : public QObject {
     check(true, "bold");
   }
 
+  void aPaintAgainLaysNothingOutAndANewTextIsLaidOutOnce() {
+    AttributeButtonWidget button(QStringLiteral("cmdAttA"), 0);
+    button.setText(QStringLiteral("Running cost"));
+    button.resize(button.sizeHint() + QSize(30, 0));
+    const QImage first = pixels(button, 1);
+    const int layouts = button.captionLayouts();
+    QCOMPARE(layouts, 1);
+    // Another scale or ground paints the kept picture again or draws from the kept layout.
+    pixels(button, 2);
+    pixels(button, 1, QColor(0x30, 0x40, 0x50));
+    QCOMPARE(pixels(button, 1), first);
+    QCOMPARE(button.captionLayouts(), layouts);
+    button.setText(QStringLiteral("Comfort"));
+    const QImage changed = pixels(button, 1);
+    QVERIFY(changed != first);
+    pixels(button, 1);
+    QCOMPARE(button.captionLayouts(), layouts + 1);
+  }
+
   void theFocusedButtonPaintsWhatTheStyleSheetPainted_data() {
     QTest::addColumn<bool>("marked");
     QTest::addColumn<int>("reason");

@@ -31,12 +31,7 @@ void ElidedLabelWidget::updateToolTip() {
 }
 
 QString ElidedLabelWidget::shownText() const {
-  const QString full = text();
-  const int width = contentsRect().width();
-  if (width != m_shortened.width || full != m_shortened.text || font() != m_shortened.font) {
-    m_shortened = {full, font(), width, fontMetrics().elidedText(full, Qt::ElideRight, width)};
-  }
-  return m_shortened.shown;
+  return m_shortened.of(text(), *this, contentsRect().width());
 }
 
 QSize ElidedLabelWidget::minimumSizeHint() const { return sizeHint(); }

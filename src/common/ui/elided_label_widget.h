@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/ui/elided_text.h"
 #include "common/ui/kept_text.h"
 
 // Qt
@@ -37,14 +38,7 @@ class ElidedLabelWidget : public QLabel {
   void updateToolTip();
 
   QString m_heading;
-  // The text last shortened, for the font and width it was shortened for, and what it became.
-  struct Shortened {
-    QString text;
-    QFont font;
-    int width = -1;
-    QString shown;
-  };
-  mutable Shortened m_shortened;
+  mutable ElidedText m_shortened;
   KeptText m_kept;
 };
 

@@ -13,8 +13,7 @@
 #include <QStyle>
 #include <QStyleOptionButton>
 #include <QStyleOptionFocusRect>
-#include <QTextLine>
-#include <QTextOption>
+#include <QtMath>
 
 // Std
 #include <algorithm>
@@ -27,28 +26,6 @@ constexpr int kVerticalPadding = 2;
 const QColor kFrameColour(0x70, 0x70, 0x70);
 const QColor kMarkedFrameColour(0xc0, 0x00, 0x00);
 const QColor kFocusFrameColour(0x00, 0x50, 0xc0);
-
-// Strips the mnemonic marks from text the way QPainter::drawText does: "&&" stays one "&", any
-// other "&" goes and, when shortcuts are underlined, underlines the character after it.
-QString stripMnemonics(const QString& text, bool underline,
-                       QList<QTextLayout::FormatRange>* ranges) {
-  QString out;
-  out.reserve(text.size());
-  for (qsizetype i = 0; i < text.size(); ++i) {
-    if (text[i] == QLatin1Char('&')) {
-      if (++i == text.size()) break;
-      if (text[i] != QLatin1Char('&') && underline) {
-        QTextLayout::FormatRange range;
-        range.start = static_cast<int>(out.size());
-        range.length = 1;
-        range.format.setFontUnderline(true);
-        ranges->append(range);
-      }
-    }
-    out.append(text[i]);
-  }
-  return out;
-}
 
 }  // namespace
 
@@ -110,68 +87,23 @@ QRect AttributeButtonWidget::contentsRect(const QRect& rect) const {
 }
 
 QString AttributeButtonWidget::shownText() const {
-  const QSize room = contentsRect(rect()).size();
-  if (m_caption.room == room && m_caption.text == text() && m_caption.font == font())
-    return m_caption.shown;
-  return fontMetrics().elidedText(text(), Qt::ElideRight, std::max(room.width(), 0));
+  return m_shown.of(text(), *this, std::max(contentsRect(rect()).width(), 0));
 }
 
-const AttributeButtonWidget::Caption& AttributeButtonWidget::caption(
-    const QSize& room, bool underline, Qt::LayoutDirection direction) const {
-  Caption& c = m_caption;
-  if (c.room == room && c.underline == underline && c.direction == direction && c.text == text() &&
-      c.font == font())
-    return c;
-  c.text = text();
-  c.room = room;
-  c.font = font();
-  c.direction = direction;
-  c.underline = underline;
-  c.shown = fontMetrics().elidedText(c.text, Qt::ElideRight, std::max(room.width(), 0));
-  // Laid out as QPainter::drawText lays out one centred line: returns start a new line, tabs
-  // and carriage returns are spaces.
-  QString laid = c.shown;
-  for (QChar& ch : laid) {
-    if (ch == QLatin1Char('\n')) ch = QChar::LineSeparator;
-    if (ch == QLatin1Char('\r') || ch == QLatin1Char('\t')) ch = QLatin1Char(' ');
-  }
-  QList<QTextLayout::FormatRange> underlined;
-  laid = stripMnemonics(laid, underline, &underlined);
-  c.layout.clearLayout();
-  c.layout.setText(laid);
-  c.layout.setFont(QFont(c.font, this));
-  QTextOption option(Qt::AlignLeft);
-  option.setTextDirection(c.direction);
-  c.layout.setTextOption(option);
-  c.layout.setCacheEnabled(true);
-  c.layout.setFormats(underlined);
-  ++c.generation;
-  c.advance = 0;
-  c.height = 0;
-  if (laid.isEmpty()) return c;
-  const qreal leading = QFontMetricsF(c.layout.font()).leading();
-  c.layout.beginLayout();
-  for (QTextLine line = c.layout.createLine(); line.isValid(); line = c.layout.createLine()) {
-    line.setLineWidth(0x01000000);
-    if (line.lineNumber() > 0) c.height += leading;
-    c.height = std::ceil(c.height);
-    line.setPosition(QPointF(0, c.height));
-    c.height += line.ascent() + line.descent();
-    c.advance = std::max(c.advance, line.naturalTextWidth());
-    if (c.height >= room.height()) break;
-  }
-  c.layout.endLayout();
-  return c;
-}
-
-void AttributeButtonWidget::paintCaption(QPainter& painter, const QRect& room) const {
+int AttributeButtonWidget::captionFlags() const {
   QStyleOptionButton option;
   initStyleOption(&option);
   const bool underline = style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this);
-  const Caption& c = caption(room.size(), underline, painter.layoutDirection());
-  if (c.layout.text().isEmpty()) return;
+  return Qt::AlignCenter | Qt::TextShowMnemonic | (underline ? 0 : Qt::TextHideMnemonic);
+}
+
+void AttributeButtonWidget::paintCaption(QPainter& painter, const QRect& room) const {
+  const QString shown = shownText();
+  if (shown.isEmpty()) return;
   if (!isEnabled()) {
     // A disabled caption is drawn as the style draws one (some etch it), in black on the face.
+    QStyleOptionButton option;
+    initStyleOption(&option);
     QPalette palette = option.palette;
     palette.setColor(QPalette::ButtonText, Qt::black);
     palette.setColor(QPalette::WindowText, Qt::black);
@@ -182,24 +114,12 @@ void AttributeButtonWidget::paintCaption(QPainter& painter, const QRect& room) c
     palette.setColor(QPalette::Midlight, m_face.lighter(107));
     palette.setColor(QPalette::Dark, m_face.darker(150));
     palette.setColor(QPalette::Shadow, m_face.darker(300));
-    int flags = Qt::AlignCenter | Qt::TextShowMnemonic;
-    if (!underline) flags |= Qt::TextHideMnemonic;
-    style()->drawItemText(&painter, room, flags, palette, false, c.shown, QPalette::ButtonText);
+    style()->drawItemText(&painter, room, captionFlags(), palette, false, shown,
+                          QPalette::ButtonText);
     return;
   }
   painter.setPen(QPen(QBrush(Qt::black), 1));
-  const QPointF at(room.x() + (room.width() - c.advance) / 2,
-                   room.y() + (room.height() - c.height) / 2);
-  const bool clip = !QRectF(room).contains(QRectF(at, QSizeF(c.advance, c.height)));
-  if (clip) {
-    painter.save();
-    painter.setClipRect(room, Qt::IntersectClip);
-  }
-  for (int i = 0; i < c.layout.lineCount(); ++i) {
-    const QTextLine line = c.layout.lineAt(i);
-    line.draw(&painter, QPointF(room.x() + (room.width() - line.horizontalAdvance()) / 2, at.y()));
-  }
-  if (clip) painter.restore();
+  m_caption.draw(painter, room, captionFlags(), shown);
 }
 
 void AttributeButtonWidget::paintInside(QPainter& painter, const QColor& face, const QRect& room,
@@ -211,24 +131,23 @@ void AttributeButtonWidget::paintInside(QPainter& painter, const QColor& face, c
     paintCaption(painter, room);
     return;
   }
-  QStyleOptionButton option;
-  initStyleOption(&option);
-  const bool underline = style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this);
-  const Caption& c = caption(room.size(), underline, painter.layoutDirection());
-  const QRect roomInside = room.translated(-inside.topLeft());
-  if (m_inside.isNull() || m_insideGeneration != c.generation || m_insideFace != face.rgba() ||
-      m_insideRoom != roomInside || m_inside.devicePixelRatio() != ratio ||
-      m_inside.deviceIndependentSize() != QSizeF(inside.size())) {
+  const Inside key{shownText(),   captionFlags(),
+                   font(),        painter.layoutDirection(),
+                   face.rgba(),   room.translated(-inside.topLeft()),
+                   inside.size(), ratio};
+  if (m_inside.isNull() || key != m_insideKey) {
     m_inside = QImage(inside.size() * ratio, QImage::Format_ARGB32_Premultiplied);
     m_inside.setDevicePixelRatio(ratio);
+    // Text is laid out for the widget's resolution, as on the widget itself.
+    m_inside.setDotsPerMeterX(qRound(logicalDpiX() / 0.0254));
+    m_inside.setDotsPerMeterY(qRound(logicalDpiY() / 0.0254));
     m_inside.fill(face);
     QPainter picture(&m_inside);
     picture.setLayoutDirection(painter.layoutDirection());
+    picture.setFont(font());
     picture.translate(-inside.topLeft());
     paintCaption(picture, room);
-    m_insideGeneration = c.generation;
-    m_insideFace = face.rgba();
-    m_insideRoom = roomInside;
+    m_insideKey = key;
   }
   painter.drawImage(inside.topLeft(), m_inside);
 }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "common/ui/elided_text.h"
+#include "common/ui/kept_text.h"
+
 // Qt
 #include <QColor>
 #include <QFont>
@@ -8,7 +11,6 @@
 #include <QPushButton>
 #include <QSize>
 #include <QString>
-#include <QTextLayout>
 
 namespace tnw::direct {
 
@@ -47,6 +49,8 @@ class AttributeButtonWidget : public QPushButton {
   QSize minimumSizeHint() const override;
   // The caption as it is painted now: the whole name, or its start and an ellipsis.
   QString shownText() const;
+  // How many times the caption was laid out (for tests).
+  int captionLayouts() const { return m_caption.laidOut(); }
 
  protected:
   // Paints the face, the frame and the caption elided to the room inside the frame.
@@ -59,28 +63,26 @@ class AttributeButtonWidget : public QPushButton {
   bool hitButton(const QPoint& pos) const override;
 
  private:
-  // The caption as laid out for painting, and what it was laid out for.
-  struct Caption {
-    QString text;
-    QSize room{-1, -1};
+  // What the kept picture of the face and caption between the frame's sides was painted for.
+  struct Inside {
+    QString shown;
+    int flags = 0;
     QFont font;
     Qt::LayoutDirection direction = Qt::LeftToRight;
-    bool underline = false;
-    QString shown;
-    QTextLayout layout;
-    qreal advance = 0;
-    qreal height = 0;
-    // Counts the layouts, so that a picture of the caption knows when it is out of date.
-    int generation = 0;
+    QRgb face = 0;
+    QRect room;
+    QSize size;
+    int ratio = 0;
+    friend bool operator==(const Inside&, const Inside&) = default;
   };
 
   int borderWidth() const { return m_marked ? 3 : 1; }
   int leftPadding() const { return m_marked ? 22 : 8; }
   // The room inside the frame and the padding, in widget coordinates.
   QRect contentsRect(const QRect& rect) const;
-  // The caption laid out for the room; laid out again when the text, the room, the font, the
-  // underlining of shortcuts or the text direction changed.
-  const Caption& caption(const QSize& room, bool underline, Qt::LayoutDirection direction) const;
+  // The flags the caption is drawn with: centred, with its mnemonic underlined when the style
+  // underlines shortcuts.
+  int captionFlags() const;
   void paintCaption(QPainter& painter, const QRect& room) const;
   // Paints the face and caption between the frame's sides from a kept picture, painted again
   // when the caption, the face colour, the room or the scale changed.
@@ -93,11 +95,11 @@ class AttributeButtonWidget : public QPushButton {
   bool m_marked = false;
   QPoint m_pressPos;
   bool m_pressed = false;
-  mutable Caption m_caption;
+  // The caption elided to the room, and its layout.
+  mutable ElidedText m_shown;
+  mutable KeptText m_caption;
   mutable QImage m_inside;
-  mutable int m_insideGeneration = -1;
-  mutable QRgb m_insideFace = 0;
-  mutable QRect m_insideRoom;
+  mutable Inside m_insideKey;
   mutable QString m_hintText;
   mutable QSize m_hint;
 };
