@@ -1,5 +1,6 @@
 #include "direct/ui/attribute_button_widget.h"
 
+#include "common/ui/whole_device_pixels.h"
 #include "direct/ui/attribute_drop_filter.h"
 #include "direct/ui/button_frame.h"
 
@@ -160,7 +161,7 @@ void AttributeButtonWidget::paintEvent(QPaintEvent*) {
   const QColor face = isDown() ? m_face.darker(115) : m_face;
   ButtonFrame::paint(painter, rect(), face, border, borderWidth());
   const QRect room = contentsRect(rect());
-  const int ratio = ButtonFrame::wholeRatio(painter);
+  const int ratio = wholeDeviceRatio(painter);
   if (isEnabled() && ratio > 0) {
     paintInside(painter, face, room, ratio);
   } else {

@@ -1,14 +1,14 @@
 #include "direct/ui/button_frame.h"
 
+#include "common/ui/whole_device_pixels.h"
+
 // Qt
 #include <QImage>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPen>
-#include <QTransform>
 
 // Std
-#include <cmath>
 #include <map>
 #include <tuple>
 
@@ -109,22 +109,11 @@ void ButtonFrame::paintSmooth(QPainter& painter, const QRect& rect, const QColor
   painter.restore();
 }
 
-int ButtonFrame::wholeRatio(const QPainter& painter) {
-  const QTransform device = painter.deviceTransform();
-  const qreal ratio = device.m11();
-  const int whole = static_cast<int>(std::lround(ratio));
-  const bool aligned = painter.transform().isIdentity() && device.type() <= QTransform::TxScale &&
-                       ratio == device.m22() && whole >= 1 && ratio == whole &&
-                       device.dx() == std::round(device.dx()) &&
-                       device.dy() == std::round(device.dy());
-  return aligned ? whole : 0;
-}
-
 void ButtonFrame::paint(QPainter& painter, const QRect& rect, const QColor& face,
                         const QColor& border, int width) {
   // The kept corners fit whole device pixels only: a small, fractionally scaled or transformed
   // frame is stroked.
-  const int whole = wholeRatio(painter);
+  const int whole = wholeDeviceRatio(painter);
   if (whole == 0 || width > kRadius || rect.width() < kCornerSource ||
       rect.height() < kCornerSource) {
     paintSmooth(painter, rect, face, border, width);

@@ -16,9 +16,6 @@ class ButtonFrame {
   // The radius of the corners.
   static constexpr int kRadius = 3;
 
-  // The whole number of device pixels to a pixel the painter paints with, or 0 when its pixels
-  // do not fall on whole device pixels (a fractional scale, a turn, a shift by part of a pixel).
-  static int wholeRatio(const QPainter& painter);
   // Paints the face and the frame over rect.
   static void paint(QPainter& painter, const QRect& rect, const QColor& face, const QColor& border,
                     int width);

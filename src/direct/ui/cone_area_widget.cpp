@@ -1,16 +1,15 @@
 #include "direct/ui/cone_area_widget.h"
 
+#include "common/ui/whole_device_pixels.h"
 #include "direct/core/preference_cone.h"
 
 // Qt
 #include <QFrame>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QTransform>
 
 // Std
 #include <algorithm>
-#include <cmath>
 
 namespace tnw::direct {
 namespace {
@@ -122,13 +121,8 @@ void ConeAreaWidget::paintEvent(QPaintEvent*) {
   // The drawing is kept as a picture until the cone, the side, the size, the scale or the colours
   // change: the page is often shown again with the same cone. While a handle is dragged the cone
   // changes at every step, and a picture fitting whole device pixels only is kept.
-  const QTransform device = p.deviceTransform();
-  const qreal ratio = device.m11();
-  const bool keep = m_dragging < 0 && device.type() <= QTransform::TxScale &&
-                    ratio == device.m22() && ratio >= 1 && ratio == std::round(ratio) &&
-                    device.dx() == std::round(device.dx()) &&
-                    device.dy() == std::round(device.dy());
-  if (!keep) {
+  const int ratio = wholeDeviceRatio(p);
+  if (m_dragging >= 0 || ratio == 0) {
     m_picture = QImage();
     paintArea(p);
     return;
@@ -136,7 +130,7 @@ void ConeAreaWidget::paintEvent(QPaintEvent*) {
   if (m_picture.isNull() || m_picture.devicePixelRatio() != ratio ||
       m_picture.deviceIndependentSize() != QSizeF(size()) || m_pictureCone != m_cone ||
       m_pictureSide != m_side || m_picturePalette != palette().cacheKey()) {
-    m_picture = QImage(size() * static_cast<int>(ratio), QImage::Format_ARGB32_Premultiplied);
+    m_picture = QImage(size() * ratio, QImage::Format_ARGB32_Premultiplied);
     m_picture.setDevicePixelRatio(ratio);
     QPainter picture(&m_picture);
     paintArea(picture);

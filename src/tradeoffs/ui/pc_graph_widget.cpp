@@ -93,10 +93,6 @@ void PcGraphWidget::dragPointTo(PcPointWidget* shape, QPointF widgetPos, bool fi
   emit pointDragged(which, fraction, final);
 }
 
-bool PcGraphWidget::GridColours::operator==(const GridColours& other) const {
-  return background == other.background && grid == other.grid && axes == other.axes;
-}
-
 void PcGraphWidget::changeEvent(QEvent* event) {
   if (event->type() == QEvent::PaletteChange) m_grid = QPixmap();
   QFrame::changeEvent(event);
@@ -110,7 +106,7 @@ void PcGraphWidget::paintEvent(QPaintEvent* event) {
   const GridColours colours{palette().brush(backgroundRole()), palette().color(QPalette::Mid),
                             palette().color(QPalette::WindowText)};
   if (m_grid.isNull() || m_grid.size() != size() * ratio || m_grid.devicePixelRatio() != ratio ||
-      !(colours == m_gridColours)) {
+      colours != m_gridColours) {
     m_gridColours = colours;
     // The grid is drawn once over the background, so that a paint copies it as an opaque
     // picture instead of blending a transparent one; its lines are not antialiased, so the pixels

@@ -68,7 +68,7 @@ class PcGraphWidget : public QFrame {
     QColor grid;
     QColor axes;
 
-    bool operator==(const GridColours& other) const;
+    friend bool operator==(const GridColours&, const GridColours&) = default;
   };
 
   // The background, the grid and the axes as last drawn: a drag repaints the panel at every
