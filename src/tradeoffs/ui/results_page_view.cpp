@@ -4,6 +4,7 @@
 #include "graphs/ui/painter_surface.h"
 #include "graphs/ui/results_export.h"
 #include "tradeoffs/core/results_page.h"
+#include "tradeoffs/ui/grid_column_widths.h"
 #include "tradeoffs/ui/tradeoffs_results_widget.h"
 
 // Qt
@@ -75,9 +76,10 @@ bool TradeOffsResultsWidget::renderGrid(QTableWidget& table, const wizard::GridS
       }
     }
   }
-  // The number columns are measured once per change, not each time the grid is shown.
+  // The number columns are measured once per change, not each time the grid is shown, and only
+  // their widest cells are asked for their size.
   if (changed) {
-    for (int c = 1; c < cols; ++c) table.resizeColumnToContents(c);
+    for (int c = 1; c < cols; ++c) GridColumnWidths::fit(table, c);
   }
   return changed;
 }
