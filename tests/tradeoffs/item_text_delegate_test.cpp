@@ -3,6 +3,8 @@
 // Qt
 #include <QApplication>
 #include <QListWidget>
+#include <QScreen>
+#include <QSignalBlocker>
 #include <QStyledItemDelegate>
 #include <QTableWidget>
 #include <QtTest>
@@ -190,6 +192,55 @@ class ItemTextDelegateTest : public QObject {
     const int drawn = delegate->itemsDrawn();
     QVERIFY(ours.viewport()->grab().toImage() == first);
     QCOMPARE(delegate->itemsDrawn(), drawn);
+  }
+
+  // On the screen a new cell is drawn once, in place, and its pixels are kept from there; a cell
+  // painted only in part is not kept from the screen, whose pixels outside the part are old.
+  void cellsOnTheScreenAreKeptFromItsPixels() {
+    QTableWidget ours(8, 3);
+    QTableWidget styled(8, 3);
+    auto* delegate = new ItemTextDelegate(&ours);
+    ours.setItemDelegate(delegate);
+    styled.setItemDelegate(new QStyledItemDelegate(&styled));
+    for (QTableWidget* grid : {&ours, &styled}) {
+      grid->setAlternatingRowColors(true);
+      grid->setWordWrap(false);
+      for (int r = 0; r < 8; ++r)
+        for (int c = 0; c < 3; ++c)
+          grid->setItem(r, c, new QTableWidgetItem(QStringLiteral("%1.%2").arg(r).arg(c * 7)));
+      grid->setCurrentCell(-1, -1);
+      grid->clearFocus();
+      grid->resize(360, 320);
+      grid->show();
+    }
+    QApplication::processEvents();
+    QVERIFY(delegate->imagesPainted() >= 24);
+    QCOMPARE(delegate->imagesDrawnApart(), 0);
+    // The screen shows the style's pixels, and painting it again copies the kept cells.
+    const auto screen = [](QTableWidget& grid) {
+      return QApplication::primaryScreen()->grabWindow(grid.winId()).toImage();
+    };
+    QVERIFY(screen(ours) == screen(styled));
+    // (The first paint came before the window was active, which items are drawn with.)
+    ours.viewport()->repaint();
+    QCOMPARE(delegate->imagesDrawnApart(), 0);
+    const int drawn = delegate->itemsDrawn();
+    ours.viewport()->repaint();
+    QCOMPARE(delegate->itemsDrawn(), drawn);
+    QVERIFY(screen(ours) == screen(styled));
+    // A new text whose cell is repainted only in its left half: that half shows it, and the
+    // whole cell, painted later, is the style's.
+    for (QTableWidget* grid : {&ours, &styled}) {
+      const QSignalBlocker quiet(grid->model());
+      grid->item(3, 1)->setText(QStringLiteral("1234.5"));
+    }
+    const QRect cell = ours.visualItemRect(ours.item(3, 1));
+    const int apart = delegate->imagesDrawnApart();
+    ours.viewport()->repaint(cell.adjusted(0, 0, -cell.width() / 2, 0));
+    QCOMPARE(delegate->imagesDrawnApart(), apart + 1);
+    ours.viewport()->repaint();
+    styled.viewport()->repaint();
+    QVERIFY(screen(ours) == screen(styled));
   }
 
   // A text too long for a list that does not wrap is elided by the style, once.

@@ -2,6 +2,7 @@
 
 // Qt
 #include <QApplication>
+#include <QImage>
 #include <QListView>
 #include <QPaintEngine>
 #include <QPainter>
@@ -19,6 +20,36 @@ namespace {
 constexpr qsizetype kMostTexts = 512;
 // The kept images of one view: about the cells of a few screens of a grid.
 constexpr int kMostImages = 2048;
+
+// Where `rect` lies on the image the painter draws on (a widget's backing store, or an image),
+// when that is a 32-bit image at one device pixel per pixel, moved by whole pixels and not clipped
+// inside `rect`, without opacity or another composition: an empty rectangle otherwise.
+QRect deviceRect(const QPainter& painter, const QRect& rect) {
+  QPaintEngine* engine = painter.paintEngine();
+  // A widget's painter draws on its backing store: the engine's device.
+  const QPaintDevice* device = engine != nullptr ? engine->paintDevice() : nullptr;
+  const QTransform& transform = painter.deviceTransform();
+  if (engine == nullptr || engine->type() != QPaintEngine::Raster || device == nullptr ||
+      device->devType() != QInternal::Image || transform.type() > QTransform::TxTranslate ||
+      painter.opacity() != 1.0 ||
+      painter.compositionMode() != QPainter::CompositionMode_SourceOver) {
+    return {};
+  }
+  const auto* image = static_cast<const QImage*>(device);
+  if (image->format() != QImage::Format_RGB32 &&
+      image->format() != QImage::Format_ARGB32_Premultiplied) {
+    return {};
+  }
+  const QRect onDevice = rect.translated(qRound(transform.dx()), qRound(transform.dy()));
+  if (transform.dx() != std::round(transform.dx()) ||
+      transform.dy() != std::round(transform.dy()) || !image->rect().contains(onDevice) ||
+      (painter.hasClipping() && !painter.clipRegion().contains(rect))) {
+    return {};
+  }
+  const QRegion system = engine->systemClip();
+  if (!system.isEmpty() && system.intersected(onDevice) != QRegion(onDevice)) return {};
+  return onDevice;
+}
 
 }  // namespace
 
@@ -111,7 +142,7 @@ void ItemTextDelegate::drawGridLines(QPainter* painter, const QStyleOptionViewIt
 }
 
 bool ItemTextDelegate::paintKept(QPainter* painter, const QStyleOptionViewItem& option,
-                                 const QModelIndex& index, const QStyleOptionViewItem& opt,
+                                 const QModelIndex& index, QStyleOptionViewItem& opt,
                                  const QStaticText* text) const {
   // Only an item drawn on the view's plain background (or its row's alternate colour) can be
   // painted ahead, and only for a raster painter that copies the image pixel for pixel.
@@ -140,7 +171,22 @@ bool ItemTextDelegate::paintKept(QPainter* painter, const QStyleOptionViewItem& 
     m_images.clear();
     m_imageCount = 0;
   }
-  // The item is drawn as it would be on the view, on the view's background.
+  std::vector<KeptImage>& kept = m_images[opt.text];
+  // Drawn on a widget's backing store with nothing clipped, the item's pixels are kept as the
+  // view shows them; the view has drawn its row's panel under it, as later paints do.
+  const QRect onDevice = opt.palette.brush(QPalette::Base).style() == Qt::SolidPattern
+                             ? deviceRect(*painter, opt.rect)
+                             : QRect();
+  if (!onDevice.isEmpty()) {
+    drawItem(painter, option, index, opt, text);
+    const auto* image = static_cast<const QImage*>(painter->paintEngine()->paintDevice());
+    key.image = QPixmap::fromImage(image->copy(onDevice));
+    ++m_imagesPainted;
+    ++m_imageCount;
+    kept.push_back(std::move(key));
+    return true;
+  }
+  // Elsewhere the item is drawn as it would be on the view, on the view's background.
   const QRect at(QPoint(0, 0), opt.rect.size());
   key.image = QPixmap(at.size() * key.pixelRatio);
   key.image.setDevicePixelRatio(key.pixelRatio);
@@ -159,9 +205,9 @@ bool ItemTextDelegate::paintKept(QPainter* painter, const QStyleOptionViewItem& 
     }
     drawItem(&p, movedOption, index, moved, text);
   }
+  ++m_imagesDrawnApart;
   ++m_imagesPainted;
   ++m_imageCount;
-  std::vector<KeptImage>& kept = m_images[opt.text];
   kept.push_back(std::move(key));
   painter->drawPixmap(opt.rect.topLeft(), kept.back().image);
   return true;

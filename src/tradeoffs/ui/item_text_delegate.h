@@ -70,7 +70,8 @@ class KeptSizeDelegate : public QStyledItemDelegate {
 // texts was most of that time. A text the style must elide or wrap is left to the style. A plain
 // item (not selected, without focus, on the view's plain background) is drawn once into a kept
 // image, which later paints copy: a tab shown again copies its grid's cells instead of drawing
-// their glyphs anew. For a grid the delegate draws the grid lines too, as filled edges of each
+// their glyphs anew. On a widget's backing store the item is drawn in place and its pixels are
+// kept from there. For a grid the delegate draws the grid lines too, as filled edges of each
 // cell, which costs less than the view's own lines (the grid turns those off).
 class ItemTextDelegate : public KeptSizeDelegate {
   Q_OBJECT
@@ -91,6 +92,9 @@ class ItemTextDelegate : public KeptSizeDelegate {
   int imagesPainted() const { return m_imagesPainted; }
   // How many times an item was drawn, into a kept image or on the view (for tests).
   int itemsDrawn() const { return m_itemsDrawn; }
+  // How many kept images were drawn apart from the view, rather than kept from its pixels (for
+  // tests).
+  int imagesDrawnApart() const { return m_imagesDrawnApart; }
 
  private:
   // One kept image and the look and resolution it was drawn for (the text is the cache's key).
@@ -106,7 +110,7 @@ class ItemTextDelegate : public KeptSizeDelegate {
   // Paints the item from a kept image of its drawing; false when the item cannot be kept
   // (selected, focused, with a background or an icon of its own, or a painter that scales).
   bool paintKept(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index,
-                 const QStyleOptionViewItem& opt, const QStaticText* text) const;
+                 QStyleOptionViewItem& opt, const QStaticText* text) const;
   // Draws the item: its grid lines, then its text from the kept layout `text`, or by the style
   // (which wraps or elides it) when there is none.
   void drawItem(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index,
@@ -117,6 +121,7 @@ class ItemTextDelegate : public KeptSizeDelegate {
   mutable QHash<QString, std::vector<KeptImage>> m_images;
   mutable int m_imagesPainted = 0;
   mutable int m_itemsDrawn = 0;
+  mutable int m_imagesDrawnApart = 0;
   mutable int m_imageCount = 0;
   bool m_gridLines = false;
 };
