@@ -7,6 +7,8 @@
 #include <QApplication>
 #include <QHeaderView>
 #include <QRandomGenerator>
+#include <QScreen>
+#include <QSignalSpy>
 #include <QTableWidget>
 #include <QtTest>
 
@@ -68,7 +70,7 @@ void fill(QTableWidget& grid, const std::vector<QStringList>& rows) {
 
 }  // namespace
 
-class GridColumnWidthsTest : public QObject {
+class ResultsGridTest : public QObject {
   Q_OBJECT
 
  private slots:
@@ -167,9 +169,45 @@ class GridColumnWidthsTest : public QObject {
       QCOMPARE(grid->columnWidth(c), check->columnWidth(c));
     }
   }
+
+  // New numbers in a shown results grid reach its view as one change, and the screen shows them
+  // as it shows a grid filled with them from the start.
+  void aResultsGridTellsItsViewOnceOfItsNewNumbers() {
+    const QStringList headings = {QStringLiteral("Attributes"), QStringLiteral("Weights"),
+                                  QStringLiteral("Est.High")};
+    const auto state = [](int shift) {
+      wizard::GridState grid;
+      grid.cells.push_back({"Attributes", "Weights", "Est.High"});
+      for (int a = 0; a < 12; ++a) {
+        grid.cells.push_back({"Attribute " + std::to_string(a + 1),
+                              "0." + std::to_string(1000 + 17 * a + shift),
+                              "0." + std::to_string(2000 + 13 * a + shift)});
+      }
+      return grid;
+    };
+    auto grid = makeGrid(headings, QApplication::font(), false);
+    auto fresh = makeGrid(headings, QApplication::font(), false);
+    TradeOffsResultsWidget::renderGrid(*grid, state(0));
+    TradeOffsResultsWidget::renderGrid(*fresh, state(5));
+    grid->show();
+    fresh->show();
+    QApplication::processEvents();
+    QSignalSpy changes(grid->model(), &QAbstractItemModel::dataChanged);
+    QVERIFY(TradeOffsResultsWidget::renderGrid(*grid, state(5)));
+    QCOMPARE(changes.count(), 1);
+    QCOMPARE(grid->item(11, 2)->text(), QStringLiteral("0.2148"));
+    QApplication::processEvents();
+    const auto screen = [](QTableWidget& table) {
+      return QApplication::primaryScreen()->grabWindow(table.winId()).toImage();
+    };
+    QVERIFY(screen(*grid) == screen(*fresh));
+    // Nothing changed, nothing is told.
+    QVERIFY(!TradeOffsResultsWidget::renderGrid(*grid, state(5)));
+    QCOMPARE(changes.count(), 1);
+  }
 };
 
 }  // namespace tnw::tradeoffs
 
-QTEST_MAIN(tnw::tradeoffs::GridColumnWidthsTest)
-#include "grid_column_widths_test.moc"
+QTEST_MAIN(tnw::tradeoffs::ResultsGridTest)
+#include "results_grid_test.moc"
