@@ -243,6 +243,28 @@ class ItemTextDelegateTest : public QObject {
     QVERIFY(screen(ours) == screen(styled));
   }
 
+  // Over a translucent base the screen's pixels hold what lies under the view: the cells are
+  // drawn into images of their own.
+  void cellsOverATranslucentBaseAreDrawnApart() {
+    QTableWidget grid(4, 2);
+    auto* delegate = new ItemTextDelegate(&grid);
+    grid.setItemDelegate(delegate);
+    QPalette palette = grid.palette();
+    palette.setColor(QPalette::Base, QColor(255, 255, 255, 128));
+    grid.setPalette(palette);
+    grid.setWordWrap(false);
+    for (int r = 0; r < 4; ++r)
+      for (int c = 0; c < 2; ++c)
+        grid.setItem(r, c, new QTableWidgetItem(QStringLiteral("%1.%2").arg(r).arg(c)));
+    grid.setCurrentCell(-1, -1);
+    grid.clearFocus();
+    grid.resize(240, 200);
+    grid.show();
+    QApplication::processEvents();
+    QVERIFY(delegate->imagesPainted() >= 8);
+    QCOMPARE(delegate->imagesDrawnApart(), delegate->imagesPainted());
+  }
+
   // A text too long for a list that does not wrap is elided by the style, once.
   void elidedItemsAreTheStyles() {
     ListPair lists(false, kLongLines);

@@ -171,10 +171,11 @@ bool ItemTextDelegate::paintKept(QPainter* painter, const QStyleOptionViewItem& 
     m_images.clear();
     m_imageCount = 0;
   }
-  std::vector<KeptImage>& kept = m_images[opt.text];
-  // Drawn on a widget's backing store with nothing clipped, the item's pixels are kept as the
-  // view shows them; the view has drawn its row's panel under it, as later paints do.
-  const QRect onDevice = opt.palette.brush(QPalette::Base).style() == Qt::SolidPattern
+  // Drawn on a widget's backing store with nothing clipped, over the view's opaque plain
+  // background, the item's pixels are kept as the view shows them; the view has drawn its row's
+  // panel under it, as later paints do.
+  const QBrush& base = opt.palette.brush(QPalette::Base);
+  const QRect onDevice = base.style() == Qt::SolidPattern && base.color().alpha() == 255
                              ? deviceRect(*painter, opt.rect)
                              : QRect();
   if (!onDevice.isEmpty()) {
@@ -183,7 +184,7 @@ bool ItemTextDelegate::paintKept(QPainter* painter, const QStyleOptionViewItem& 
     key.image = QPixmap::fromImage(image->copy(onDevice));
     ++m_imagesPainted;
     ++m_imageCount;
-    kept.push_back(std::move(key));
+    m_images[opt.text].push_back(std::move(key));
     return true;
   }
   // Elsewhere the item is drawn as it would be on the view, on the view's background.
@@ -208,6 +209,7 @@ bool ItemTextDelegate::paintKept(QPainter* painter, const QStyleOptionViewItem& 
   ++m_imagesDrawnApart;
   ++m_imagesPainted;
   ++m_imageCount;
+  std::vector<KeptImage>& kept = m_images[opt.text];
   kept.push_back(std::move(key));
   painter->drawPixmap(opt.rect.topLeft(), kept.back().image);
   return true;
