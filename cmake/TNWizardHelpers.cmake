@@ -55,8 +55,10 @@ function(tnw_lean_startup_link target)
     return()
   endif()
   include(CheckLinkerFlag)
-  check_linker_flag(CXX "LINKER:-z,pack-relative-relocs" TNW_LINKER_PACKS_RELATIVE_RELOCS)
-  if(TNW_LINKER_PACKS_RELATIVE_RELOCS)
+  # A linker that only warns about an unknown -z option (lld before 15) does not pack.
+  check_linker_flag(CXX "LINKER:-z,pack-relative-relocs,--fatal-warnings"
+    TNW_LINKER_PACKS_RELATIVE_RELOCATIONS)
+  if(TNW_LINKER_PACKS_RELATIVE_RELOCATIONS)
     target_link_options(${target} PRIVATE "LINKER:-z,pack-relative-relocs")
   endif()
   if(ARGC GREATER 1)

@@ -64,6 +64,7 @@ set(startup
   "tnw::WizardComponent::ShowTNWizard()"
   "tnw::WidgetDialogFactory::createSelMethod("
   "tnw::WizardBackend::WizardBackend("
+  "tnw::WidgetUiServices::screenSize()"
   "tnw::readModelFileBytes("
   "tnw::ModelFileReader::read("
   "tnw::selmethod::SelMethodPresenter::SelMethodPresenter("
