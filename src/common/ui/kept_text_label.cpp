@@ -55,3 +55,7 @@ void KeptTextLabel::paintEvent(QPaintEvent* event) {
 }
 
 }  // namespace tnw
+
+// The meta-object code is compiled here, beside the class's own, so that it is laid out with
+// the code that shows the first dialog (component/startup_code.ld).
+#include "moc_kept_text_label.cpp"

@@ -51,3 +51,7 @@ int WrappedLabel::heightForWidth(int width) const {
 }
 
 }  // namespace tnw
+
+// The meta-object code is compiled here, beside the class's own, so that it is laid out with
+// the code that shows the first dialog (component/startup_code.ld).
+#include "moc_wrapped_label.cpp"

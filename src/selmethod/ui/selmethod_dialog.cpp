@@ -176,3 +176,7 @@ void SelMethodDialog::closeRequested() { m_presenter.cmdCancel_Click(); }
 void SelMethodDialog::activated() { m_presenter.Form_Activate(); }
 
 }  // namespace tnw::selmethod
+
+// The meta-object code is compiled here, beside the class's own, so that it is laid out with
+// the code that shows the first dialog (component/startup_code.ld).
+#include "moc_selmethod_dialog.cpp"

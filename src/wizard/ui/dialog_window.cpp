@@ -140,3 +140,7 @@ void DialogWindow::changeEvent(QEvent* event) {
 }
 
 }  // namespace tnw
+
+// The meta-object code is compiled here, beside the class's own, so that it is laid out with
+// the code that shows the first dialog (component/startup_code.ld).
+#include "moc_dialog_window.cpp"
