@@ -1,5 +1,6 @@
 #include "direct/ui/direct_a_dialog.h"
 
+#include "common/ui/kept_look_widgets.h"
 #include "common/ui/kept_text_label.h"
 #include "common/ui/wizard_buttons.h"
 #include "direct/core/drag_payload.h"
@@ -37,7 +38,7 @@ namespace tnw::direct {
 namespace {
 
 QPushButton* makeButton(const char* name, QWidget* parent) {
-  auto* button = new QPushButton(parent);
+  auto* button = new KeptPushButton(parent);
   button->setObjectName(QString::fromUtf8(name));
   button->setAutoDefault(false);
   return button;

@@ -1,0 +1,77 @@
+#include "common/ui/kept_look_widgets.h"
+
+// Qt
+#include <QStyleOptionButton>
+#include <QStyleOptionGroupBox>
+
+namespace tnw {
+
+namespace {
+
+// The inputs every option and widget share.
+KeptLookInputs commonInputs(const QWidget& widget, const QStyleOption& option) {
+  KeptLookInputs in;
+  in.style = widget.style();
+  in.font = widget.font();
+  in.palette = option.palette;
+  in.foregroundRole = static_cast<int>(widget.foregroundRole());
+  in.state = static_cast<int>(option.state);
+  in.direction = static_cast<int>(option.direction);
+  in.size = widget.size();
+  return in;
+}
+
+// The inputs of a button's paint: its option's, drawn over the widget's whole rectangle.
+KeptLookInputs buttonInputs(const QWidget& widget, const QStyleOptionButton& option) {
+  KeptLookInputs in = commonInputs(widget, option);
+  in.text = option.text;
+  in.iconKey = option.icon.isNull() ? 0 : option.icon.cacheKey();
+  in.iconSize = option.iconSize;
+  in.details = {static_cast<int>(option.features),
+                option.rect.x(),
+                option.rect.y(),
+                option.rect.width(),
+                option.rect.height(),
+                0};
+  return in;
+}
+
+}  // namespace
+
+void KeptPushButton::paintEvent(QPaintEvent* event) {
+  QStyleOptionButton option;
+  initStyleOption(&option);
+  QPoint offset;
+  QPaintDevice* device = redirected(&offset);
+  m_look.paint({*this, *event, device, offset, sharedPainter() != nullptr},
+               buttonInputs(*this, option), [this, event] { QPushButton::paintEvent(event); });
+}
+
+void KeptRadioButton::paintEvent(QPaintEvent* event) {
+  QStyleOptionButton option;
+  initStyleOption(&option);
+  QPoint offset;
+  QPaintDevice* device = redirected(&offset);
+  m_look.paint({*this, *event, device, offset, sharedPainter() != nullptr},
+               buttonInputs(*this, option), [this, event] { QRadioButton::paintEvent(event); });
+}
+
+void KeptGroupBox::paintEvent(QPaintEvent* event) {
+  QStyleOptionGroupBox option;
+  initStyleOption(&option);
+  KeptLookInputs in = commonInputs(*this, option);
+  in.text = option.text;
+  in.color = option.textColor;
+  in.details = {static_cast<int>(option.textAlignment),
+                static_cast<int>(option.features),
+                static_cast<int>(option.subControls),
+                static_cast<int>(option.activeSubControls),
+                option.lineWidth,
+                option.midLineWidth};
+  QPoint offset;
+  QPaintDevice* device = redirected(&offset);
+  m_look.paint({*this, *event, device, offset, sharedPainter() != nullptr}, in,
+               [this, event] { QGroupBox::paintEvent(event); });
+}
+
+}  // namespace tnw

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "common/ui/kept_look.h"
+
+// Qt
+#include <QGroupBox>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace tnw {
+
+// A push button that paints as QPushButton and keeps its last looks (see KeptLook): a page shown
+// again, or a button pressed and released again, copies its pixels instead of drawing them.
+class KeptPushButton : public QPushButton {
+ public:
+  using QPushButton::QPushButton;
+  // The kept looks (for tests).
+  const KeptLook& keptLook() const { return m_look; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  KeptLook m_look;
+};
+
+// A radio button that paints as QRadioButton and keeps its last looks (see KeptLook).
+class KeptRadioButton : public QRadioButton {
+ public:
+  using QRadioButton::QRadioButton;
+  // The kept looks (for tests).
+  const KeptLook& keptLook() const { return m_look; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  KeptLook m_look;
+};
+
+// A group box that paints its frame and title as QGroupBox and keeps its last looks (see
+// KeptLook); its children paint themselves.
+class KeptGroupBox : public QGroupBox {
+ public:
+  using QGroupBox::QGroupBox;
+  // The kept looks (for tests).
+  const KeptLook& keptLook() const { return m_look; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  KeptLook m_look;
+};
+
+}  // namespace tnw

@@ -1,0 +1,292 @@
+#include "common/ui/kept_look_widgets.h"
+
+// Qt
+#include <QApplication>
+#include <QBackingStore>
+#include <QImage>
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPixmap>
+#include <QtTest>
+
+// Std
+#include <functional>
+#include <memory>
+
+namespace tnw {
+
+namespace {
+
+// A parent that paints a gradient under its child, so that the child's rounded corners and
+// translucent edges are blended over pixels that differ from place to place. The gradient is
+// drawn once into an image that each paint copies: a gradient drawn afresh takes its steps from
+// the start of each span, so its pixels depend on the paint's clip.
+class Backdrop : public QWidget {
+ public:
+  Backdrop() {
+    resize(260, 140);
+    setEnd(QColor(40, 90, 160));
+  }
+  // The gradient's second colour: a new one changes every pixel under the child.
+  void setEnd(QColor c) {
+    m_image = QImage(size() * 2, QImage::Format_ARGB32_Premultiplied);
+    QPainter p(&m_image);
+    QLinearGradient g(0, 0, m_image.width(), m_image.height());
+    g.setColorAt(0, QColor(250, 240, 200));
+    g.setColorAt(1, c);
+    p.fillRect(m_image.rect(), g);
+    p.end();
+    m_image.setDevicePixelRatio(2);
+    update();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter p(this);
+    p.drawImage(QPointF(0, 0), m_image);
+  }
+
+ private:
+  QImage m_image;
+};
+
+// A stock widget and its keeping twin, each on a backdrop of its own, at the same place.
+template <typename Stock, typename Kept>
+struct Twins {
+  Twins() {
+    stock = new Stock(&stockHost);
+    kept = new Kept(&keptHost);
+    for (QWidget* w : {static_cast<QWidget*>(stock), static_cast<QWidget*>(kept)}) {
+      w->setGeometry(23, 17, 150, 90);
+    }
+  }
+  // Applies a change to both.
+  void change(const std::function<void(Stock&)>& f) {
+    f(*stock);
+    f(*kept);
+  }
+  // Shows both hosts (their paints go to their windows' backing stores).
+  void show() {
+    for (QWidget* host : {static_cast<QWidget*>(&stockHost), static_cast<QWidget*>(&keptHost)}) {
+      host->show();
+      QVERIFY(QTest::qWaitForWindowExposed(host));
+    }
+  }
+  // The pixels of the host's backing store.
+  static QImage store(QWidget& host) {
+    QPaintDevice* device = host.backingStore()->paintDevice();
+    return device->devType() == QInternal::Pixmap ? static_cast<QPixmap*>(device)->toImage().copy()
+                                                  : static_cast<QImage*>(device)->copy();
+  }
+  // The host painted again, whole.
+  static QImage repainted(QWidget& host) {
+    host.repaint();
+    return store(host);
+  }
+  // Paints both hosts again, compares them and says whether the twin copied its kept look.
+  bool sameAndCopied() {
+    const int before = kept->keptLook().copied();
+    const QImage a = repainted(stockHost);
+    const QImage b = repainted(keptHost);
+    if (a != b) {
+      qWarning("the kept look differs from the stock paint");
+      ok = false;
+    }
+    return kept->keptLook().copied() > before;
+  }
+
+  Backdrop stockHost;
+  Backdrop keptHost;
+  Stock* stock;
+  Kept* kept;
+  bool ok = true;
+};
+
+// A change of a widget, and the paints it takes until the look is copied: 3 for a new look
+// (drawn, drawn and kept, copied), 2 for the same look at a new place (its inputs known, it is
+// kept at once), 1 for the look the widget had just before the one changed (still kept).
+template <typename W>
+struct Change {
+  std::function<void(W&)> apply;
+  int paintsToCopy = 3;
+};
+
+// Every kind of change a widget's paint depends on, each painted until the look is copied: the
+// first paint after it paints as the stock widget, the second too and keeps the look, the third
+// copies it; a change that brings back a kept look copies it at once.
+template <typename Stock, typename Kept>
+void checkEveryChange(Twins<Stock, Kept>& t, const std::vector<Change<Stock>>& changes) {
+  // Showing the windows painted them once.
+  t.show();
+  QVERIFY(!t.sameAndCopied());
+  QVERIFY(t.sameAndCopied());
+  for (std::size_t i = 0; i < changes.size(); ++i) {
+    const QString name = QStringLiteral("change %1").arg(i);
+    t.change(changes[i].apply);
+    for (int paint = 1; paint < changes[i].paintsToCopy; ++paint) {
+      QVERIFY2(!t.sameAndCopied(), qPrintable(name));
+    }
+    QVERIFY2(t.sameAndCopied(), qPrintable(name));
+    QVERIFY2(t.ok, qPrintable(name));
+  }
+  // What lies under the widget is an input too: the first paint over new pixels draws (and
+  // keeps, the inputs being known), the second copies.
+  t.stockHost.setEnd(QColor(200, 30, 60));
+  t.keptHost.setEnd(QColor(200, 30, 60));
+  QVERIFY(!t.sameAndCopied());
+  QVERIFY(t.sameAndCopied());
+  QVERIFY(t.ok);
+}
+
+// The changes any widget's look follows. A widget that had the focus loses it when disabled, so
+// enabling it again does not bring back its look before.
+template <typename W>
+std::vector<Change<W>> widgetChanges(bool focused) {
+  return {
+      {[](W& w) { w.resize(131, 70); }},
+      {[](W& w) { w.setEnabled(false); }},
+      {[](W& w) { w.setEnabled(true); }, focused ? 3 : 1},
+      {[](W& w) {
+        QFont f = w.font();
+        f.setBold(true);
+        w.setFont(f);
+      }},
+      {[](W& w) {
+        QPalette p = w.palette();
+        p.setColor(QPalette::Button, QColor(120, 200, 120));
+        p.setColor(QPalette::ButtonText, QColor(150, 0, 0));
+        p.setColor(QPalette::WindowText, QColor(0, 0, 150));
+        w.setPalette(p);
+      }},
+      {[](W& w) { w.setLayoutDirection(Qt::RightToLeft); }},
+      {[](W& w) { w.move(40, 30); }, 2},
+  };
+}
+
+template <typename W>
+std::vector<Change<W>> buttonChanges() {
+  std::vector<Change<W>> changes = widgetChanges<W>(true);
+  changes.push_back({[](W& w) { w.setText(QStringLiteral("&Next >")); }});
+  changes.push_back({[](W& w) { w.setDown(true); }});
+  changes.push_back({[](W& w) { w.setDown(false); }, 1});
+  changes.push_back({[](W& w) {
+    QPixmap icon(16, 16);
+    icon.fill(Qt::darkGreen);
+    w.setIcon(QIcon(icon));
+  }});
+  changes.push_back({[](W& w) { w.setIconSize(QSize(10, 10)); }});
+  return changes;
+}
+
+}  // namespace
+
+class KeptLookTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  // A kept push button paints as QPushButton after each change, and copies its look when
+  // nothing changed; at single and double scale.
+  void pushButtonsPaintAsQPushButton() {
+    Twins<QPushButton, KeptPushButton> t;
+    t.change([](QPushButton& b) { b.setText(QStringLiteral("< &Back")); });
+    auto changes = buttonChanges<QPushButton>();
+    changes.push_back({[](QPushButton& b) { b.setDefault(true); }});
+    changes.push_back({[](QPushButton& b) { b.setFlat(true); }});
+    checkEveryChange(t, changes);
+  }
+
+  void radioButtonsPaintAsQRadioButton() {
+    Twins<QRadioButton, KeptRadioButton> t;
+    t.change([](QRadioButton& b) { b.setText(QStringLiteral("Automatic")); });
+    auto changes = buttonChanges<QRadioButton>();
+    changes.push_back({[](QRadioButton& b) { b.setChecked(true); }});
+    changes.push_back({[](QRadioButton& b) { b.setChecked(false); }, 1});
+    checkEveryChange(t, changes);
+  }
+
+  void groupBoxesPaintAsQGroupBox() {
+    Twins<QGroupBox, KeptGroupBox> t;
+    // An opaque child takes its rectangle out of the box's paints.
+    t.change([](QGroupBox& b) {
+      auto* child = new QWidget(&b);
+      child->setAutoFillBackground(true);
+      child->setGeometry(30, 30, 40, 20);
+    });
+    auto changes = widgetChanges<QGroupBox>(false);
+    changes.push_back({[](QGroupBox& b) { b.setTitle(QStringLiteral("Select two attributes")); }});
+    changes.push_back({[](QGroupBox& b) { b.setAlignment(Qt::AlignHCenter); }});
+    changes.push_back({[](QGroupBox& b) { b.setFlat(true); }});
+    changes.push_back({[](QGroupBox& b) { b.setCheckable(true); }});
+    changes.push_back({[](QGroupBox& b) { b.setChecked(false); }});
+    checkEveryChange(t, changes);
+  }
+
+  // In a shown window the paints go to its backing store; a repaint with nothing changed copies
+  // the kept look there, and the store holds the stock paint's pixels.
+  void aRepaintInTheBackingStoreCopiesTheStockPixels() {
+    Twins<QPushButton, KeptPushButton> t;
+    t.change([](QPushButton& b) { b.setText(QStringLiteral("&Finish")); });
+    t.show();
+    const int copied = t.kept->keptLook().copied();
+    for (int i = 0; i < 2; ++i) {
+      t.stock->repaint();
+      t.kept->repaint();
+    }
+    QCOMPARE(t.kept->keptLook().copied(), copied + 1);
+    const auto store = [](QWidget& host) {
+      return Twins<QPushButton, KeptPushButton>::store(host);
+    };
+    QCOMPARE(store(t.keptHost), store(t.stockHost));
+    // A part of the button is a region of its own: painted by the style the first time, copied
+    // the second.
+    for (int i = 0; i < 2; ++i) {
+      t.kept->repaint(QRect(2, 2, 30, 10));
+      t.stock->repaint(QRect(2, 2, 30, 10));
+      QCOMPARE(t.kept->keptLook().copied(), copied + 1 + i);
+      QCOMPARE(store(t.keptHost), store(t.stockHost));
+    }
+  }
+
+  // Under a style sheet the style draws from more than the option: the stock paint runs.
+  void aStyleSheetPaintsAsTheStockWidget() {
+    Twins<QPushButton, KeptPushButton> t;
+    t.change([](QPushButton& b) {
+      b.setText(QStringLiteral("Styled"));
+      b.setStyleSheet(QStringLiteral("QPushButton { border: 2px solid #a00; padding: 3px; }"));
+    });
+    t.show();
+    QVERIFY(!t.sameAndCopied());
+    QVERIFY(!t.sameAndCopied());
+    QVERIFY(t.ok);
+    QCOMPARE(t.kept->keptLook().kept(), 0);
+  }
+
+  // grab() and render() paint through a painter of their own: the stock paint runs, and what
+  // it draws is not kept.
+  void aGrabPaintsAsTheStockWidget() {
+    Twins<QPushButton, KeptPushButton> t;
+    t.change([](QPushButton& b) { b.setText(QStringLiteral("&Help")); });
+    t.show();
+    QVERIFY(!t.sameAndCopied());
+    const int kept = t.kept->keptLook().kept();
+    for (int i = 0; i < 2; ++i) QCOMPARE(t.keptHost.grab().toImage(), t.stockHost.grab().toImage());
+    QCOMPARE(t.kept->keptLook().kept(), kept);
+    QVERIFY(t.sameAndCopied());
+    QVERIFY(t.ok);
+  }
+
+  // The screen's ratio (QT_SCALE_FACTOR) is the one this run was started for.
+  void theDevicePixelRatioIsTheOneAskedFor() {
+    const QByteArray asked = qgetenv("TNW_EXPECTED_RATIO");
+    Backdrop host;
+    host.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&host));
+    QCOMPARE(host.backingStore()->paintDevice()->devicePixelRatio(),
+             asked.isEmpty() ? 1.0 : asked.toDouble());
+  }
+};
+
+}  // namespace tnw
+
+QTEST_MAIN(tnw::KeptLookTest)
+#include "kept_look_test.moc"
