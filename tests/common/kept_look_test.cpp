@@ -1,4 +1,6 @@
+#include "common/ui/elided_label_widget.h"
 #include "common/ui/kept_look_widgets.h"
+#include "common/ui/kept_text_label.h"
 
 // Qt
 #include <QApplication>
@@ -53,17 +55,19 @@ class Backdrop : public QWidget {
 // A stock widget and its keeping twin, each on a backdrop of its own, at the same place.
 template <typename Stock, typename Kept>
 struct Twins {
-  Twins() {
+  Twins() : Twins([](QWidget* host) { return new Kept(host); }) {}
+  explicit Twins(const std::function<Kept*(QWidget*)>& make) {
     stock = new Stock(&stockHost);
-    kept = new Kept(&keptHost);
+    kept = make(&keptHost);
     for (QWidget* w : {static_cast<QWidget*>(stock), static_cast<QWidget*>(kept)}) {
       w->setGeometry(23, 17, 150, 90);
     }
   }
-  // Applies a change to both.
+  // Applies a change to both, then brings the stock widget in line with the twin.
   void change(const std::function<void(Stock&)>& f) {
     f(*stock);
     f(*kept);
+    if (sync) sync(*stock, *kept);
   }
   // Shows both hosts (their paints go to their windows' backing stores).
   void show() {
@@ -97,6 +101,7 @@ struct Twins {
 
   Backdrop stockHost;
   Backdrop keptHost;
+  std::function<void(Stock&, Kept&)> sync;
   Stock* stock;
   Kept* kept;
   bool ok = true;
@@ -245,6 +250,50 @@ class KeptLookTest : public QObject {
       QCOMPARE(t.kept->keptLook().copied(), copied + 1 + i);
       QCOMPARE(store(t.keptHost), store(t.stockHost));
     }
+  }
+
+  // A frame paints as QFrame, and copies its look when nothing changed.
+  void framesPaintAsQFrame() {
+    Twins<QFrame, KeptFrame> t;
+    t.change([](QFrame& f) { f.setFrameShape(QFrame::StyledPanel); });
+    auto changes = widgetChanges<QFrame>(false);
+    changes.push_back({[](QFrame& f) { f.setFrameShape(QFrame::Panel); }});
+    changes.push_back({[](QFrame& f) { f.setFrameShadow(QFrame::Sunken); }});
+    changes.push_back({[](QFrame& f) { f.setLineWidth(3); }});
+    changes.push_back({[](QFrame& f) { f.setFrameShape(QFrame::Box); }});
+    changes.push_back({[](QFrame& f) { f.setMidLineWidth(2); }});
+    changes.push_back({[](QFrame& f) { f.setFrameShape(QFrame::HLine); }});
+    checkEveryChange(t, changes);
+  }
+
+  // A label paints its plain text as QLabel, and copies it when nothing changed.
+  void labelsPaintAsQLabel() {
+    Twins<QLabel, KeptTextLabel> t;
+    t.change([](QLabel& l) { l.setText(QStringLiteral("Tradeoffs needed:")); });
+    auto changes = widgetChanges<QLabel>(false);
+    changes.push_back({[](QLabel& l) { l.setText(QStringLiteral("Current Tradeoff:")); }});
+    changes.push_back({[](QLabel& l) { l.setAlignment(Qt::AlignRight | Qt::AlignBottom); }});
+    changes.push_back({[](QLabel& l) { l.setMargin(5); }});
+    changes.push_back({[](QLabel& l) {
+      l.setText(QStringLiteral("Move the points A and B until the two alternatives are equal."));
+    }});
+    changes.push_back({[](QLabel& l) { l.setWordWrap(true); }});
+    changes.push_back({[](QLabel& l) { l.setForegroundRole(QPalette::Highlight); }});
+    checkEveryChange(t, changes);
+  }
+
+  // A shortened name paints as a QLabel showing the shortened text, and copies it when nothing
+  // changed.
+  void elidedLabelsPaintAsQLabel() {
+    Twins<QLabel, ElidedLabelWidget> t([](QWidget* host) {
+      return new ElidedLabelWidget(QStringLiteral("Attribute 31 of a long name"), host);
+    });
+    t.sync = [](QLabel& stock, ElidedLabelWidget& kept) { stock.setText(kept.shownText()); };
+    t.change([](QLabel& l) { l.setAlignment(Qt::AlignLeft | Qt::AlignVCenter); });
+    auto changes = widgetChanges<QLabel>(false);
+    changes.push_back({[](QLabel& l) { l.resize(70, 20); }});
+    changes.push_back({[](QLabel& l) { l.setAlignment(Qt::AlignCenter); }});
+    checkEveryChange(t, changes);
   }
 
   // Under a style sheet the style draws from more than the option: the stock paint runs.

@@ -7,6 +7,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPixmap>
+#include <QStyleOption>
 #include <QWidget>
 
 // Std
@@ -56,6 +57,23 @@ QRegion scaled(const QRegion& region, int ratio) {
 
 }  // namespace
 
+KeptLookInputs KeptLook::itemTextInputs(const QWidget& widget, const QString& text, int flags,
+                                        const QRect& rect) {
+  QStyleOption option;
+  option.initFrom(&widget);
+  KeptLookInputs in;
+  in.style = widget.style();
+  in.font = widget.font();
+  in.palette = option.palette;
+  in.foregroundRole = static_cast<int>(widget.foregroundRole());
+  in.state = static_cast<int>(option.state);
+  in.direction = static_cast<int>(option.direction);
+  in.size = widget.size();
+  in.text = text;
+  in.details = {flags, rect.x(), rect.y(), rect.width(), rect.height(), 0};
+  return in;
+}
+
 std::optional<KeptLook::Place> KeptLook::placeOf(const KeptLookTarget& target) {
   const QWidget& w = target.widget;
   if (target.sharedPainter || target.device == nullptr) return std::nullopt;
@@ -83,7 +101,7 @@ bool KeptLook::seenBefore(const KeptLookInputs& inputs) {
       return true;
     }
   }
-  if (m_seen.size() == kMaxLooks) m_seen.pop_back();
+  if (m_seen.size() == kMaxSeen) m_seen.pop_back();
   m_seen.insert(m_seen.begin(), inputs);
   return false;
 }

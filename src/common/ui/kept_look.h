@@ -81,6 +81,11 @@ class KeptLook {
     keep(*place, inputs, std::move(under));
   }
 
+  // The inputs of a widget's text drawn as the style draws an item text (a label's): the text,
+  // its flags and its rectangle, in the widget's font and palette with its foreground role.
+  static KeptLookInputs itemTextInputs(const QWidget& widget, const QString& text, int flags,
+                                       const QRect& rect);
+
   // How many paints were copied from a kept look (for tests).
   int copied() const { return m_copied; }
   // How many paints kept what the stock paint drew (for tests).
@@ -91,8 +96,10 @@ class KeptLook {
     m_seen.clear();
   }
 
-  // At most this many looks are kept (a button pressed and released, a box checked and not).
-  static constexpr std::size_t kMaxLooks = 2;
+  // At most this many looks are kept (a button pressed, released, and given the focus).
+  static constexpr std::size_t kMaxLooks = 3;
+  // The inputs of at most this many paints are remembered.
+  static constexpr std::size_t kMaxSeen = 8;
   // Widgets of more device pixels than this are not kept.
   static constexpr qint64 kMaxPixels = 512 * 1024;
 

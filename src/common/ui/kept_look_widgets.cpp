@@ -2,6 +2,7 @@
 
 // Qt
 #include <QStyleOptionButton>
+#include <QStyleOptionFrame>
 #include <QStyleOptionGroupBox>
 
 namespace tnw {
@@ -72,6 +73,22 @@ void KeptGroupBox::paintEvent(QPaintEvent* event) {
   QPaintDevice* device = redirected(&offset);
   m_look.paint({*this, *event, device, offset, sharedPainter() != nullptr}, in,
                [this, event] { QGroupBox::paintEvent(event); });
+}
+
+void KeptFrame::paintEvent(QPaintEvent* event) {
+  QStyleOptionFrame option;
+  initStyleOption(&option);
+  KeptLookInputs in = commonInputs(*this, option);
+  in.details = {static_cast<int>(option.frameShape),
+                static_cast<int>(option.features),
+                option.lineWidth,
+                option.midLineWidth,
+                option.rect.width(),
+                option.rect.height()};
+  QPoint offset;
+  QPaintDevice* device = redirected(&offset);
+  m_look.paint({*this, *event, device, offset, sharedPainter() != nullptr}, in,
+               [this, event] { QFrame::paintEvent(event); });
 }
 
 }  // namespace tnw

@@ -3,6 +3,7 @@
 #include "common/ui/kept_look.h"
 
 // Qt
+#include <QFrame>
 #include <QGroupBox>
 #include <QPushButton>
 #include <QRadioButton>
@@ -43,6 +44,21 @@ class KeptRadioButton : public QRadioButton {
 class KeptGroupBox : public QGroupBox {
  public:
   using QGroupBox::QGroupBox;
+  // The kept looks (for tests).
+  const KeptLook& keptLook() const { return m_look; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  KeptLook m_look;
+};
+
+// A frame (a panel, a separating line) that paints as QFrame and keeps its last looks (see
+// KeptLook); its children paint themselves.
+class KeptFrame : public QFrame {
+ public:
+  using QFrame::QFrame;
   // The kept looks (for tests).
   const KeptLook& keptLook() const { return m_look; }
 

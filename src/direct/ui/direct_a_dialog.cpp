@@ -74,7 +74,7 @@ DirectADialog::DirectADialog(WizardContext& context, UiServices& ui, DirectAEven
         static_cast<QWidget*>(m_judgmentPage), static_cast<QWidget*>(m_resultsPage)}) {
     m_stack->addWidget(page);
   }
-  auto* line = new QFrame(this);
+  auto* line = new KeptFrame(this);
   line->setFrameShape(QFrame::HLine);
   line->setFrameShadow(QFrame::Sunken);
   auto* layout = new QVBoxLayout(this);

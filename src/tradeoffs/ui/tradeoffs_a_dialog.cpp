@@ -124,7 +124,7 @@ void TradeOffsADialog::buildFrame() {
   m_pages->addWidget(m_judgment);
   m_pages->addWidget(m_results);
 
-  auto* line = new QFrame(this);
+  auto* line = new KeptFrame(this);
   line->setFrameShape(QFrame::HLine);
   line->setFrameShadow(QFrame::Sunken);
 

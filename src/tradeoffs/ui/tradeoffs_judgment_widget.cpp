@@ -97,7 +97,7 @@ TradeOffsJudgmentWidget::TradeOffsJudgmentWidget(QWidget* parent) : QWidget(pare
   m_c.approaches->setObjectName(QStringLiteral("approaches"));
   m_c.approaches->addWidget(buildNumerical());
   m_c.approaches->addWidget(buildVerbal());
-  auto* approachFrame = new QFrame(this);
+  auto* approachFrame = new KeptFrame(this);
   approachFrame->setFrameShape(QFrame::StyledPanel);
   auto* approachLayout = new QVBoxLayout(approachFrame);
   approachLayout->setContentsMargins(6, 6, 6, 6);
