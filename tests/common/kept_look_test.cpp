@@ -266,6 +266,67 @@ class KeptLookTest : public QObject {
     checkEveryChange(t, changes);
   }
 
+  // A line edit without cursor or selection, whose text fits, paints as QLineEdit and copies its
+  // look when nothing changed.
+  void lineEditsPaintAsQLineEdit() {
+    Twins<QLineEdit, KeptLineEdit> t;
+    t.change([](QLineEdit& e) {
+      e.setFocusPolicy(Qt::NoFocus);
+      e.setText(QStringLiteral("50"));
+    });
+    auto changes = widgetChanges<QLineEdit>(false);
+    changes.push_back({[](QLineEdit& e) { e.setText(QStringLiteral("62.5")); }});
+    changes.push_back({[](QLineEdit& e) { e.setAlignment(Qt::AlignRight); }});
+    changes.push_back({[](QLineEdit& e) { e.setAlignment(Qt::AlignHCenter); }});
+    changes.push_back({[](QLineEdit& e) { e.setTextMargins(6, 2, 9, 1); }});
+    changes.push_back({[](QLineEdit& e) { e.setReadOnly(true); }});
+    changes.push_back({[](QLineEdit& e) { e.setFrame(false); }});
+    changes.push_back({[](QLineEdit& e) { e.setEchoMode(QLineEdit::Password); }});
+    changes.push_back({[](QLineEdit& e) {
+      e.setPlaceholderText(QStringLiteral("score"));
+      e.clear();
+    }});
+    changes.push_back({[](QLineEdit& e) { e.setPlaceholderText(QStringLiteral("value")); }});
+    checkEveryChange(t, changes);
+  }
+
+  // A text wider than its line, a cursor or a selection: QLineEdit paints, every time.
+  void scrolledOrEditedLineEditsPaintAsQLineEdit() {
+    Twins<QLineEdit, KeptLineEdit> t;
+    t.change([](QLineEdit& e) {
+      e.setFocusPolicy(Qt::NoFocus);
+      e.setText(QStringLiteral("A text far too long for the width of this line edit"));
+    });
+    t.show();
+    const std::function<void(QLineEdit&)> changes[] = {
+        [](QLineEdit& e) { e.setCursorPosition(3); },
+        [](QLineEdit& e) {
+          e.setText(QStringLiteral("50"));
+          e.setSelection(0, 1);
+        },
+    };
+    for (const auto& change : changes) {
+      t.change(change);
+      for (int i = 0; i < 3; ++i) QVERIFY(!t.sameAndCopied());
+      QVERIFY(t.ok);
+    }
+    // With the focus, a blinking cursor is shown (only the active window has it, so the twin is
+    // not compared with the other window's line edit here).
+    t.change([](QLineEdit& e) {
+      e.deselect();
+      e.setFocusPolicy(Qt::StrongFocus);
+    });
+    t.keptHost.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&t.keptHost));
+    t.kept->setFocus();
+    QVERIFY(t.kept->hasFocus());
+    const int kept = t.kept->keptLook().kept();
+    const int copied = t.kept->keptLook().copied();
+    for (int i = 0; i < 3; ++i) t.kept->repaint();
+    QCOMPARE(t.kept->keptLook().kept(), kept);
+    QCOMPARE(t.kept->keptLook().copied(), copied);
+  }
+
   // A label paints its plain text as QLabel, and copies it when nothing changed.
   void labelsPaintAsQLabel() {
     Twins<QLabel, KeptTextLabel> t;

@@ -40,7 +40,7 @@ struct KeptLookInputs {
   qint64 iconKey = 0;             // the option's icon's cache key (0 without one)
   QSize iconSize;                 // the option's icon size
   QColor color;                   // a colour the option carries (a group box's title)
-  std::array<int, 6> details{};   // what else the option of this kind of widget carries
+  std::array<int, 11> details{};  // what else the option of this kind of widget carries
   // Whether both would paint the same.
   bool operator==(const KeptLookInputs&) const = default;
 };

@@ -1,6 +1,8 @@
 #include "common/ui/kept_look_widgets.h"
 
 // Qt
+#include <QFontMetrics>
+#include <QStyle>
 #include <QStyleOptionButton>
 #include <QStyleOptionFrame>
 #include <QStyleOptionGroupBox>
@@ -89,6 +91,55 @@ void KeptFrame::paintEvent(QPaintEvent* event) {
   QPaintDevice* device = redirected(&offset);
   m_look.paint({*this, *event, device, offset, sharedPainter() != nullptr}, in,
                [this, event] { QFrame::paintEvent(event); });
+}
+
+bool KeptLineEdit::placesTextPlainly() const {
+  if (hasFocus() || hasSelectedText() || !inputMask().isEmpty() || !actions().isEmpty() ||
+      isClearButtonEnabled()) {
+    return false;
+  }
+  const QString shown = displayText();
+  if (shown.isEmpty()) return true;
+  // QLineEdit scrolls a text only when it is wider than the line it has (the contents less the
+  // text margins and 2 pixels on each side); a text narrower than that by two average
+  // characters is never scrolled.
+  QStyleOptionFrame option;
+  initStyleOption(&option);
+  const QRect contents = style()
+                             ->subElementRect(QStyle::SE_LineEditContents, &option, this)
+                             .marginsRemoved(textMargins());
+  const QFontMetrics metrics = fontMetrics();
+  return metrics.horizontalAdvance(shown) + 1 + 2 * metrics.averageCharWidth() <=
+         contents.width() - 4;
+}
+
+void KeptLineEdit::paintEvent(QPaintEvent* event) {
+  if (!placesTextPlainly()) {
+    QLineEdit::paintEvent(event);
+    return;
+  }
+  QStyleOptionFrame option;
+  initStyleOption(&option);
+  KeptLookInputs in = commonInputs(*this, option);
+  // The placeholder is drawn in the text's place when there is no text.
+  const QString shown = displayText();
+  in.text = shown.isEmpty() ? placeholderText() : shown;
+  const QMargins m = textMargins();
+  in.details = {static_cast<int>(option.frameShape),
+                static_cast<int>(option.features),
+                option.lineWidth,
+                option.midLineWidth,
+                static_cast<int>(alignment()),
+                m.left(),
+                m.top(),
+                m.right(),
+                m.bottom(),
+                static_cast<int>(cursorMoveStyle()),
+                shown.isEmpty() ? 1 : 0};
+  QPoint offset;
+  QPaintDevice* device = redirected(&offset);
+  m_look.paint({*this, *event, device, offset, sharedPainter() != nullptr}, in,
+               [this, event] { QLineEdit::paintEvent(event); });
 }
 
 }  // namespace tnw

@@ -5,6 +5,7 @@
 // Qt
 #include <QFrame>
 #include <QGroupBox>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -66,6 +67,26 @@ class KeptFrame : public QFrame {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  KeptLook m_look;
+};
+
+// A line edit that paints as QLineEdit and keeps its last looks (see KeptLook) while it shows
+// no cursor and no selection and its text fits with room to spare: then where its text is drawn
+// follows from its text, alignment and room alone (a longer text is scrolled to its cursor, from
+// where it was scrolled before, and is painted by QLineEdit).
+class KeptLineEdit : public QLineEdit {
+ public:
+  using QLineEdit::QLineEdit;
+  // The kept looks (for tests).
+  const KeptLook& keptLook() const { return m_look; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  // Whether the text is drawn where its inputs alone place it.
+  bool placesTextPlainly() const;
+
   KeptLook m_look;
 };
 

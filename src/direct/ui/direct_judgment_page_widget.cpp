@@ -39,7 +39,7 @@ QLabel* namedLabel(const QString& name, QWidget* parent) {
 }
 
 QLineEdit* ratioBox(const QString& name, QWidget* parent) {
-  auto* box = new QLineEdit(parent);
+  auto* box = new KeptLineEdit(parent);
   box->setObjectName(name);
   box->setAlignment(Qt::AlignRight);
   box->setAcceptDrops(false);

@@ -274,7 +274,7 @@ QWidget* TradeOffsJudgmentWidget::buildScores() {
   for (int b = 0; b < 4; ++b) {
     const int row = b < 2 ? 1 : 2;
     const int col = (b % 2) == 0 ? 1 : 5;
-    auto* edit = new QLineEdit(panel);
+    auto* edit = new KeptLineEdit(panel);
     edit->setObjectName(QString::fromLatin1(kScoreBoxNames[b]));
     edit->setAlignment(Qt::AlignRight);
     edit->setMinimumWidth(boxWidth);
