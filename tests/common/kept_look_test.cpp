@@ -290,7 +290,8 @@ class KeptLookTest : public QObject {
     checkEveryChange(t, changes);
   }
 
-  // A text wider than its line, a cursor or a selection: QLineEdit paints, every time.
+  // A text wider than its line, a cursor, a selection or a button inside: QLineEdit paints, every
+  // time.
   void scrolledOrEditedLineEditsPaintAsQLineEdit() {
     Twins<QLineEdit, KeptLineEdit> t;
     t.change([](QLineEdit& e) {
@@ -304,6 +305,10 @@ class KeptLookTest : public QObject {
           e.setText(QStringLiteral("50"));
           e.setSelection(0, 1);
         },
+        [](QLineEdit& e) {
+          e.deselect();
+          e.setClearButtonEnabled(true);
+        },
     };
     for (const auto& change : changes) {
       t.change(change);
@@ -313,7 +318,7 @@ class KeptLookTest : public QObject {
     // With the focus, a blinking cursor is shown (only the active window has it, so the twin is
     // not compared with the other window's line edit here).
     t.change([](QLineEdit& e) {
-      e.deselect();
+      e.setClearButtonEnabled(false);
       e.setFocusPolicy(Qt::StrongFocus);
     });
     t.keptHost.activateWindow();

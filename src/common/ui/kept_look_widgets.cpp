@@ -94,9 +94,11 @@ void KeptFrame::paintEvent(QPaintEvent* event) {
 }
 
 bool KeptLineEdit::placesTextPlainly() const {
-  if (hasFocus() || hasSelectedText() || !inputMask().isEmpty() || !actions().isEmpty() ||
-      isClearButtonEnabled()) {
-    return false;
+  if (hasFocus() || hasSelectedText() || !inputMask().isEmpty()) return false;
+  // Buttons inside the line edit (its clear button, actions placed in it) take room from its
+  // text; they are its only child widgets.
+  for (const QObject* child : children()) {
+    if (child->isWidgetType()) return false;
   }
   const QString shown = displayText();
   if (shown.isEmpty()) return true;

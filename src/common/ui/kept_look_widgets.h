@@ -71,9 +71,9 @@ class KeptFrame : public QFrame {
 };
 
 // A line edit that paints as QLineEdit and keeps its last looks (see KeptLook) while it shows
-// no cursor and no selection and its text fits with room to spare: then where its text is drawn
-// follows from its text, alignment and room alone (a longer text is scrolled to its cursor, from
-// where it was scrolled before, and is painted by QLineEdit).
+// no cursor, no selection and no buttons inside it, and its text fits with room to spare: then
+// where its text is drawn follows from its text, alignment and room alone (a longer text is
+// scrolled to its cursor, from where it was scrolled before, and is painted by QLineEdit).
 class KeptLineEdit : public QLineEdit {
  public:
   using QLineEdit::QLineEdit;
