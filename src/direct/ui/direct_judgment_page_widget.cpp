@@ -1,7 +1,7 @@
 #include "direct/ui/direct_judgment_page_widget.h"
 
-#include "common/ui/kept_look_widgets.h"
 #include "common/ui/elided_label_widget.h"
+#include "common/ui/kept_look_widgets.h"
 #include "common/ui/kept_text_label.h"
 #include "common/ui/wrapped_label.h"
 #include "direct/core/direct_result.h"

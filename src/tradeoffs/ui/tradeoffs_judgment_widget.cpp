@@ -1,7 +1,7 @@
 #include "tradeoffs/ui/tradeoffs_judgment_widget.h"
 
-#include "common/ui/kept_look_widgets.h"
 #include "common/ui/elided_label_widget.h"
+#include "common/ui/kept_look_widgets.h"
 #include "common/ui/kept_text_label.h"
 #include "tradeoffs/core/judgment_controls.h"
 #include "tradeoffs/ui/item_text_delegate.h"
