@@ -1,4 +1,5 @@
 #include "wizard/ui/judgment_file_buttons.h"
+
 #include "common/ui/kept_look_widgets.h"
 
 // Qt
