@@ -45,18 +45,24 @@ QSize ElidedLabelWidget::sizeHint() const {
       fontMetrics().height() + m.top() + m.bottom() + extra};
 }
 
-void ElidedLabelWidget::paintEvent(QPaintEvent*) {
-  QPainter p(this);
+void ElidedLabelWidget::paintEvent(QPaintEvent* event) {
   const QRect r = contentsRect();
   const QString shown = shownText();
   const int flags = static_cast<int>(alignment());
   if (shown.isEmpty() || !KeptText::drawsPlainItemText(style())) {
+    QPainter p(this);
     style()->drawItemText(&p, r, flags, palette(), isEnabled(), shown, foregroundRole());
     return;
   }
   // The style's drawItemText, with the text drawn from its kept layout.
-  p.setPen(QPen(palette().brush(foregroundRole()), p.pen().widthF()));
-  m_kept.draw(p, r, flags, shown);
+  QPoint offset;
+  QPaintDevice* device = redirected(&offset);
+  m_look.paint({*this, *event, device, offset, sharedPainter() != nullptr},
+               KeptLook::itemTextInputs(*this, shown, flags, r), [&] {
+                 QPainter p(this);
+                 p.setPen(QPen(palette().brush(foregroundRole()), p.pen().widthF()));
+                 m_kept.draw(p, r, flags, shown);
+               });
 }
 
 }  // namespace tnw

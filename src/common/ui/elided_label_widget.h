@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/ui/elided_text.h"
+#include "common/ui/kept_look.h"
 #include "common/ui/kept_text.h"
 
 // Qt
@@ -25,6 +26,8 @@ class ElidedLabelWidget : public QLabel {
   void setToolTipHeading(const QString& heading);
   // The text as it is painted now: the whole text, or its start and an ellipsis.
   QString shownText() const;
+  // The kept looks of the label (for tests).
+  const KeptLook& keptLook() const { return m_look; }
 
   // Small enough that a long name never widens the dialog.
   QSize minimumSizeHint() const override;
@@ -40,6 +43,7 @@ class ElidedLabelWidget : public QLabel {
   QString m_heading;
   mutable ElidedText m_shortened;
   KeptText m_kept;
+  KeptLook m_look;
 };
 
 }  // namespace tnw

@@ -45,13 +45,21 @@ void KeptTextLabel::paintEvent(QPaintEvent* event) {
   }
   // What QLabel::paintEvent does for an unframed plain text, with the style's drawItemText
   // (the role's brush as the pen, then drawText) done from the kept layout.
-  QPainter painter(this);
-  QStyleOption option;
-  option.initFrom(this);
   const int m = margin();
   const QRect r = contentsRect().adjusted(m, m, -m, -m);
-  painter.setPen(QPen(option.palette.brush(foregroundRole()), painter.pen().widthF()));
-  m_kept.draw(painter, r, textFlags(), text());
+  const int flags = textFlags();
+  const QString shown = text();
+  QPoint offset;
+  QPaintDevice* device = redirected(&offset);
+  m_look.paint(
+      {*this, *event, device, offset, sharedPainter() != nullptr},
+      KeptLook::itemTextInputs(*this, shown, flags, r), [&] {
+        QPainter painter(this);
+        QStyleOption option;
+        option.initFrom(this);
+        painter.setPen(QPen(option.palette.brush(foregroundRole()), painter.pen().widthF()));
+        m_kept.draw(painter, r, flags, shown);
+      });
 }
 
 }  // namespace tnw

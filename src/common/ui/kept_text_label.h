@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/ui/kept_look.h"
 #include "common/ui/kept_text.h"
 
 // Qt
@@ -24,6 +25,8 @@ class KeptTextLabel : public QLabel {
   bool paintsKept() const;
   // How many times the kept text was laid out (for tests).
   int laidOut() const { return m_kept.laidOut(); }
+  // The kept looks of the label (for tests).
+  const KeptLook& keptLook() const { return m_look; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -33,6 +36,7 @@ class KeptTextLabel : public QLabel {
   int textFlags() const;
 
   KeptText m_kept;
+  KeptLook m_look;
 };
 
 }  // namespace tnw

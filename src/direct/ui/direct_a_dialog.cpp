@@ -1,5 +1,6 @@
 #include "direct/ui/direct_a_dialog.h"
 
+#include "common/ui/kept_look_widgets.h"
 #include "common/ui/kept_text_label.h"
 #include "common/ui/wizard_buttons.h"
 #include "direct/core/drag_payload.h"
@@ -37,7 +38,7 @@ namespace tnw::direct {
 namespace {
 
 QPushButton* makeButton(const char* name, QWidget* parent) {
-  auto* button = new QPushButton(parent);
+  auto* button = new KeptPushButton(parent);
   button->setObjectName(QString::fromUtf8(name));
   button->setAutoDefault(false);
   return button;
@@ -73,7 +74,7 @@ DirectADialog::DirectADialog(WizardContext& context, UiServices& ui, DirectAEven
         static_cast<QWidget*>(m_judgmentPage), static_cast<QWidget*>(m_resultsPage)}) {
     m_stack->addWidget(page);
   }
-  auto* line = new QFrame(this);
+  auto* line = new KeptFrame(this);
   line->setFrameShape(QFrame::HLine);
   line->setFrameShadow(QFrame::Sunken);
   auto* layout = new QVBoxLayout(this);

@@ -1,6 +1,7 @@
 #include "direct/ui/direct_judgment_page_widget.h"
 
 #include "common/ui/elided_label_widget.h"
+#include "common/ui/kept_look_widgets.h"
 #include "common/ui/kept_text_label.h"
 #include "common/ui/wrapped_label.h"
 #include "direct/core/direct_result.h"
@@ -38,7 +39,7 @@ QLabel* namedLabel(const QString& name, QWidget* parent) {
 }
 
 QLineEdit* ratioBox(const QString& name, QWidget* parent) {
-  auto* box = new QLineEdit(parent);
+  auto* box = new KeptLineEdit(parent);
   box->setObjectName(name);
   box->setAlignment(Qt::AlignRight);
   box->setAcceptDrops(false);
@@ -54,10 +55,10 @@ QLineEdit* ratioBox(const QString& name, QWidget* parent) {
 
 DirectJudgmentPageWidget::DirectJudgmentPageWidget(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("picStep2"));
-  m_enter = new QPushButton(tr("&Enter"), this);
+  m_enter = new KeptPushButton(tr("&Enter"), this);
   m_enter->setObjectName(QStringLiteral("cmdEnter"));
   m_enter->setAutoDefault(false);
-  m_restart = new QPushButton(tr("&Re-start All"), this);
+  m_restart = new KeptPushButton(tr("&Re-start All"), this);
   m_restart->setObjectName(QStringLiteral("cmdReStart"));
   m_restart->setAutoDefault(false);
   m_lights = new StatusLightsWidget(this);
@@ -101,7 +102,7 @@ DirectJudgmentPageWidget::DirectJudgmentPageWidget(QWidget* parent) : QWidget(pa
 }
 
 QWidget* DirectJudgmentPageWidget::buildTargetFrame() {
-  auto* frame = new QGroupBox(tr("Target attribute (Wj)"), this);
+  auto* frame = new KeptGroupBox(tr("Target attribute (Wj)"), this);
   frame->setObjectName(QStringLiteral("fraTarget"));
   m_targetList = new QComboBox(frame);
   m_targetList->setObjectName(QStringLiteral("imgcmbTargetAtt"));
@@ -137,7 +138,7 @@ QWidget* DirectJudgmentPageWidget::buildTargetFrame() {
 }
 
 QWidget* DirectJudgmentPageWidget::buildRatioFrame() {
-  auto* frame = new QGroupBox(tr("Relative importance (weight ratio Wj/Wr)"), this);
+  auto* frame = new KeptGroupBox(tr("Relative importance (weight ratio Wj/Wr)"), this);
   frame->setObjectName(QStringLiteral("fraWeightRatio"));
   m_lower = ratioBox(QStringLiteral("txtWRLower"), frame);
   m_upper = ratioBox(QStringLiteral("txtWRUpper"), frame);

@@ -1,5 +1,6 @@
 #include "direct/ui/direct_reference_page_widget.h"
 
+#include "common/ui/kept_look_widgets.h"
 #include "common/ui/wrapped_label.h"
 #include "direct/core/direct_result.h"
 #include "direct/core/ordering_page.h"
@@ -23,7 +24,7 @@ DirectReferencePageWidget::DirectReferencePageWidget(QWidget* parent) : QWidget(
       tr("Click the attribute that the other attributes are to be compared with."), this);
   instruction->setObjectName(QStringLiteral("lblRefInstruction"));
 
-  auto* frame = new QGroupBox(tr("Importance order:"), this);
+  auto* frame = new KeptGroupBox(tr("Importance order:"), this);
   frame->setObjectName(QStringLiteral("picOrderFrame"));
   m_order = new FinalOrderWidget(
       {QStringLiteral("picOFrame"), QStringLiteral("picOP"), QStringLiteral("picO"),

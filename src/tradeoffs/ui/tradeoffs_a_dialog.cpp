@@ -1,5 +1,6 @@
 #include "tradeoffs/ui/tradeoffs_a_dialog.h"
 
+#include "common/ui/kept_look_widgets.h"
 #include "common/ui/wizard_buttons.h"
 #include "common/ui/wrapped_label.h"
 #include "graphs/ui/results_export.h"
@@ -45,7 +46,7 @@ namespace tnw::tradeoffs {
 namespace {
 
 QPushButton* namedButton(const char* name, const QString& text, QWidget* parent) {
-  auto* b = new QPushButton(text, parent);
+  auto* b = new KeptPushButton(text, parent);
   b->setObjectName(QString::fromLatin1(name));
   b->setAutoDefault(false);
   return b;
@@ -123,7 +124,7 @@ void TradeOffsADialog::buildFrame() {
   m_pages->addWidget(m_judgment);
   m_pages->addWidget(m_results);
 
-  auto* line = new QFrame(this);
+  auto* line = new KeptFrame(this);
   line->setFrameShape(QFrame::HLine);
   line->setFrameShadow(QFrame::Sunken);
 

@@ -1,6 +1,7 @@
 #include "tradeoffs/ui/tradeoffs_judgment_widget.h"
 
 #include "common/ui/elided_label_widget.h"
+#include "common/ui/kept_look_widgets.h"
 #include "common/ui/kept_text_label.h"
 #include "tradeoffs/core/judgment_controls.h"
 #include "tradeoffs/ui/item_text_delegate.h"
@@ -96,15 +97,15 @@ TradeOffsJudgmentWidget::TradeOffsJudgmentWidget(QWidget* parent) : QWidget(pare
   m_c.approaches->setObjectName(QStringLiteral("approaches"));
   m_c.approaches->addWidget(buildNumerical());
   m_c.approaches->addWidget(buildVerbal());
-  auto* approachFrame = new QFrame(this);
+  auto* approachFrame = new KeptFrame(this);
   approachFrame->setFrameShape(QFrame::StyledPanel);
   auto* approachLayout = new QVBoxLayout(approachFrame);
   approachLayout->setContentsMargins(6, 6, 6, 6);
   approachLayout->addWidget(m_c.approaches);
 
-  m_c.cmdTradeOffClearAll = new QPushButton(tr("Clear &All"), this);
+  m_c.cmdTradeOffClearAll = new KeptPushButton(tr("Clear &All"), this);
   m_c.cmdTradeOffClearAll->setObjectName(QStringLiteral("cmdTradeOffClearAll"));
-  m_c.cmdTradeOffEnter = new QPushButton(tr("&Enter"), this);
+  m_c.cmdTradeOffEnter = new KeptPushButton(tr("&Enter"), this);
   m_c.cmdTradeOffEnter->setObjectName(QStringLiteral("cmdTradeOffEnter"));
   // Enter in a score box has its own meaning; no button of the page is the default one.
   m_c.cmdTradeOffClearAll->setAutoDefault(false);
@@ -133,11 +134,11 @@ TradeOffsJudgmentWidget::TradeOffsJudgmentWidget(QWidget* parent) : QWidget(pare
 }
 
 QWidget* TradeOffsJudgmentWidget::buildSelection() {
-  auto* box = new QGroupBox(tr("Select two attributes"), this);
+  auto* box = new KeptGroupBox(tr("Select two attributes"), this);
   box->setObjectName(QStringLiteral("framePCSelect"));
-  m_c.optPCAutomatic = new QRadioButton(tr("Automatic"), box);
+  m_c.optPCAutomatic = new KeptRadioButton(tr("Automatic"), box);
   m_c.optPCAutomatic->setObjectName(QStringLiteral("optPCAutomatic"));
-  m_c.optPCManual = new QRadioButton(tr("Manual"), box);
+  m_c.optPCManual = new KeptRadioButton(tr("Manual"), box);
   m_c.optPCManual->setObjectName(QStringLiteral("optPCManual"));
   m_c.optPCAutomatic->setChecked(true);
   m_c.lstTradeOffFirstC = new QListWidget(box);
@@ -173,7 +174,7 @@ QWidget* TradeOffsJudgmentWidget::buildSelection() {
 }
 
 QWidget* TradeOffsJudgmentWidget::buildCounters() {
-  auto* box = new QGroupBox(this);
+  auto* box = new KeptGroupBox(this);
   box->setObjectName(QStringLiteral("frameCounters"));
   m_c.labPCThisNum = namedLabel("labPCThisNum", QStringLiteral("1"), box);
   m_c.labPCNeccesaryNum = namedLabel("labPCNeccesaryNum", QString(), box);
@@ -273,7 +274,7 @@ QWidget* TradeOffsJudgmentWidget::buildScores() {
   for (int b = 0; b < 4; ++b) {
     const int row = b < 2 ? 1 : 2;
     const int col = (b % 2) == 0 ? 1 : 5;
-    auto* edit = new QLineEdit(panel);
+    auto* edit = new KeptLineEdit(panel);
     edit->setObjectName(QString::fromLatin1(kScoreBoxNames[b]));
     edit->setAlignment(Qt::AlignRight);
     edit->setMinimumWidth(boxWidth);
@@ -321,7 +322,7 @@ QWidget* TradeOffsJudgmentWidget::buildVerbal() {
     grid->addWidget(mark, i + 1, 1);
   }
   for (int i = 0; i < 7; ++i) {
-    auto* option = new QRadioButton(QString::fromLatin1(kVerbalCaptions[i]), frame);
+    auto* option = new KeptRadioButton(QString::fromLatin1(kVerbalCaptions[i]), frame);
     option->setObjectName(QStringLiteral("optPCVerbal_%1").arg(i));
     m_c.optPCVerbal[i] = option;
     m_c.verbalGroup->addButton(option, i);
@@ -340,7 +341,7 @@ QWidget* TradeOffsJudgmentWidget::buildVerbal() {
 
 QWidget* TradeOffsJudgmentWidget::buildVerbalAlternatives() {
   // The verbal scale hides the score boxes, so the two alternatives are repeated here.
-  auto* box = new QGroupBox(tr("The alternatives"), this);
+  auto* box = new KeptGroupBox(tr("The alternatives"), this);
   box->setObjectName(QStringLiteral("framePCVerbalAlternatives"));
   auto* grid = new QGridLayout(box);
   for (int i = 0; i < 2; ++i) {

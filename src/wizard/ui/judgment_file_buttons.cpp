@@ -1,5 +1,7 @@
 #include "wizard/ui/judgment_file_buttons.h"
 
+#include "common/ui/kept_look_widgets.h"
+
 // Qt
 #include <QHBoxLayout>
 #include <QObject>
@@ -11,7 +13,7 @@ namespace {
 
 QPushButton* fileButton(QWidget* page, QHBoxLayout* row, const char* name, const QString& text,
                         const QString& tip) {
-  auto* button = new QPushButton(text, page);
+  auto* button = new KeptPushButton(text, page);
   button->setObjectName(QString::fromLatin1(name));
   button->setToolTip(tip);
   button->setAutoDefault(false);

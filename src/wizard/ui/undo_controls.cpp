@@ -1,5 +1,6 @@
 #include "wizard/ui/undo_controls.h"
 
+#include "common/ui/kept_look_widgets.h"
 #include "wizard/core/command_stack.h"
 #include "wizard/ui/dialog_window.h"
 
@@ -13,7 +14,7 @@ namespace tnw {
 namespace {
 
 QPushButton* undoButton(QWidget* page, const char* name, const char* caption, const QString& tip) {
-  auto* button = new QPushButton(QString::fromUtf8(caption), page);
+  auto* button = new KeptPushButton(QString::fromUtf8(caption), page);
   button->setObjectName(QString::fromUtf8(name));
   button->setToolTip(tip);
   button->setAutoDefault(false);

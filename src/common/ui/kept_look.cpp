@@ -1,0 +1,147 @@
+#include "common/ui/kept_look.h"
+
+#include "common/ui/kept_text.h"
+
+// Qt
+#include <QPaintDevice>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QPixmap>
+#include <QStyleOption>
+#include <QWidget>
+
+// Std
+#include <cmath>
+#include <cstring>
+#include <utility>
+
+namespace tnw {
+
+namespace {
+
+// The device's pixels as an image: an image itself, or a pixmap's image (shared, not copied,
+// when no painter is open on it).
+QImage deviceImage(QPaintDevice* device) {
+  if (device->devType() == QInternal::Image) return *static_cast<QImage*>(device);
+  if (device->devType() == QInternal::Pixmap) return static_cast<QPixmap*>(device)->toImage();
+  return {};
+}
+
+// Whether the image's pixels in the parts of `pixels` that `region` covers (in pixels relative
+// to the rectangle) are those of `kept` (of the rectangle's size) there.
+bool samePixels(const QImage& image, const QRect& pixels, const QRegion& region,
+                const QImage& kept) {
+  if (image.format() != kept.format()) return false;
+  const std::size_t depth = static_cast<std::size_t>(image.depth()) / 8;
+  for (const QRect& part : region) {
+    const std::size_t bytes = static_cast<std::size_t>(part.width()) * depth;
+    const std::size_t imageLeft = static_cast<std::size_t>(pixels.x() + part.x()) * depth;
+    const std::size_t keptLeft = static_cast<std::size_t>(part.x()) * depth;
+    for (int y = part.top(); y <= part.bottom(); ++y) {
+      if (std::memcmp(image.constScanLine(pixels.y() + y) + imageLeft,
+                      kept.constScanLine(y) + keptLeft, bytes) != 0) {
+        return false;
+      }
+    }
+  }
+  return true;
+}
+
+// The region in device pixels relative to the widget's top left corner.
+QRegion scaled(const QRegion& region, int ratio) {
+  if (ratio == 1) return region;
+  QRegion out;
+  for (const QRect& r : region) out += QRect(r.topLeft() * ratio, r.size() * ratio);
+  return out;
+}
+
+}  // namespace
+
+KeptLookInputs KeptLook::itemTextInputs(const QWidget& widget, const QString& text, int flags,
+                                        const QRect& rect) {
+  QStyleOption option;
+  option.initFrom(&widget);
+  KeptLookInputs in;
+  in.style = widget.style();
+  in.font = widget.font();
+  in.palette = option.palette;
+  in.foregroundRole = static_cast<int>(widget.foregroundRole());
+  in.state = static_cast<int>(option.state);
+  in.direction = static_cast<int>(option.direction);
+  in.size = widget.size();
+  in.text = text;
+  in.details = {flags, rect.x(), rect.y(), rect.width(), rect.height(), 0};
+  return in;
+}
+
+std::optional<KeptLook::Place> KeptLook::placeOf(const KeptLookTarget& target) {
+  const QWidget& w = target.widget;
+  if (target.sharedPainter || target.device == nullptr) return std::nullopt;
+  // Another style may draw from more than the option (a style sheet, animations, the Alt key).
+  if (!KeptText::drawsPlainItemText(w.style())) return std::nullopt;
+  // The paint's region (the widget less its opaque children, or the part to update).
+  const QRegion region = target.event.region() & w.rect();
+  if (region.isEmpty()) return std::nullopt;
+  const int devType = target.device->devType();
+  if (devType != QInternal::Image && devType != QInternal::Pixmap) return std::nullopt;
+  const qreal dpr = target.device->devicePixelRatio();
+  const int ratio = static_cast<int>(std::lround(dpr));
+  if (ratio < 1 || static_cast<qreal>(ratio) != dpr) return std::nullopt;
+  const QRect pixels(-target.offset * ratio, w.size() * ratio);
+  const QRect deviceRect(0, 0, target.device->width(), target.device->height());
+  if (pixels.isEmpty() || !deviceRect.contains(pixels)) return std::nullopt;
+  if (static_cast<qint64>(pixels.width()) * pixels.height() > kMaxPixels) return std::nullopt;
+  return Place{target.device, pixels, ratio, region, scaled(region, ratio)};
+}
+
+bool KeptLook::seenBefore(const KeptLookInputs& inputs) {
+  for (std::size_t i = 0; i < m_seen.size(); ++i) {
+    if (m_seen[i] == inputs) {
+      std::swap(m_seen[0], m_seen[i]);
+      return true;
+    }
+  }
+  if (m_seen.size() == kMaxSeen) m_seen.pop_back();
+  m_seen.insert(m_seen.begin(), inputs);
+  return false;
+}
+
+QImage KeptLook::pixelsAt(const Place& place) {
+  return deviceImage(place.device).copy(place.pixels);
+}
+
+bool KeptLook::copyKept(const KeptLookTarget& target, const Place& place,
+                        const KeptLookInputs& inputs) {
+  std::size_t found = m_looks.size();
+  {
+    const QImage image = deviceImage(place.device);
+    if (image.isNull() || image.depth() % 8 != 0) return false;
+    for (std::size_t i = 0; i < m_looks.size() && found == m_looks.size(); ++i) {
+      const Look& look = m_looks[i];
+      if (look.pixels == place.pixels && look.ratio == place.ratio && look.region == place.region &&
+          look.inputs == inputs &&
+          samePixels(image, place.pixels, place.devicePixels, look.under)) {
+        found = i;
+      }
+    }
+  }  // the device's image is let go before a painter opens on it
+  if (found == m_looks.size()) return false;
+  if (found != 0) std::swap(m_looks[0], m_looks[found]);
+  QPainter painter(&target.widget);
+  painter.setCompositionMode(QPainter::CompositionMode_Source);
+  painter.drawImage(QPointF(0, 0), m_looks[0].over);
+  ++m_copied;
+  return true;
+}
+
+void KeptLook::keep(const Place& place, const KeptLookInputs& inputs, QImage under) {
+  QImage over = pixelsAt(place);
+  if (under.isNull() || over.isNull() || under.depth() % 8 != 0) return;
+  over.setDevicePixelRatio(place.ratio);
+  if (m_looks.size() == kMaxLooks) m_looks.pop_back();
+  m_looks.insert(m_looks.begin(), Look{inputs, place.pixels, place.ratio, place.region,
+                                       std::move(under), std::move(over)});
+  ++m_kept;
+}
+
+}  // namespace tnw

@@ -1,0 +1,93 @@
+#pragma once
+
+#include "common/ui/kept_look.h"
+
+// Qt
+#include <QFrame>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace tnw {
+
+// A push button that paints as QPushButton and keeps its last looks (see KeptLook): a page shown
+// again, or a button pressed and released again, copies its pixels instead of drawing them.
+class KeptPushButton : public QPushButton {
+ public:
+  using QPushButton::QPushButton;
+  // The kept looks (for tests).
+  const KeptLook& keptLook() const { return m_look; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  KeptLook m_look;
+};
+
+// A radio button that paints as QRadioButton and keeps its last looks (see KeptLook).
+class KeptRadioButton : public QRadioButton {
+ public:
+  using QRadioButton::QRadioButton;
+  // The kept looks (for tests).
+  const KeptLook& keptLook() const { return m_look; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  KeptLook m_look;
+};
+
+// A group box that paints its frame and title as QGroupBox and keeps its last looks (see
+// KeptLook); its children paint themselves.
+class KeptGroupBox : public QGroupBox {
+ public:
+  using QGroupBox::QGroupBox;
+  // The kept looks (for tests).
+  const KeptLook& keptLook() const { return m_look; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  KeptLook m_look;
+};
+
+// A frame (a panel, a separating line) that paints as QFrame and keeps its last looks (see
+// KeptLook); its children paint themselves.
+class KeptFrame : public QFrame {
+ public:
+  using QFrame::QFrame;
+  // The kept looks (for tests).
+  const KeptLook& keptLook() const { return m_look; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  KeptLook m_look;
+};
+
+// A line edit that paints as QLineEdit and keeps its last looks (see KeptLook) while it shows
+// no cursor, no selection and no buttons inside it, and its text fits with room to spare: then
+// where its text is drawn follows from its text, alignment and room alone (a longer text is
+// scrolled to its cursor, from where it was scrolled before, and is painted by QLineEdit).
+class KeptLineEdit : public QLineEdit {
+ public:
+  using QLineEdit::QLineEdit;
+  // The kept looks (for tests).
+  const KeptLook& keptLook() const { return m_look; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  // Whether the text is drawn where its inputs alone place it.
+  bool placesTextPlainly() const;
+
+  KeptLook m_look;
+};
+
+}  // namespace tnw
