@@ -348,6 +348,31 @@ class KeptLookTest : public QObject {
     checkEveryChange(t, changes);
   }
 
+  // A panel over a plain background keeps its edges' rows and one of each run of equal rows, and
+  // none of its opaque child's pixels: little more than its outline, where it kept 8 bytes a
+  // device pixel of its whole rectangle. The copy is the stock paint's pixels.
+  void aPanelKeepsLittleMoreThanItsOutline() {
+    Twins<QFrame, KeptFrame> t;
+    for (Backdrop* host : {&t.stockHost, &t.keptHost}) host->setEnd(QColor(250, 240, 200));
+    t.change([](QFrame& f) {
+      f.setFrameShape(QFrame::StyledPanel);
+      f.setGeometry(5, 5, 250, 130);
+      auto* child = new QWidget(&f);
+      child->setAutoFillBackground(true);
+      child->setGeometry(20, 20, 200, 80);
+    });
+    t.show();
+    // The window may become active after its first paint, which changes the panel's state.
+    bool copied = false;
+    for (int paint = 0; paint < 3 && !copied; ++paint) copied = t.sameAndCopied();
+    QVERIFY(copied);
+    QVERIFY(t.ok);
+    const qreal ratio = t.kept->devicePixelRatioF();
+    const qint64 devicePixels = qRound64(250 * 130 * ratio * ratio);
+    QVERIFY2(t.kept->keptLook().keptBytes() * 20 < devicePixels * 8,
+             qPrintable(QString::number(t.kept->keptLook().keptBytes())));
+  }
+
   // A shortened name paints as a QLabel showing the shortened text, and copies it when nothing
   // changed.
   void elidedLabelsPaintAsQLabel() {

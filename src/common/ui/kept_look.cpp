@@ -12,7 +12,6 @@
 
 // Std
 #include <cmath>
-#include <cstring>
 #include <utility>
 
 namespace tnw {
@@ -25,26 +24,6 @@ QImage deviceImage(QPaintDevice* device) {
   if (device->devType() == QInternal::Image) return *static_cast<QImage*>(device);
   if (device->devType() == QInternal::Pixmap) return static_cast<QPixmap*>(device)->toImage();
   return {};
-}
-
-// Whether the image's pixels in the parts of `pixels` that `region` covers (in pixels relative
-// to the rectangle) are those of `kept` (of the rectangle's size) there.
-bool samePixels(const QImage& image, const QRect& pixels, const QRegion& region,
-                const QImage& kept) {
-  if (image.format() != kept.format()) return false;
-  const std::size_t depth = static_cast<std::size_t>(image.depth()) / 8;
-  for (const QRect& part : region) {
-    const std::size_t bytes = static_cast<std::size_t>(part.width()) * depth;
-    const std::size_t imageLeft = static_cast<std::size_t>(pixels.x() + part.x()) * depth;
-    const std::size_t keptLeft = static_cast<std::size_t>(part.x()) * depth;
-    for (int y = part.top(); y <= part.bottom(); ++y) {
-      if (std::memcmp(image.constScanLine(pixels.y() + y) + imageLeft,
-                      kept.constScanLine(y) + keptLeft, bytes) != 0) {
-        return false;
-      }
-    }
-  }
-  return true;
 }
 
 // The region in device pixels relative to the widget's top left corner.
@@ -106,8 +85,14 @@ bool KeptLook::seenBefore(const KeptLookInputs& inputs) {
   return false;
 }
 
-QImage KeptLook::pixelsAt(const Place& place) {
-  return deviceImage(place.device).copy(place.pixels);
+KeptPixels KeptLook::pixelsAt(const Place& place) {
+  return KeptPixels(deviceImage(place.device), place.pixels.topLeft(), place.devicePixels);
+}
+
+qint64 KeptLook::keptBytes() const {
+  qint64 sum = 0;
+  for (const Look& look : m_looks) sum += look.under.bytes() + look.over.bytes();
+  return sum;
 }
 
 bool KeptLook::copyKept(const KeptLookTarget& target, const Place& place,
@@ -119,25 +104,29 @@ bool KeptLook::copyKept(const KeptLookTarget& target, const Place& place,
     for (std::size_t i = 0; i < m_looks.size() && found == m_looks.size(); ++i) {
       const Look& look = m_looks[i];
       if (look.pixels == place.pixels && look.ratio == place.ratio && look.region == place.region &&
-          look.inputs == inputs &&
-          samePixels(image, place.pixels, place.devicePixels, look.under)) {
+          look.inputs == inputs && look.under.sameAs(image, place.pixels.topLeft())) {
         found = i;
       }
     }
   }  // the device's image is let go before a painter opens on it
   if (found == m_looks.size()) return false;
   if (found != 0) std::swap(m_looks[0], m_looks[found]);
+  ++m_copied;
+  // Into an image no painter is open on, the kept pixels are written as a painter in Source mode
+  // would draw them.
+  if (place.device->devType() == QInternal::Image && !place.device->paintingActive() &&
+      m_looks[0].over.writeTo(*static_cast<QImage*>(place.device), place.pixels.topLeft())) {
+    return true;
+  }
   QPainter painter(&target.widget);
   painter.setCompositionMode(QPainter::CompositionMode_Source);
-  painter.drawImage(QPointF(0, 0), m_looks[0].over);
-  ++m_copied;
+  m_looks[0].over.draw(painter, place.ratio);
   return true;
 }
 
-void KeptLook::keep(const Place& place, const KeptLookInputs& inputs, QImage under) {
-  QImage over = pixelsAt(place);
-  if (under.isNull() || over.isNull() || under.depth() % 8 != 0) return;
-  over.setDevicePixelRatio(place.ratio);
+void KeptLook::keep(const Place& place, const KeptLookInputs& inputs, KeptPixels under) {
+  KeptPixels over = pixelsAt(place);
+  if (under.isNull() || over.isNull()) return;
   if (m_looks.size() == kMaxLooks) m_looks.pop_back();
   m_looks.insert(m_looks.begin(), Look{inputs, place.pixels, place.ratio, place.region,
                                        std::move(under), std::move(over)});

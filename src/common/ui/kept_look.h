@@ -1,5 +1,7 @@
 #pragma once
 
+#include "common/ui/kept_pixels.h"
+
 // Qt
 #include <QColor>
 #include <QFont>
@@ -63,7 +65,8 @@ struct KeptLookTarget {
 // the Fusion style without a style sheet and not through a shared painter (grab(), render());
 // everywhere else the stock paint runs. A look is kept the second time it is painted. A paint draws
 // the same pixels from the same inputs over the same pixels in the same clip; that is all a copy
-// assumes. Each look keeps 8 bytes a device pixel (the pixels under and over).
+// assumes. A look keeps the pixels under and over the paint's region only (KeptPixels: up to 8
+// bytes a device pixel, much less where rows repeat, as in a panel or over a plain background).
 class KeptLook {
  public:
   // Paints the target: a kept look if one matches, else stockPaint(), whose result is kept.
@@ -76,7 +79,7 @@ class KeptLook {
       stockPaint();
       return;
     }
-    QImage under = pixelsAt(*place);
+    KeptPixels under = pixelsAt(*place);
     stockPaint();
     keep(*place, inputs, std::move(under));
   }
@@ -90,14 +93,16 @@ class KeptLook {
   int copied() const { return m_copied; }
   // How many paints kept what the stock paint drew (for tests).
   int kept() const { return m_kept; }
+  // The bytes the kept looks' pixels take (for tests).
+  qint64 keptBytes() const;
   // Lets every kept look go.
   void clear() {
     m_looks.clear();
     m_seen.clear();
   }
 
-  // At most this many looks are kept (a button pressed, released, and given the focus).
-  static constexpr std::size_t kMaxLooks = 3;
+  // At most this many looks are kept (a button pressed and released, a page shown and hidden).
+  static constexpr std::size_t kMaxLooks = 2;
   // The inputs of at most this many paints are remembered.
   static constexpr std::size_t kMaxSeen = 8;
   // Widgets of more device pixels than this are not kept.
@@ -117,17 +122,17 @@ class KeptLook {
     QRect pixels;
     int ratio = 1;
     QRegion region;
-    QImage under;
-    QImage over;
+    KeptPixels under;
+    KeptPixels over;
   };
 
   static std::optional<Place> placeOf(const KeptLookTarget& target);
   // Whether the inputs were painted before (among the last few), noting them.
   bool seenBefore(const KeptLookInputs& inputs);
-  // A copy of the device's pixels at the place.
-  static QImage pixelsAt(const Place& place);
+  // The device's pixels in the place's region.
+  static KeptPixels pixelsAt(const Place& place);
   bool copyKept(const KeptLookTarget& target, const Place& place, const KeptLookInputs& inputs);
-  void keep(const Place& place, const KeptLookInputs& inputs, QImage under);
+  void keep(const Place& place, const KeptLookInputs& inputs, KeptPixels under);
 
   std::vector<Look> m_looks;           // the most recent first
   std::vector<KeptLookInputs> m_seen;  // the inputs of the last paints, the most recent first
