@@ -373,6 +373,57 @@ class KeptLookTest : public QObject {
              qPrintable(QString::number(t.kept->keptLook().keptBytes())));
   }
 
+  // A tab bar paints as QTabBar after each change of the bar or of a tab, and copies its look
+  // when nothing changed.
+  void tabBarsPaintAsQTabBar() {
+    Twins<QTabBar, KeptTabBar> t;
+    t.change([](QTabBar& b) {
+      for (const char* text : {"A1", "B2", "C3"}) b.addTab(QString::fromUtf8(text));
+    });
+    auto changes = widgetChanges<QTabBar>(true);
+    changes.push_back({[](QTabBar& b) { b.setCurrentIndex(1); }});
+    changes.push_back({[](QTabBar& b) { b.setCurrentIndex(0); }, 1});
+    changes.push_back({[](QTabBar& b) { b.setTabText(2, QStringLiteral("D4")); }});
+    changes.push_back({[](QTabBar& b) { b.setTabEnabled(1, false); }});
+    changes.push_back({[](QTabBar& b) { b.setTabVisible(1, false); }});
+    changes.push_back({[](QTabBar& b) { b.setShape(QTabBar::RoundedSouth); }});
+    changes.push_back({[](QTabBar& b) { b.setDocumentMode(true); }});
+    changes.push_back({[](QTabBar& b) { b.setDrawBase(false); }});
+    changes.push_back({[](QTabBar& b) { b.setExpanding(false); }});
+    changes.push_back({[](QTabBar& b) {
+      QPixmap icon(12, 12);
+      icon.fill(Qt::darkRed);
+      b.setTabIcon(0, QIcon(icon));
+    }});
+    checkEveryChange(t, changes);
+  }
+
+  // A tab of a colour of its own, scroll buttons, or a bar whose tabs can be dragged: QTabBar
+  // paints every time.
+  void tabBarsOfMoreThanTheirOptionsPaintAsQTabBar() {
+    Twins<QTabBar, KeptTabBar> t;
+    t.change([](QTabBar& b) {
+      for (const char* text : {"A1", "B2", "C3"}) b.addTab(QString::fromUtf8(text));
+    });
+    t.show();
+    const std::function<void(QTabBar&)> changes[] = {
+        [](QTabBar& b) { b.setTabTextColor(1, QColor(160, 0, 0)); },
+        [](QTabBar& b) {
+          b.setTabTextColor(1, QColor());
+          b.setMovable(true);
+        },
+        [](QTabBar& b) {
+          b.setMovable(false);
+          for (int i = 0; i < 12; ++i) b.addTab(QStringLiteral("A rather long tab %1").arg(i));
+        },
+    };
+    for (const auto& change : changes) {
+      t.change(change);
+      for (int i = 0; i < 3; ++i) QVERIFY(!t.sameAndCopied());
+      QVERIFY(t.ok);
+    }
+  }
+
   // A shortened name paints as a QLabel showing the shortened text, and copies it when nothing
   // changed.
   void elidedLabelsPaintAsQLabel() {

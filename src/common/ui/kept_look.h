@@ -43,6 +43,7 @@ struct KeptLookInputs {
   QSize iconSize;                 // the option's icon size
   QColor color;                   // a colour the option carries (a group box's title)
   std::array<int, 11> details{};  // what else the option of this kind of widget carries
+  std::vector<int> parts;         // what the options of a widget's parts carry (a bar's tabs)
   // Whether both would paint the same.
   bool operator==(const KeptLookInputs&) const = default;
 };

@@ -6,6 +6,7 @@
 #include <QStyleOptionButton>
 #include <QStyleOptionFrame>
 #include <QStyleOptionGroupBox>
+#include <QStyleOptionTab>
 
 namespace tnw {
 
@@ -142,6 +143,92 @@ void KeptLineEdit::paintEvent(QPaintEvent* event) {
   QPaintDevice* device = redirected(&offset);
   m_look.paint({*this, *event, device, offset, sharedPainter() != nullptr}, in,
                [this, event] { QLineEdit::paintEvent(event); });
+}
+
+namespace {
+
+// Appends what a tab's option carries that its label and shape are drawn from.
+void appendTab(std::vector<int>& parts, const QStyleOptionTab& tab) {
+  const qint64 icon = tab.icon.isNull() ? 0 : tab.icon.cacheKey();
+  parts.insert(parts.end(), {tab.tabIndex,
+                             tab.rect.x(),
+                             tab.rect.y(),
+                             tab.rect.width(),
+                             tab.rect.height(),
+                             tab.row,
+                             static_cast<int>(tab.shape),
+                             static_cast<int>(tab.position),
+                             static_cast<int>(tab.selectedPosition),
+                             static_cast<int>(tab.cornerWidgets),
+                             tab.iconSize.width(),
+                             tab.iconSize.height(),
+                             tab.documentMode ? 1 : 0,
+                             tab.leftButtonSize.width(),
+                             tab.leftButtonSize.height(),
+                             tab.rightButtonSize.width(),
+                             tab.rightButtonSize.height(),
+                             static_cast<int>(tab.features),
+                             static_cast<int>(tab.state),
+                             static_cast<int>(tab.direction),
+                             static_cast<int>(icon >> 32),
+                             static_cast<int>(icon & 0xffffffff),
+                             static_cast<int>(tab.text.size())});
+}
+
+}  // namespace
+
+std::optional<KeptLookInputs> KeptTabBar::inputs() const {
+  if (isMovable()) return std::nullopt;
+  // Scroll buttons and tab buttons are the bar's only child widgets; where they show, the bar
+  // draws tears and makes room for them.
+  for (const QObject* child : children()) {
+    if (child->isWidgetType() && static_cast<const QWidget*>(child)->isVisible()) {
+      return std::nullopt;
+    }
+  }
+  QStyleOption bar;
+  bar.initFrom(this);
+  KeptLookInputs in = commonInputs(*this, bar);
+  QRect tabs;
+  for (int i = 0; i < count(); ++i) {
+    tabs |= tabRect(i);
+    if (!isTabVisible(i)) continue;
+    QStyleOptionTab tab;
+    initStyleOption(&tab, i);
+    // A tab's own text colour, and what it draws with, would be inputs of their own.
+    if (!(tab.palette == bar.palette) ||
+        tab.palette.currentColorGroup() != bar.palette.currentColorGroup()) {
+      return std::nullopt;
+    }
+    appendTab(in.parts, tab);
+    in.text += tab.text;
+  }
+  const QRect selected = tabRect(currentIndex());
+  in.details = {currentIndex(),         drawBase() ? 1 : 0, static_cast<int>(shape()),
+                documentMode() ? 1 : 0, tabs.x(),           tabs.y(),
+                tabs.width(),           tabs.height(),      selected.x(),
+                selected.y(),           selected.width()};
+  in.parts.push_back(selected.height());
+  return in;
+}
+
+void KeptTabBar::paintEvent(QPaintEvent* event) {
+  const std::optional<KeptLookInputs> in = inputs();
+  if (!in) {
+    QTabBar::paintEvent(event);
+    return;
+  }
+  QPoint offset;
+  QPaintDevice* device = redirected(&offset);
+  m_look.paint({*this, *event, device, offset, sharedPainter() != nullptr}, *in,
+               [this, event] { QTabBar::paintEvent(event); });
+}
+
+KeptTabWidget::KeptTabWidget(QWidget* parent) : QTabWidget(parent) {
+  auto* bar = new KeptTabBar(this);
+  bar->setObjectName(QStringLiteral("qt_tabwidget_tabbar"));
+  bar->setDrawBase(false);
+  setTabBar(bar);
 }
 
 }  // namespace tnw

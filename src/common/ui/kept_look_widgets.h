@@ -8,6 +8,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTabBar>
+#include <QTabWidget>
 
 namespace tnw {
 
@@ -88,6 +90,32 @@ class KeptLineEdit : public QLineEdit {
   bool placesTextPlainly() const;
 
   KeptLook m_look;
+};
+
+// A tab bar that paints as QTabBar and keeps its last looks (see KeptLook) while it cannot be
+// dragged and shows no scroll or tab buttons: then its paint draws from its tabs' options alone.
+class KeptTabBar : public QTabBar {
+ public:
+  using QTabBar::QTabBar;
+  // The kept looks (for tests).
+  const KeptLook& keptLook() const { return m_look; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  // The inputs of the paint, or nothing where it draws from more than its tabs' options.
+  std::optional<KeptLookInputs> inputs() const;
+
+  KeptLook m_look;
+};
+
+// A tab widget whose tab bar is a KeptTabBar (named and set up as QTabWidget names and sets up
+// its own bar).
+class KeptTabWidget : public QTabWidget {
+ public:
+  // A tab widget without pages.
+  explicit KeptTabWidget(QWidget* parent = nullptr);
 };
 
 }  // namespace tnw

@@ -159,7 +159,7 @@ QWidget* DirectJudgmentPageWidget::buildRatioFrame() {
 }
 
 QWidget* DirectJudgmentPageWidget::buildTabs() {
-  m_tabs = new QTabWidget(this);
+  m_tabs = new KeptTabWidget(this);
   m_tabs->setObjectName(QStringLiteral("tsTab"));
   // Without scroll buttons the tab strip asks for room for both tabs, so none is cut at 200 %.
   m_tabs->setUsesScrollButtons(false);

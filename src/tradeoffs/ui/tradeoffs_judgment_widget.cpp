@@ -87,7 +87,7 @@ TradeOffsJudgmentWidget::TradeOffsJudgmentWidget(QWidget* parent) : QWidget(pare
   top->addWidget(buildSelection(), 1);
   top->addWidget(buildCounters());
 
-  m_c.tsComparisonApproaches = new QTabBar(this);
+  m_c.tsComparisonApproaches = new KeptTabBar(this);
   m_c.tsComparisonApproaches->setObjectName(QStringLiteral("tsComparisonApproaches"));
   m_c.tsComparisonApproaches->addTab(tr("Numerical"));
   m_c.tsComparisonApproaches->addTab(tr("Verbal"));

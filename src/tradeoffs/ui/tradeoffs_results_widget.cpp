@@ -1,5 +1,6 @@
 #include "tradeoffs/ui/tradeoffs_results_widget.h"
 
+#include "common/ui/kept_look_widgets.h"
 #include "common/ui/wrapped_label.h"
 #include "graphs/ui/chart_widget.h"
 #include "graphs/ui/results_export.h"
@@ -90,7 +91,7 @@ const char* TradeOffsResultsWidget::chartKey(int button) { return kChartKeys[but
 
 TradeOffsResultsWidget::TradeOffsResultsWidget(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("pageResults"));
-  m_c.tsTabsW = new QTabBar(this);
+  m_c.tsTabsW = new KeptTabBar(this);
   m_c.tsTabsW->setObjectName(QStringLiteral("tsTabsW"));
   m_c.tsTabsW->addTab(tr("Weight Estimates"));
   m_c.tsTabsW->addTab(tr("Regression Status"));
