@@ -36,10 +36,7 @@ QRegion scaled(const QRegion& region, int ratio) {
 
 }  // namespace
 
-KeptLookInputs KeptLook::itemTextInputs(const QWidget& widget, const QString& text, int flags,
-                                        const QRect& rect) {
-  QStyleOption option;
-  option.initFrom(&widget);
+KeptLookInputs KeptLook::commonInputs(const QWidget& widget, const QStyleOption& option) {
   KeptLookInputs in;
   in.style = widget.style();
   in.font = widget.font();
@@ -48,6 +45,14 @@ KeptLookInputs KeptLook::itemTextInputs(const QWidget& widget, const QString& te
   in.state = static_cast<int>(option.state);
   in.direction = static_cast<int>(option.direction);
   in.size = widget.size();
+  return in;
+}
+
+KeptLookInputs KeptLook::itemTextInputs(const QWidget& widget, const QString& text, int flags,
+                                        const QRect& rect) {
+  QStyleOption option;
+  option.initFrom(&widget);
+  KeptLookInputs in = commonInputs(widget, option);
   in.text = text;
   in.details = {flags, rect.x(), rect.y(), rect.width(), rect.height(), 0};
   return in;

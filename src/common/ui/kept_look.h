@@ -22,6 +22,7 @@
 class QPaintDevice;
 class QPaintEvent;
 class QStyle;
+class QStyleOption;
 class QWidget;
 
 namespace tnw {
@@ -85,6 +86,9 @@ class KeptLook {
     keep(*place, inputs, std::move(under));
   }
 
+  // The inputs every paint of a widget shares: its style, font, palette (the option's),
+  // foreground role and size, and the option's state and direction.
+  static KeptLookInputs commonInputs(const QWidget& widget, const QStyleOption& option);
   // The inputs of a widget's text drawn as the style draws an item text (a label's): the text,
   // its flags and its rectangle, in the widget's font and palette with its foreground role.
   static KeptLookInputs itemTextInputs(const QWidget& widget, const QString& text, int flags,

@@ -12,22 +12,9 @@ namespace tnw {
 
 namespace {
 
-// The inputs every option and widget share.
-KeptLookInputs commonInputs(const QWidget& widget, const QStyleOption& option) {
-  KeptLookInputs in;
-  in.style = widget.style();
-  in.font = widget.font();
-  in.palette = option.palette;
-  in.foregroundRole = static_cast<int>(widget.foregroundRole());
-  in.state = static_cast<int>(option.state);
-  in.direction = static_cast<int>(option.direction);
-  in.size = widget.size();
-  return in;
-}
-
 // The inputs of a button's paint: its option's, drawn over the widget's whole rectangle.
 KeptLookInputs buttonInputs(const QWidget& widget, const QStyleOptionButton& option) {
-  KeptLookInputs in = commonInputs(widget, option);
+  KeptLookInputs in = KeptLook::commonInputs(widget, option);
   in.text = option.text;
   in.iconKey = option.icon.isNull() ? 0 : option.icon.cacheKey();
   in.iconSize = option.iconSize;
@@ -63,7 +50,7 @@ void KeptRadioButton::paintEvent(QPaintEvent* event) {
 void KeptGroupBox::paintEvent(QPaintEvent* event) {
   QStyleOptionGroupBox option;
   initStyleOption(&option);
-  KeptLookInputs in = commonInputs(*this, option);
+  KeptLookInputs in = KeptLook::commonInputs(*this, option);
   in.text = option.text;
   in.color = option.textColor;
   in.details = {static_cast<int>(option.textAlignment),
@@ -81,7 +68,7 @@ void KeptGroupBox::paintEvent(QPaintEvent* event) {
 void KeptFrame::paintEvent(QPaintEvent* event) {
   QStyleOptionFrame option;
   initStyleOption(&option);
-  KeptLookInputs in = commonInputs(*this, option);
+  KeptLookInputs in = KeptLook::commonInputs(*this, option);
   in.details = {static_cast<int>(option.frameShape),
                 static_cast<int>(option.features),
                 option.lineWidth,
@@ -123,7 +110,7 @@ void KeptLineEdit::paintEvent(QPaintEvent* event) {
   }
   QStyleOptionFrame option;
   initStyleOption(&option);
-  KeptLookInputs in = commonInputs(*this, option);
+  KeptLookInputs in = KeptLook::commonInputs(*this, option);
   // The placeholder is drawn in the text's place when there is no text.
   const QString shown = displayText();
   in.text = shown.isEmpty() ? placeholderText() : shown;
@@ -188,7 +175,7 @@ std::optional<KeptLookInputs> KeptTabBar::inputs() const {
   }
   QStyleOption bar;
   bar.initFrom(this);
-  KeptLookInputs in = commonInputs(*this, bar);
+  KeptLookInputs in = KeptLook::commonInputs(*this, bar);
   QRect tabs;
   for (int i = 0; i < count(); ++i) {
     tabs |= tabRect(i);
