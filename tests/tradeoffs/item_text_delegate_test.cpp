@@ -51,6 +51,31 @@ struct ListPair {
   }
 };
 
+// Two shown grids of 8 × 3 numbers with alternating row colours and no current cell, as the
+// results grids are: one drawn by ItemTextDelegate, the other by QStyledItemDelegate.
+struct AlternateRowGrids {
+  AlternateRowGrids() {
+    ours.setItemDelegate(delegate);
+    styled.setItemDelegate(new QStyledItemDelegate(&styled));
+    for (QTableWidget* grid : {&ours, &styled}) {
+      grid->setAlternatingRowColors(true);
+      grid->setWordWrap(false);
+      for (int r = 0; r < 8; ++r)
+        for (int c = 0; c < 3; ++c)
+          grid->setItem(r, c, new QTableWidgetItem(QStringLiteral("%1.%2").arg(r).arg(c * 7)));
+      grid->setCurrentCell(-1, -1);
+      grid->clearFocus();
+      grid->resize(360, 320);
+      grid->show();
+    }
+    QApplication::processEvents();
+  }
+
+  QTableWidget ours{8, 3};
+  QTableWidget styled{8, 3};
+  ItemTextDelegate* delegate = new ItemTextDelegate(&ours);
+};
+
 const QStringList kLongLines = {
     QStringLiteral("A short line"),
     QStringLiteral("A judgment line long enough to be wrapped over several lines in a narrow list"),
@@ -169,23 +194,10 @@ class ItemTextDelegateTest : public QObject {
   // each on its row's colour: the grid shows the style's pixels, and painting it again copies
   // every cell instead of drawing it.
   void alternateRowsAreKeptWithTheStylesPixels() {
-    QTableWidget ours(8, 3);
-    QTableWidget styled(8, 3);
-    auto* delegate = new ItemTextDelegate(&ours);
-    ours.setItemDelegate(delegate);
-    styled.setItemDelegate(new QStyledItemDelegate(&styled));
-    for (QTableWidget* grid : {&ours, &styled}) {
-      grid->setAlternatingRowColors(true);
-      grid->setWordWrap(false);
-      for (int r = 0; r < 8; ++r)
-        for (int c = 0; c < 3; ++c)
-          grid->setItem(r, c, new QTableWidgetItem(QStringLiteral("%1.%2").arg(r).arg(c * 7)));
-      grid->setCurrentCell(-1, -1);
-      grid->clearFocus();
-      grid->resize(360, 320);
-      grid->show();
-    }
-    QApplication::processEvents();
+    AlternateRowGrids grids;
+    QTableWidget& ours = grids.ours;
+    QTableWidget& styled = grids.styled;
+    ItemTextDelegate* delegate = grids.delegate;
     QVERIFY(ours.palette().color(QPalette::AlternateBase) != ours.palette().color(QPalette::Base));
     const QImage first = ours.viewport()->grab().toImage();
     QVERIFY(first == styled.viewport()->grab().toImage());
@@ -197,23 +209,10 @@ class ItemTextDelegateTest : public QObject {
   // On the screen a new cell is drawn once, in place, and its pixels are kept from there; a cell
   // painted only in part is not kept from the screen, whose pixels outside the part are old.
   void cellsOnTheScreenAreKeptFromItsPixels() {
-    QTableWidget ours(8, 3);
-    QTableWidget styled(8, 3);
-    auto* delegate = new ItemTextDelegate(&ours);
-    ours.setItemDelegate(delegate);
-    styled.setItemDelegate(new QStyledItemDelegate(&styled));
-    for (QTableWidget* grid : {&ours, &styled}) {
-      grid->setAlternatingRowColors(true);
-      grid->setWordWrap(false);
-      for (int r = 0; r < 8; ++r)
-        for (int c = 0; c < 3; ++c)
-          grid->setItem(r, c, new QTableWidgetItem(QStringLiteral("%1.%2").arg(r).arg(c * 7)));
-      grid->setCurrentCell(-1, -1);
-      grid->clearFocus();
-      grid->resize(360, 320);
-      grid->show();
-    }
-    QApplication::processEvents();
+    AlternateRowGrids grids;
+    QTableWidget& ours = grids.ours;
+    QTableWidget& styled = grids.styled;
+    ItemTextDelegate* delegate = grids.delegate;
     QVERIFY(delegate->imagesPainted() >= 24);
     QCOMPARE(delegate->imagesDrawnApart(), 0);
     // The screen shows the style's pixels, and painting it again copies the kept cells.
