@@ -6,7 +6,7 @@
 
 namespace tnw {
 
-ElidedLabelWidget::ElidedLabelWidget(const QString& text, QWidget* parent) : QLabel(parent) {
+ElidedLabelWidget::ElidedLabelWidget(const QString& text, QWidget* parent) : KeptLooks(parent) {
   setFullText(text);
   setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 }
@@ -55,14 +55,11 @@ void ElidedLabelWidget::paintEvent(QPaintEvent* event) {
     return;
   }
   // The style's drawItemText, with the text drawn from its kept layout.
-  QPoint offset;
-  QPaintDevice* device = redirected(&offset);
-  m_look.paint({*this, *event, device, offset, sharedPainter() != nullptr},
-               KeptLook::itemTextInputs(*this, shown, flags, r), [&] {
-                 QPainter p(this);
-                 p.setPen(QPen(palette().brush(foregroundRole()), p.pen().widthF()));
-                 m_kept.draw(p, r, flags, shown);
-               });
+  paintKept(event, KeptLook::itemTextInputs(*this, shown, flags, r), [&] {
+    QPainter p(this);
+    p.setPen(QPen(palette().brush(foregroundRole()), p.pen().widthF()));
+    m_kept.draw(p, r, flags, shown);
+  });
 }
 
 }  // namespace tnw

@@ -13,7 +13,7 @@ namespace tnw {
 // (an attribute's name can be long); the whole text stays available as text() and tooltip. The
 // shortened text and its layout are kept between paints, made again when the text, the font or
 // the width changes.
-class ElidedLabelWidget : public QLabel {
+class ElidedLabelWidget : public KeptLooks<QLabel> {
   Q_OBJECT
 
  public:
@@ -26,8 +26,6 @@ class ElidedLabelWidget : public QLabel {
   void setToolTipHeading(const QString& heading);
   // The text as it is painted now: the whole text, or its start and an ellipsis.
   QString shownText() const;
-  // The kept looks of the label (for tests).
-  const KeptLook& keptLook() const { return m_look; }
 
   // Small enough that a long name never widens the dialog.
   QSize minimumSizeHint() const override;
@@ -43,7 +41,6 @@ class ElidedLabelWidget : public QLabel {
   QString m_heading;
   mutable ElidedText m_shortened;
   KeptText m_kept;
-  KeptLook m_look;
 };
 
 }  // namespace tnw

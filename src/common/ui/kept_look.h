@@ -12,11 +12,13 @@
 #include <QRegion>
 #include <QSize>
 #include <QString>
+#include <QWidget>
 
 // Std
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <utility>
 #include <vector>
 
 class QPaintDevice;
@@ -143,6 +145,30 @@ class KeptLook {
   std::vector<KeptLookInputs> m_seen;  // the inputs of the last paints, the most recent first
   int m_copied = 0;
   int m_kept = 0;
+};
+
+// A widget of kind Base that paints through its kept looks: its paintEvent gives paintKept the
+// inputs of the paint and the stock paint to run when no kept look matches.
+template <typename Base>
+class KeptLooks : public Base {
+ public:
+  using Base::Base;
+  // The kept looks (for tests).
+  const KeptLook& keptLook() const { return m_look; }
+
+ protected:
+  // Paints the widget for `event`: a kept look made from equal inputs over equal pixels, or
+  // stockPaint(), whose result is kept.
+  template <typename StockPaint>
+  void paintKept(QPaintEvent* event, const KeptLookInputs& inputs, StockPaint&& stockPaint) {
+    QPoint offset;
+    QPaintDevice* device = this->redirected(&offset);
+    m_look.paint({*this, *event, device, offset, this->sharedPainter() != nullptr}, inputs,
+                 std::forward<StockPaint>(stockPaint));
+  }
+
+ private:
+  KeptLook m_look;
 };
 
 }  // namespace tnw

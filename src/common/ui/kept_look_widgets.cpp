@@ -32,19 +32,13 @@ KeptLookInputs buttonInputs(const QWidget& widget, const QStyleOptionButton& opt
 void KeptPushButton::paintEvent(QPaintEvent* event) {
   QStyleOptionButton option;
   initStyleOption(&option);
-  QPoint offset;
-  QPaintDevice* device = redirected(&offset);
-  m_look.paint({*this, *event, device, offset, sharedPainter() != nullptr},
-               buttonInputs(*this, option), [this, event] { QPushButton::paintEvent(event); });
+  paintKept(event, buttonInputs(*this, option), [this, event] { QPushButton::paintEvent(event); });
 }
 
 void KeptRadioButton::paintEvent(QPaintEvent* event) {
   QStyleOptionButton option;
   initStyleOption(&option);
-  QPoint offset;
-  QPaintDevice* device = redirected(&offset);
-  m_look.paint({*this, *event, device, offset, sharedPainter() != nullptr},
-               buttonInputs(*this, option), [this, event] { QRadioButton::paintEvent(event); });
+  paintKept(event, buttonInputs(*this, option), [this, event] { QRadioButton::paintEvent(event); });
 }
 
 void KeptGroupBox::paintEvent(QPaintEvent* event) {
@@ -59,10 +53,7 @@ void KeptGroupBox::paintEvent(QPaintEvent* event) {
                 static_cast<int>(option.activeSubControls),
                 option.lineWidth,
                 option.midLineWidth};
-  QPoint offset;
-  QPaintDevice* device = redirected(&offset);
-  m_look.paint({*this, *event, device, offset, sharedPainter() != nullptr}, in,
-               [this, event] { QGroupBox::paintEvent(event); });
+  paintKept(event, in, [this, event] { QGroupBox::paintEvent(event); });
 }
 
 void KeptFrame::paintEvent(QPaintEvent* event) {
@@ -75,10 +66,7 @@ void KeptFrame::paintEvent(QPaintEvent* event) {
                 option.midLineWidth,
                 option.rect.width(),
                 option.rect.height()};
-  QPoint offset;
-  QPaintDevice* device = redirected(&offset);
-  m_look.paint({*this, *event, device, offset, sharedPainter() != nullptr}, in,
-               [this, event] { QFrame::paintEvent(event); });
+  paintKept(event, in, [this, event] { QFrame::paintEvent(event); });
 }
 
 bool KeptLineEdit::placesTextPlainly() const {
@@ -126,10 +114,7 @@ void KeptLineEdit::paintEvent(QPaintEvent* event) {
                 m.bottom(),
                 static_cast<int>(cursorMoveStyle()),
                 shown.isEmpty() ? 1 : 0};
-  QPoint offset;
-  QPaintDevice* device = redirected(&offset);
-  m_look.paint({*this, *event, device, offset, sharedPainter() != nullptr}, in,
-               [this, event] { QLineEdit::paintEvent(event); });
+  paintKept(event, in, [this, event] { QLineEdit::paintEvent(event); });
 }
 
 namespace {
@@ -205,10 +190,7 @@ void KeptTabBar::paintEvent(QPaintEvent* event) {
     QTabBar::paintEvent(event);
     return;
   }
-  QPoint offset;
-  QPaintDevice* device = redirected(&offset);
-  m_look.paint({*this, *event, device, offset, sharedPainter() != nullptr}, *in,
-               [this, event] { QTabBar::paintEvent(event); });
+  paintKept(event, *in, [this, event] { QTabBar::paintEvent(event); });
 }
 
 KeptTabWidget::KeptTabWidget(QWidget* parent) : QTabWidget(parent) {

@@ -15,72 +15,50 @@ namespace tnw {
 
 // A push button that paints as QPushButton and keeps its last looks (see KeptLook): a page shown
 // again, or a button pressed and released again, copies its pixels instead of drawing them.
-class KeptPushButton : public QPushButton {
+class KeptPushButton : public KeptLooks<QPushButton> {
  public:
-  using QPushButton::QPushButton;
-  // The kept looks (for tests).
-  const KeptLook& keptLook() const { return m_look; }
+  using KeptLooks::KeptLooks;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-
- private:
-  KeptLook m_look;
 };
 
 // A radio button that paints as QRadioButton and keeps its last looks (see KeptLook).
-class KeptRadioButton : public QRadioButton {
+class KeptRadioButton : public KeptLooks<QRadioButton> {
  public:
-  using QRadioButton::QRadioButton;
-  // The kept looks (for tests).
-  const KeptLook& keptLook() const { return m_look; }
+  using KeptLooks::KeptLooks;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-
- private:
-  KeptLook m_look;
 };
 
 // A group box that paints its frame and title as QGroupBox and keeps its last looks (see
 // KeptLook); its children paint themselves.
-class KeptGroupBox : public QGroupBox {
+class KeptGroupBox : public KeptLooks<QGroupBox> {
  public:
-  using QGroupBox::QGroupBox;
-  // The kept looks (for tests).
-  const KeptLook& keptLook() const { return m_look; }
+  using KeptLooks::KeptLooks;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-
- private:
-  KeptLook m_look;
 };
 
 // A frame (a panel, a separating line) that paints as QFrame and keeps its last looks (see
 // KeptLook); its children paint themselves.
-class KeptFrame : public QFrame {
+class KeptFrame : public KeptLooks<QFrame> {
  public:
-  using QFrame::QFrame;
-  // The kept looks (for tests).
-  const KeptLook& keptLook() const { return m_look; }
+  using KeptLooks::KeptLooks;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-
- private:
-  KeptLook m_look;
 };
 
 // A line edit that paints as QLineEdit and keeps its last looks (see KeptLook) while it shows
 // no cursor, no selection and no buttons inside it, and its text fits with room to spare: then
 // where its text is drawn follows from its text, alignment and room alone (a longer text is
 // scrolled to its cursor, from where it was scrolled before, and is painted by QLineEdit).
-class KeptLineEdit : public QLineEdit {
+class KeptLineEdit : public KeptLooks<QLineEdit> {
  public:
-  using QLineEdit::QLineEdit;
-  // The kept looks (for tests).
-  const KeptLook& keptLook() const { return m_look; }
+  using KeptLooks::KeptLooks;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -88,17 +66,13 @@ class KeptLineEdit : public QLineEdit {
  private:
   // Whether the text is drawn where its inputs alone place it.
   bool placesTextPlainly() const;
-
-  KeptLook m_look;
 };
 
 // A tab bar that paints as QTabBar and keeps its last looks (see KeptLook) while it cannot be
 // dragged and shows no scroll or tab buttons: then its paint draws from its tabs' options alone.
-class KeptTabBar : public QTabBar {
+class KeptTabBar : public KeptLooks<QTabBar> {
  public:
-  using QTabBar::QTabBar;
-  // The kept looks (for tests).
-  const KeptLook& keptLook() const { return m_look; }
+  using KeptLooks::KeptLooks;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -106,8 +80,6 @@ class KeptTabBar : public QTabBar {
  private:
   // The inputs of the paint, or nothing where it draws from more than its tabs' options.
   std::optional<KeptLookInputs> inputs() const;
-
-  KeptLook m_look;
 };
 
 // A tab widget whose tab bar is a KeptTabBar (named and set up as QTabWidget names and sets up

@@ -8,9 +8,9 @@
 
 namespace tnw {
 
-KeptTextLabel::KeptTextLabel(const QString& text, QWidget* parent) : QLabel(text, parent) {}
+KeptTextLabel::KeptTextLabel(const QString& text, QWidget* parent) : KeptLooks(text, parent) {}
 
-KeptTextLabel::KeptTextLabel(QWidget* parent) : QLabel(parent) {}
+KeptTextLabel::KeptTextLabel(QWidget* parent) : KeptLooks(parent) {}
 
 int KeptTextLabel::textFlags() const {
   // QLabel keeps the word wrap among its alignment flags and draws with the text's direction.
@@ -49,17 +49,13 @@ void KeptTextLabel::paintEvent(QPaintEvent* event) {
   const QRect r = contentsRect().adjusted(m, m, -m, -m);
   const int flags = textFlags();
   const QString shown = text();
-  QPoint offset;
-  QPaintDevice* device = redirected(&offset);
-  m_look.paint(
-      {*this, *event, device, offset, sharedPainter() != nullptr},
-      KeptLook::itemTextInputs(*this, shown, flags, r), [&] {
-        QPainter painter(this);
-        QStyleOption option;
-        option.initFrom(this);
-        painter.setPen(QPen(option.palette.brush(foregroundRole()), painter.pen().widthF()));
-        m_kept.draw(painter, r, flags, shown);
-      });
+  paintKept(event, KeptLook::itemTextInputs(*this, shown, flags, r), [&] {
+    QPainter painter(this);
+    QStyleOption option;
+    option.initFrom(this);
+    painter.setPen(QPen(option.palette.brush(foregroundRole()), painter.pen().widthF()));
+    m_kept.draw(painter, r, flags, shown);
+  });
 }
 
 }  // namespace tnw

@@ -12,7 +12,7 @@ namespace tnw {
 // every paint; this one draws it from a KeptText, with the same pixels, whenever its text is
 // plain, unframed and drawn by a style that draws item texts as they come (see KeptText), and
 // paints as QLabel does otherwise (rich text, mnemonics, pictures, frames, style sheets).
-class KeptTextLabel : public QLabel {
+class KeptTextLabel : public KeptLooks<QLabel> {
   Q_OBJECT
 
  public:
@@ -25,8 +25,6 @@ class KeptTextLabel : public QLabel {
   bool paintsKept() const;
   // How many times the kept text was laid out (for tests).
   int laidOut() const { return m_kept.laidOut(); }
-  // The kept looks of the label (for tests).
-  const KeptLook& keptLook() const { return m_look; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -36,7 +34,6 @@ class KeptTextLabel : public QLabel {
   int textFlags() const;
 
   KeptText m_kept;
-  KeptLook m_look;
 };
 
 }  // namespace tnw
