@@ -9,6 +9,7 @@
 // Std
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <random>
 
 // GoogleTest
@@ -205,6 +206,47 @@ TEST(RegressionPlainSumsTest, RepairedZeroPivotsGiveTheFullSweepsInverseExactly)
     }
   }
   EXPECT_GT(invertible, 100);
+}
+
+TEST(RegressionPlainSumsTest, NonFiniteAndExtremeEntriesGiveTheFullSweepsInverse) {
+  // A factor that is infinite or NaN turns the 0s of the identity's columns into NaN in the
+  // full sweep; so must it in the narrowed one. Entries are drawn among 0, small integers,
+  // subnormal, huge, infinite and NaN.
+  std::mt19937 rng(93);
+  std::uniform_int_distribution<int> kind(0, 40);
+  std::uniform_int_distribution<int> entry(-2, 2);
+  const double special[] = {std::numeric_limits<double>::infinity(),
+                            -std::numeric_limits<double>::infinity(),
+                            std::numeric_limits<double>::quiet_NaN(), 1e-320, 1e300};
+  int withNaN = 0;
+  for (int trial = 0; trial < 2000; ++trial) {
+    const int k = 1 + trial % 9;
+    Regression reg;
+    RegressionWork& w = reg.work();
+    w.dimension(k + 2, k);
+    for (int i = 1; i <= k; ++i) {
+      for (int j = 1; j <= k; ++j) {
+        const int t = kind(rng);
+        w.CrossProd(i, j) = t < 5 ? special[t] : t < 20 ? 0.0 : entry(rng);
+      }
+    }
+    Matrix inverse;
+    const bool inverted = plainInverse(w.CrossProd, k, inverse);
+    ASSERT_EQ(reg.Matrix_Invert(), inverted) << trial;
+    if (!inverted) continue;
+    for (int i = 1; i <= k; ++i) {
+      for (int j = 1; j <= k; ++j) {
+        const double want = inverse(i, j);
+        if (std::isnan(want)) {
+          ++withNaN;
+          ASSERT_TRUE(std::isnan(w.InvMatrix(i, j))) << trial << ": (" << i << ", " << j << ")";
+        } else {
+          ASSERT_EQ(w.InvMatrix(i, j), want) << trial << ": (" << i << ", " << j << ")";
+        }
+      }
+    }
+  }
+  EXPECT_GT(withNaN, 100);
 }
 
 TEST(RegressionPlainSumsTest, PairJudgmentsFitAsWithThePlainSums) {

@@ -4,10 +4,7 @@
 
 // Std
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <cstdint>
-#include <cstring>
 #include <limits>
 
 namespace tnw::tradeoffs {
@@ -84,12 +81,11 @@ FitDowndate::FitDowndate(const RegressionWork& full) : m_full(full) {
   m_valid = full.NoInverse == 0 && kk > 0 && full.N >= 1 && full.InvMatrix.rows() == kk + 1 &&
             full.InvMatrix.cols() == kk + 1 && full.CrossProd.rows() == kk + 1 &&
             full.CrossProd.cols() == kk + 1 && full.X.rows() == full.N + 1 &&
-            full.X.cols() == kk + 1 && full.Y.size() >= rows && full.XMean.size() >= att;
+            full.X.cols() == kk + 1 && full.Y.size() >= rows && full.XMean.size() >= att &&
+            full.NonZeroStart.size() == rows + 1;
   if (!m_valid) return;
   m_b.assign(att, 0.0);
   m_g.assign(att, 0.0);
-  m_cols.assign(att, 0);
-  m_values.assign(att, 0.0);
   double inflation = 0.0;
   double invDiag = 0.0;
   for (int i = 1; i <= kk; ++i) {
@@ -130,37 +126,24 @@ DowndatedIndex FitDowndate::without(int k) const {
   if (k < 1 || k > n || n - 1 < 1) return {std::nullopt, true};
   if (!m_valid) return {invertedWithout(k), false};
   const double f = static_cast<double>(n) / (n - 1);
-  // The row's non-zero attributes and differences. A judgment has two among K, so blocks of
-  // four +0.0 (all bits clear) are passed over whole; the others are tested one by one.
-  std::size_t count = 0;
-  const double* x = w.X.row(k);
-  const auto take = [&](int j) {
-    if (x[j] != 0.0) {
-      m_cols[count] = j;
-      m_values[count] = x[j];
-      ++count;
-    }
-  };
-  int j = 1;
-  for (; j + 3 <= kk; j += 4) {
-    std::array<std::uint64_t, 4> bits{};
-    std::memcpy(bits.data(), x + j, sizeof bits);
-    if ((bits[0] | bits[1] | bits[2] | bits[3]) == 0) continue;
-    for (int t = j; t < j + 4; ++t) take(t);
-  }
-  for (; j <= kk; ++j) take(j);
+  // The row's non-zero attributes and differences, as the fit listed them.
+  const auto begin = static_cast<std::size_t>(w.NonZeroStart[static_cast<std::size_t>(k)]);
+  const auto end = static_cast<std::size_t>(w.NonZeroStart[static_cast<std::size_t>(k) + 1]);
+  const int* cols = w.NonZeroAtt.data() + begin;
+  const double* values = w.NonZeroDiff.data() + begin;
+  const std::size_t count = end - begin;
   double xCx = 0.0;
   double xg = 0.0;
   double xb = 0.0;
   for (std::size_t t = 0; t < count; ++t) {
-    const int p = m_cols[t];
+    const int p = cols[t];
     const auto pp = static_cast<std::size_t>(p);
     const double* inv = w.InvMatrix.row(p);
     double sum = 0.0;
-    for (std::size_t u = 0; u < count; ++u) sum += inv[m_cols[u]] * m_values[u];
-    xCx += m_values[t] * sum;
-    xg += m_values[t] * m_g[pp];
-    xb += m_values[t] * m_b[pp];
+    for (std::size_t u = 0; u < count; ++u) sum += inv[cols[u]] * values[u];
+    xCx += values[t] * sum;
+    xg += values[t] * m_g[pp];
+    xb += values[t] * m_b[pp];
   }
   const double s = xCx - 2.0 * xg + m_meanG;  // d' C^-1 d
   const double db = xb - m_meanB;             // d' b

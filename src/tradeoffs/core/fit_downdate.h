@@ -53,10 +53,6 @@ class FitDowndate {
   double m_meanG = 0.0;     // x̄' C^-1 x̄
   double m_meanB = 0.0;     // x̄' b
   double m_tolerance = 5e-13;
-  // The non-zero attributes of the row in hand and their differences (scratch of `without`,
-  // which is therefore not to be called from two threads at once).
-  mutable std::vector<int> m_cols;
-  mutable std::vector<double> m_values;
 };
 
 }  // namespace tnw::tradeoffs

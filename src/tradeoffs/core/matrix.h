@@ -17,6 +17,21 @@ class Matrix {
         m_cols(cols < 0 ? 0 : cols),
         m_data(static_cast<std::size_t>(m_rows) * static_cast<std::size_t>(m_cols), 0.0) {}
 
+  // Makes the matrix rows × cols and all zeros, keeping the storage it already has.
+  void assignZeros(int rows, int cols) {
+    m_rows = rows < 0 ? 0 : rows;
+    m_cols = cols < 0 ? 0 : cols;
+    m_data.assign(static_cast<std::size_t>(m_rows) * static_cast<std::size_t>(m_cols), 0.0);
+  }
+
+  // Makes the matrix rows × cols, keeping its storage and leaving the elements as they lie in it
+  // (0s where it grows): for a caller that writes every element.
+  void reshape(int rows, int cols) {
+    m_rows = rows < 0 ? 0 : rows;
+    m_cols = cols < 0 ? 0 : cols;
+    m_data.resize(static_cast<std::size_t>(m_rows) * static_cast<std::size_t>(m_cols), 0.0);
+  }
+
   // The number of rows.
   int rows() const { return m_rows; }
   // The number of columns.

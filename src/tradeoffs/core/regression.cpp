@@ -2,6 +2,7 @@
 
 #include "common/core/currency.h"
 #include "common/core/number_format.h"
+#include "tradeoffs/core/add_scaled.h"
 
 // Std
 #include <algorithm>
@@ -93,11 +94,17 @@ void Regression::loadObservations(JudgmentStore& store, int numAtt) {
     store.PrefResponse[last] = 1;
     store.ValueDiff[last].assign(static_cast<std::size_t>(numAtt), 1.0);
   }
-  m_work.dimension(n, numAtt);
+  // Every element of X is written below, row 0 and column 0 (not used) with 0s.
+  m_work.dimensionAllButX(n, numAtt);
+  const auto width = static_cast<std::size_t>(numAtt) + 1;
+  std::fill_n(&m_work.X(0, 0), width, 0.0);
   for (int k = 1; k <= n; ++k) {
     const auto& row = store.ValueDiff[static_cast<std::size_t>(k - 1)];
     const std::size_t given = std::min(row.size(), static_cast<std::size_t>(numAtt));
-    std::copy_n(row.begin(), given, &m_work.X(k, 1));
+    double* x = &m_work.X(k, 0);
+    x[0] = 0.0;
+    std::copy_n(row.begin(), given, x + 1);
+    std::fill(x + 1 + given, x + width, 0.0);
     m_work.Y[static_cast<std::size_t>(k)] = store.PrefResponse[static_cast<std::size_t>(k - 1)];
   }
 }
@@ -106,11 +113,13 @@ void Regression::CalMeans() {
   RegressionWork& w = m_work;
   // Without observations there is no mean: they stay 0 (a run always has at least one).
   if (w.N <= 0) return;
-  // Column sums row by row: each column is still summed in observation order.
+  w.listNonZeros();
+  // Column sums row by row: each column is still summed in observation order, and a zero
+  // difference leaves a sum as it is.
   std::vector<double> sums(static_cast<std::size_t>(w.K + 1), 0.0);
-  for (int k = 1; k <= w.N; ++k) {
-    const double* x = &w.X(k, 0);
-    for (int j = 1; j <= w.K; ++j) sums[static_cast<std::size_t>(j)] += x[j];
+  const std::size_t listed = w.NonZeroAtt.size();
+  for (std::size_t t = 0; t < listed; ++t) {
+    sums[static_cast<std::size_t>(w.NonZeroAtt[t])] += w.NonZeroDiff[t];
   }
   for (int j = 1; j <= w.K; ++j) {
     w.XMean[static_cast<std::size_t>(j)] = sums[static_cast<std::size_t>(j)] / w.N;
@@ -128,33 +137,34 @@ void Regression::CalMeans() {
 // N·K², and each pair still sums the same terms as the plain centred sum.
 void Regression::CalCoeffMatrix() {
   RegressionWork& w = m_work;
+  w.listNonZeros();
   const int k = w.K;
   const auto att = static_cast<std::size_t>(k + 1);
   // Row p of part holds the products of the observations where p is non-zero; a pair of two
   // non-zero attributes goes to the row of the first, so each product is taken once.
   Matrix part(k + 1, k + 1);
+  const double* mean = w.XMean.data();
+  // The centred differences of the observation in hand: 0 - XMean(j) where it leaves j at 0.
   std::vector<double> d(att, 0.0);
-  std::vector<int> cols(att, 0);
+  for (int j = 1; j <= k; ++j) d[static_cast<std::size_t>(j)] = 0.0 - mean[j];
   std::vector<int> touchingOne(att, 0);         // observations where i is non-zero
   std::vector<int> touchingBoth(att * att, 0);  // observations where i and j are non-zero
   std::vector<double> yTouching(att, 0.0);      // Σ (Y - YMean) over the observations touching i
   std::vector<double> xy(att, 0.0);             // Σ centred X(i) × (Y - YMean) over the same
-  const double* mean = w.XMean.data();
+  const int* cols = w.NonZeroAtt.data();
+  const double* values = w.NonZeroDiff.data();
   double yTotal = 0.0;
   double total = 0.0;
   for (int obs = 1; obs <= w.N; ++obs) {
-    const double* x = &w.X(obs, 0);
-    // The non-zero attributes listed without a branch: a judgment's two are at random places.
-    std::size_t count = 0;
-    for (int j = 1; j <= k; ++j) {
-      d[static_cast<std::size_t>(j)] = x[j] - mean[j];
-      cols[count] = j;
-      count += x[j] != 0.0 ? 1 : 0;
+    const auto begin = static_cast<std::size_t>(w.NonZeroStart[static_cast<std::size_t>(obs)]);
+    const auto end = static_cast<std::size_t>(w.NonZeroStart[static_cast<std::size_t>(obs) + 1]);
+    for (std::size_t t = begin; t < end; ++t) {
+      d[static_cast<std::size_t>(cols[t])] = values[t] - mean[cols[t]];
     }
     const double e = w.Y[static_cast<std::size_t>(obs)] - w.YMean;
     yTotal += e;
     total += e * e;
-    for (std::size_t t = 0; t < count; ++t) {
+    for (std::size_t t = begin; t < end; ++t) {
       const int p = cols[t];
       const auto pp = static_cast<std::size_t>(p);
       const double dp = d[pp];
@@ -162,15 +172,17 @@ void Regression::CalCoeffMatrix() {
       xy[pp] += dp * e;
       ++touchingOne[pp];
       double* row = &part(p, 0);
-      for (int j = 1; j <= k; ++j) row[j] += dp * d[static_cast<std::size_t>(j)];
-      for (std::size_t u = t + 1; u < count; ++u) {
+      addScaled<false>(row, d.data(), dp, 1, k + 1);
+      for (std::size_t u = t + 1; u < end; ++u) {
         ++touchingBoth[pp * att + static_cast<std::size_t>(cols[u])];
       }
       d[pp] = 0.0;  // the later non-zero attributes skip the pair with p
     }
+    for (std::size_t t = begin; t < end; ++t)
+      d[static_cast<std::size_t>(cols[t])] = 0.0 - mean[cols[t]];
   }
   Matrix& c = w.CrossProd;
-  c = Matrix(k + 1, k + 1);
+  c.assignZeros(k + 1, k + 1);
   for (int i = 1; i <= k; ++i) {
     const auto ii = static_cast<std::size_t>(i);
     c(i, i) = part(i, i) + (w.N - touchingOne[ii]) * (mean[i] * mean[i]);
@@ -183,48 +195,6 @@ void Regression::CalCoeffMatrix() {
     c(i, 0) = xy[ii] + (-mean[i]) * (yTotal - yTouching[ii]);
   }
   c(0, 0) = total;
-}
-
-// Gauss-Jordan without row exchange: a zero pivot is repaired by adding the first later row
-// that has a non-zero entry in the pivot column. The zero tests are exact on purpose. Columns
-// left of the pivot are not read again (neither as factors, nor by a repair's test, nor into
-// InvMatrix), so each step works on the columns from the pivot on only.
-bool Regression::Matrix_Invert() {
-  RegressionWork& w = m_work;
-  const int k = w.K;
-  Matrix a(k + 1, 2 * k + 1);
-  for (int r = 1; r <= k; ++r) {
-    for (int c = 1; c <= k; ++c) a(r, c) = w.CrossProd(r, c);
-    a(r, k + r) = 1.0;
-  }
-  for (int r = 1; r <= k; ++r) {
-    if (a(r, r) == 0.0) {
-      for (int s = r + 1; s <= k; ++s) {
-        if (a(s, r) != 0.0) {
-          for (int c = r; c <= 2 * k; ++c) a(r, c) += a(s, c);
-          break;
-        }
-      }
-    }
-    if (a(r, r) == 0.0) {
-      m_warnings.push_back(kNoInverseWarning);
-      w.NoInverse = 1;
-      return false;
-    }
-    double* pivotRow = &a(r, 0);
-    const double factor = 1.0 / pivotRow[r];
-    for (int c = r + 1; c <= 2 * k; ++c) pivotRow[c] *= factor;
-    for (int i = 1; i <= k; ++i) {
-      if (i == r) continue;
-      double* row = &a(i, 0);
-      const double f = row[r];
-      for (int c = r + 1; c <= 2 * k; ++c) row[c] -= f * pivotRow[c];
-    }
-  }
-  for (int i = 1; i <= k; ++i) {
-    for (int j = 1; j <= k; ++j) w.InvMatrix(i, j) = a(i, k + j);
-  }
-  return true;
 }
 
 void Regression::CalCoefficients() {
@@ -296,19 +266,15 @@ void Regression::LowHighEstimation() {
 
 void Regression::CalModelValues() {
   RegressionWork& w = m_work;
-  std::vector<int> cols(static_cast<std::size_t>(w.K + 1), 0);
+  w.listNonZeros();
   for (int k = 1; k <= w.N; ++k) {
     // A zero difference adds nothing (the coefficients are finite or the fit is rejected), so
-    // only the non-zero ones are summed, in order; they are listed without a branch.
-    const double* x = &w.X(k, 0);
-    std::size_t count = 0;
-    for (int i = 1; i <= w.K; ++i) {
-      cols[count] = i;
-      count += x[i] != 0.0 ? 1 : 0;
-    }
+    // only the non-zero ones are summed, in order.
+    const auto begin = static_cast<std::size_t>(w.NonZeroStart[static_cast<std::size_t>(k)]);
+    const auto end = static_cast<std::size_t>(w.NonZeroStart[static_cast<std::size_t>(k) + 1]);
     double sum = 0.0;
-    for (std::size_t t = 0; t < count; ++t) {
-      sum += w.Coef[static_cast<std::size_t>(cols[t])] * x[cols[t]];
+    for (std::size_t t = begin; t < end; ++t) {
+      sum += w.Coef[static_cast<std::size_t>(w.NonZeroAtt[t])] * w.NonZeroDiff[t];
     }
     const auto kk = static_cast<std::size_t>(k);
     w.ModelValue[kk] = sum;

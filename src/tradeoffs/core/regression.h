@@ -88,6 +88,7 @@ class Regression {
 
  private:
   void loadObservations(JudgmentStore& store, int numAtt);
+  void eliminate(Matrix& a, int r, int& reach);
   bool resultsFinite() const;
 
   RegressionWork m_work;

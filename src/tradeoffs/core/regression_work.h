@@ -11,7 +11,8 @@ namespace tnw::tradeoffs {
 
 // The working arrays and scalars of one regression run, named as the dialog names them. Vectors
 // indexed by attribute or observation have a lower bound of 0 that is not used: attribute i and
-// observation k are at index i and k. Every run of RegressMain makes them anew.
+// observation k are at index i and k. Every run of RegressMain sizes them anew, keeping the
+// storage of the run before.
 struct RegressionWork {
   // N, the number of observations, and K, the number of attributes.
   int N = 0;
@@ -19,6 +20,13 @@ struct RegressionWork {
   // The value differences, X(k, j), and the responses, Y(k).
   Matrix X;
   std::vector<double> Y;
+  // The non-zero differences of X row by row (a judgment has two): observation k's attributes
+  // and differences are at [NonZeroStart[k], NonZeroStart[k + 1]) of NonZeroAtt and NonZeroDiff,
+  // in attribute order. dimension() empties the list and the first step that reads X makes it
+  // (listNonZeros), so X is written in full before the steps run.
+  std::vector<int> NonZeroStart;
+  std::vector<int> NonZeroAtt;
+  std::vector<double> NonZeroDiff;
   // The column means of X and the mean of Y.
   std::vector<double> XMean;
   double YMean = 0.0;
@@ -49,18 +57,28 @@ struct RegressionWork {
   // The verdict on negative coefficients; formed but shown nowhere, kept for inspection.
   std::string Verdict;
 
-  // Sizes every array for n observations and k attributes, all zero.
+  // Sizes every array for n observations and k attributes, all zero, and empties the list of
+  // non-zero differences.
   void dimension(int n, int k) {
+    dimensionAllButX(n, k);
+    X.assignZeros(n + 1, k + 1);
+  }
+  // The same, but the elements of X are left as they lie in its storage: for a caller that
+  // writes every element of X.
+  void dimensionAllButX(int n, int k) {
     N = n;
     K = k;
     const auto obs = static_cast<std::size_t>(n + 1);
     const auto att = static_cast<std::size_t>(k + 1);
-    X = Matrix(n + 1, k + 1);
+    X.reshape(n + 1, k + 1);
     Y.assign(obs, 0.0);
+    NonZeroStart.clear();
+    NonZeroAtt.clear();
+    NonZeroDiff.clear();
     XMean.assign(att, 0.0);
     YMean = 0.0;
-    CrossProd = Matrix(k + 1, k + 1);
-    InvMatrix = Matrix(k + 1, k + 1);
+    CrossProd.assignZeros(k + 1, k + 1);
+    InvMatrix.assignZeros(k + 1, k + 1);
     for (auto* v : {&RegCoef, &Coef, &CoefVar, &LowEst, &HighEst, &Weights}) v->assign(att, 0.0);
     ModelValue.assign(obs, 0.0);
     Residual.assign(obs, 0.0);
@@ -69,6 +87,9 @@ struct RegressionWork {
     NoInverse = 0;
     Verdict.clear();
   }
+
+  // Lists the non-zero differences of X (a NaN counts as non-zero), unless they are listed.
+  void listNonZeros();
 };
 
 }  // namespace tnw::tradeoffs
