@@ -145,6 +145,7 @@ void Regression::CalCoeffMatrix() {
   Matrix part(k + 1, k + 1);
   const double* mean = w.XMean.data();
   // The centred differences of the observation in hand: 0 - XMean(j) where it leaves j at 0.
+  // d(0) stays 0, so that a row's products can be added from column 0 (not used) in blocks.
   std::vector<double> d(att, 0.0);
   for (int j = 1; j <= k; ++j) d[static_cast<std::size_t>(j)] = 0.0 - mean[j];
   std::vector<int> touchingOne(att, 0);         // observations where i is non-zero
@@ -172,7 +173,7 @@ void Regression::CalCoeffMatrix() {
       xy[pp] += dp * e;
       ++touchingOne[pp];
       double* row = &part(p, 0);
-      addScaled<false>(row, d.data(), dp, 1, k + 1);
+      addScaled<false>(row, d.data(), dp, 0, k + 1);
       for (std::size_t u = t + 1; u < end; ++u) {
         ++touchingBoth[pp * att + static_cast<std::size_t>(cols[u])];
       }
