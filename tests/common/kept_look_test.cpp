@@ -424,6 +424,39 @@ class KeptLookTest : public QObject {
     }
   }
 
+  // A tab widget paints its pane as QTabWidget after each change of the widget, its tabs or its
+  // pages, and copies its look when nothing changed.
+  void tabWidgetsPaintAsQTabWidget() {
+    Twins<QTabWidget, KeptTabWidget> t;
+    t.change([](QTabWidget& w) {
+      for (const char* text : {"A1", "B2"}) w.addTab(new QWidget, QString::fromUtf8(text));
+    });
+    // The tab widget has the focus while its bar, its focus proxy, has it.
+    auto changes = widgetChanges<QTabWidget>(true);
+    changes.push_back({[](QTabWidget& w) { w.setCurrentIndex(1); }});
+    changes.push_back({[](QTabWidget& w) { w.setCurrentIndex(0); }, 1});
+    changes.push_back({[](QTabWidget& w) { w.setTabText(0, QStringLiteral("A longer one")); }});
+    changes.push_back({[](QTabWidget& w) { w.addTab(new QWidget, QStringLiteral("C3")); }});
+    changes.push_back({[](QTabWidget& w) { w.setTabPosition(QTabWidget::South); }});
+    changes.push_back({[](QTabWidget& w) { w.setTabPosition(QTabWidget::West); }});
+    changes.push_back({[](QTabWidget& w) { w.setTabShape(QTabWidget::Triangular); }});
+    checkEveryChange(t, changes);
+  }
+
+  // In document mode the pane has no frame and the bar's base is drawn instead: QTabWidget
+  // paints every time.
+  void tabWidgetsInDocumentModePaintAsQTabWidget() {
+    Twins<QTabWidget, KeptTabWidget> t;
+    t.change([](QTabWidget& w) {
+      for (const char* text : {"A1", "B2"}) w.addTab(new QWidget, QString::fromUtf8(text));
+      w.setDocumentMode(true);
+    });
+    t.show();
+    for (int i = 0; i < 3; ++i) QVERIFY(!t.sameAndCopied());
+    QVERIFY(t.ok);
+    QCOMPARE(t.kept->keptLook().kept(), 0);
+  }
+
   // A shortened name paints as a QLabel showing the shortened text, and copies it when nothing
   // changed.
   void elidedLabelsPaintAsQLabel() {

@@ -2,6 +2,7 @@
 
 // Qt
 #include <QApplication>
+#include <QBackingStore>
 #include <QFrame>
 #include <QImage>
 #include <QMouseEvent>
@@ -65,6 +66,41 @@ class ConeAreaLookTest : public QObject {
     shownAfter("other colours");
     area.setCone(QPolygonF());
     shownAfter("no cone");
+  }
+
+  // Painted into the window's backing store, the kept drawing is copied there row by row: the
+  // store then holds what the area paints afresh, around the handles, after every change.
+  void theDrawingCopiedIntoTheStoreIsTheFreshOne() {
+    QWidget window;
+    window.resize(300, 280);
+    auto* area = new ConeAreaWidget(&window);
+    area->setGeometry(17, 9, 240, 240);
+    area->setAreaSide(100);
+    area->setHandlePosition(0, QPointF(40, 20));
+    area->setHandlePosition(1, QPointF(60, 35));
+    area->setCone(QPolygonF({QPointF(0, 100), QPointF(40, 20), QPointF(60, 35)}));
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const auto check = [&](const char* change) {
+      const int copies = area->storeCopies();
+      area->repaint();
+      QVERIFY2(area->storeCopies() > copies, change);
+      const QImage fresh = painted(*area).convertToFormat(QImage::Format_ARGB32);
+      QPaintDevice* device = window.backingStore()->paintDevice();
+      QCOMPARE(device->devType(), int(QInternal::Image));
+      const auto& store = *static_cast<QImage*>(device);
+      const qreal ratio = store.devicePixelRatio();
+      QImage shown = store.copy(QRect(area->geometry().topLeft() * ratio, fresh.size()))
+                         .convertToFormat(QImage::Format_ARGB32);
+      shown.setDevicePixelRatio(fresh.devicePixelRatio());
+      QVERIFY2(shown == fresh, change);
+    };
+    check("shown");
+    check("shown again");
+    area->setCone(QPolygonF({QPointF(0, 100), QPointF(70, 30), QPointF(80, 45)}));
+    check("another cone");
+    area->resize(200, 200);
+    check("another size");
   }
 };
 

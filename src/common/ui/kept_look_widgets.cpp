@@ -7,6 +7,7 @@
 #include <QStyleOptionFrame>
 #include <QStyleOptionGroupBox>
 #include <QStyleOptionTab>
+#include <QStyleOptionTabWidgetFrame>
 
 namespace tnw {
 
@@ -193,11 +194,37 @@ void KeptTabBar::paintEvent(QPaintEvent* event) {
   paintKept(event, *in, [this, event] { QTabBar::paintEvent(event); });
 }
 
-KeptTabWidget::KeptTabWidget(QWidget* parent) : QTabWidget(parent) {
+KeptTabWidget::KeptTabWidget(QWidget* parent) : KeptLooks<QTabWidget>(parent) {
   auto* bar = new KeptTabBar(this);
   bar->setObjectName(QStringLiteral("qt_tabwidget_tabbar"));
   bar->setDrawBase(false);
   setTabBar(bar);
+}
+
+void KeptTabWidget::paintEvent(QPaintEvent* event) {
+  // In document mode the pane has no frame: the bar's base is drawn beside the corner widgets.
+  if (documentMode()) {
+    QTabWidget::paintEvent(event);
+    return;
+  }
+  QStyleOptionTabWidgetFrame option;
+  initStyleOption(&option);
+  KeptLookInputs in = KeptLook::commonInputs(*this, option);
+  // The pane's frame is drawn over the rectangle the style gives the pane for this option.
+  const QRect pane = style()->subElementRect(QStyle::SE_TabWidgetTabPane, &option, this);
+  in.details = {static_cast<int>(option.shape),
+                option.lineWidth,
+                option.midLineWidth,
+                option.tabBarSize.width(),
+                option.tabBarSize.height(),
+                option.leftCornerWidgetSize.width(),
+                option.leftCornerWidgetSize.height(),
+                option.rightCornerWidgetSize.width(),
+                option.rightCornerWidgetSize.height()};
+  for (const QRect& r : {option.tabBarRect, option.selectedTabRect, pane}) {
+    in.parts.insert(in.parts.end(), {r.x(), r.y(), r.width(), r.height()});
+  }
+  paintKept(event, in, [this, event] { QTabWidget::paintEvent(event); });
 }
 
 }  // namespace tnw

@@ -83,11 +83,15 @@ class KeptTabBar : public KeptLooks<QTabBar> {
 };
 
 // A tab widget whose tab bar is a KeptTabBar (named and set up as QTabWidget names and sets up
-// its own bar).
-class KeptTabWidget : public QTabWidget {
+// its own bar), and that paints its pane's frame as QTabWidget and keeps its last looks (see
+// KeptLook) outside document mode, where the pane is drawn from its frame option alone.
+class KeptTabWidget : public KeptLooks<QTabWidget> {
  public:
   // A tab widget without pages.
   explicit KeptTabWidget(QWidget* parent = nullptr);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
 };
 
 }  // namespace tnw

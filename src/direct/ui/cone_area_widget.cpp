@@ -6,10 +6,13 @@
 // Qt
 #include <QFrame>
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 
 // Std
 #include <algorithm>
+#include <cmath>
+#include <cstring>
 
 namespace tnw::direct {
 namespace {
@@ -116,21 +119,26 @@ void ConeAreaWidget::resizeEvent(QResizeEvent* event) {
   layoutHandles();
 }
 
-void ConeAreaWidget::paintEvent(QPaintEvent*) {
-  QPainter p(this);
+void ConeAreaWidget::paintEvent(QPaintEvent* event) {
   // The drawing is kept as a picture until the cone, the side, the size, the scale or the colours
   // change: the page is often shown again with the same cone. While a handle is dragged the cone
   // changes at every step, and a picture fitting whole device pixels only is kept.
+  if (m_dragging < 0 && copyIntoStore(*event)) return;
+  QPainter p(this);
   const int ratio = wholeDeviceRatio(p);
   if (m_dragging >= 0 || ratio == 0) {
     m_picture = QImage();
     paintArea(p);
     return;
   }
-  if (m_picture.isNull() || m_picture.devicePixelRatio() != ratio ||
+  p.drawImage(QPoint(0, 0), picture(ratio, QImage::Format_ARGB32_Premultiplied));
+}
+
+const QImage& ConeAreaWidget::picture(int ratio, QImage::Format format) {
+  if (m_picture.isNull() || m_picture.devicePixelRatio() != ratio || m_picture.format() != format ||
       m_picture.deviceIndependentSize() != QSizeF(size()) || m_pictureCone != m_cone ||
       m_pictureSide != m_side || m_picturePalette != palette().cacheKey()) {
-    m_picture = QImage(size() * ratio, QImage::Format_ARGB32_Premultiplied);
+    m_picture = QImage(size() * ratio, format);
     m_picture.setDevicePixelRatio(ratio);
     QPainter picture(&m_picture);
     paintArea(picture);
@@ -138,7 +146,40 @@ void ConeAreaWidget::paintEvent(QPaintEvent*) {
     m_pictureSide = m_side;
     m_picturePalette = palette().cacheKey();
   }
-  p.drawImage(QPoint(0, 0), m_picture);
+  return m_picture;
+}
+
+bool ConeAreaWidget::copyIntoStore(const QPaintEvent& event) {
+  // A paint into an image (a backing store) at a whole device pixel ratio, through no painter of
+  // anyone else's, takes the picture's rows as they are: the drawing is opaque. A painter would
+  // draw the picture span by span through the clip that leaves out the handles.
+  QPoint offset;
+  QPaintDevice* device = redirected(&offset);
+  if (device == nullptr || sharedPainter() != nullptr || device->paintingActive() ||
+      device->devType() != QInternal::Image) {
+    return false;
+  }
+  auto& store = *static_cast<QImage*>(device);
+  const qreal dpr = store.devicePixelRatio();
+  const int ratio = static_cast<int>(std::lround(dpr));
+  if (store.depth() != 32 || ratio < 1 || static_cast<qreal>(ratio) != dpr) return false;
+  const QPoint origin = -offset * ratio;
+  if (!store.rect().contains(QRect(origin, size() * ratio))) return false;
+  const QImage& drawing = picture(ratio, store.format());
+  constexpr std::size_t kPixelBytes = 4;
+  const qsizetype stride = store.bytesPerLine();
+  uchar* const bits = store.bits();
+  for (const QRect& r : event.region() & rect()) {
+    const QRect d(r.topLeft() * ratio, r.size() * ratio);
+    const std::size_t bytes = static_cast<std::size_t>(d.width()) * kPixelBytes;
+    for (int y = d.top(); y <= d.bottom(); ++y) {
+      std::memcpy(bits + (origin.y() + y) * stride +
+                      static_cast<std::size_t>(origin.x() + d.x()) * kPixelBytes,
+                  drawing.constScanLine(y) + static_cast<std::size_t>(d.x()) * kPixelBytes, bytes);
+    }
+  }
+  ++m_storeCopies;
+  return true;
 }
 
 void ConeAreaWidget::paintArea(QPainter& p) const {

@@ -41,6 +41,8 @@ class ConeAreaWidget : public QWidget {
   void setHandlesVisible(bool visible);
   // The handle widget 0 or 1 (for tests and accessibility).
   QFrame* handle(int index) const;
+  // How many paints copied the kept drawing straight into the backing store (for tests).
+  int storeCopies() const { return m_storeCopies; }
   // Maps a point in area units to the widget's pixels and back.
   QPointF toPixels(QPointF areaPoint) const;
   QPointF toArea(QPointF pixelPoint) const;
@@ -67,6 +69,12 @@ class ConeAreaWidget : public QWidget {
   void layoutHandles();
   // Paints the square, its grid and the cone over the whole widget.
   void paintArea(QPainter& p) const;
+  // The kept drawing at `ratio` device pixels to a pixel in `format`, painted again first if
+  // anything it shows changed.
+  const QImage& picture(int ratio, QImage::Format format);
+  // Copies the kept drawing into the backing store's image where the paint goes there; says
+  // whether it did.
+  bool copyIntoStore(const QPaintEvent& event);
   double scale() const;
   QRectF squareRect() const;
 
@@ -81,6 +89,7 @@ class ConeAreaWidget : public QWidget {
   QPolygonF m_pictureCone;
   double m_pictureSide = 0.0;
   qint64 m_picturePalette = 0;
+  int m_storeCopies = 0;
 };
 
 }  // namespace tnw::direct

@@ -2,9 +2,62 @@
 
 // Qt
 #include <QHBoxLayout>
-#include <QLabel>
+#include <QPainter>
+#include <QStyleOption>
 
 namespace tnw::direct {
+namespace {
+
+// The line around a lamp's face, and the radius of the face's corners.
+const QColor kLampLine(0x40, 0x40, 0x40);
+constexpr qreal kLampRadius = 8.0;
+
+}  // namespace
+
+StatusLamp::StatusLamp(const QString& text, QWidget* parent)
+    : KeptLooks(text, parent), m_face(128, 128, 128), m_text(Qt::black) {
+  // The room around the text: the line and a margin of 2 pixels above and below, 6 beside.
+  setContentsMargins(7, 3, 7, 3);
+  setAlignment(Qt::AlignCenter);
+}
+
+void StatusLamp::setLook(const QColor& face, bool lit, const QColor& text) {
+  if (m_face == face && m_lit == lit && m_text == text) return;
+  m_face = face;
+  m_lit = lit;
+  m_text = text;
+  update();
+}
+
+void StatusLamp::paintEvent(QPaintEvent* event) {
+  QStyleOption option;
+  option.initFrom(this);
+  KeptLookInputs in = KeptLook::commonInputs(*this, option);
+  in.text = text();
+  in.color = m_face;
+  const QRect r = contentsRect();
+  in.details = {m_lit ? 1 : 0,
+                static_cast<int>(m_text.rgba()),
+                static_cast<int>(alignment()),
+                r.x(),
+                r.y(),
+                r.width(),
+                r.height()};
+  paintKept(event, in, [this, r] { paintLamp(r); });
+}
+
+void StatusLamp::paintLamp(const QRect& textRect) {
+  QPainter p(this);
+  p.setRenderHint(QPainter::Antialiasing);
+  p.setPen(QPen(kLampLine, 1.0));
+  p.setBrush(m_face);
+  p.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kLampRadius, kLampRadius);
+  QFont f = font();
+  f.setBold(m_lit);
+  p.setFont(f);
+  p.setPen(m_text);
+  p.drawText(textRect, static_cast<int>(alignment()), text());
+}
 
 StatusLightsWidget::StatusLightsWidget(QWidget* parent) : QFrame(parent) {
   setObjectName(QStringLiteral("picJudgmentState"));
@@ -15,9 +68,8 @@ StatusLightsWidget::StatusLightsWidget(QWidget* parent) : QFrame(parent) {
   const char* texts[] = {QT_TR_NOOP("Consistent"), QT_TR_NOOP("Invalid"),
                          QT_TR_NOOP("Inconsistent")};
   for (int i = 0; i < 3; ++i) {
-    auto* lamp = new QLabel(tr(texts[i]), this);
+    auto* lamp = new StatusLamp(tr(texts[i]), this);
     lamp->setObjectName(QStringLiteral("lblAlarm_%1").arg(i));
-    lamp->setAlignment(Qt::AlignCenter);
     lamp->setMinimumHeight(lamp->fontMetrics().height() + 10);
     // Room for the bold text of a lit lamp, so lighting it never clips its label.
     QFont bold = lamp->font();
@@ -27,18 +79,16 @@ StatusLightsWidget::StatusLightsWidget(QWidget* parent) : QFrame(parent) {
     m_lamps[static_cast<std::size_t>(i)] = lamp;
     m_colours[static_cast<std::size_t>(i)] = QColor(128, 128, 128);
     m_texts[static_cast<std::size_t>(i)] = QColor(Qt::black);
-    applyStyle(i);
   }
 }
 
 void StatusLightsWidget::setLamp(int index, const QColor& colour, bool lit, const QColor& text) {
   if (index < 0 || index > 2) return;
   const auto i = static_cast<std::size_t>(index);
-  if (m_colours[i] == colour && m_lit[i] == lit && m_texts[i] == text) return;
   m_colours[i] = colour;
   m_lit[i] = lit;
   m_texts[i] = text;
-  applyStyle(index);
+  m_lamps[i]->setLook(colour, lit, text);
 }
 
 QColor StatusLightsWidget::textColour(int index) const {
@@ -53,18 +103,8 @@ bool StatusLightsWidget::lampLit(int index) const {
   return index >= 0 && index <= 2 && m_lit[static_cast<std::size_t>(index)];
 }
 
-QLabel* StatusLightsWidget::lamp(int index) const {
+StatusLamp* StatusLightsWidget::lamp(int index) const {
   return (index >= 0 && index <= 2) ? m_lamps[static_cast<std::size_t>(index)] : nullptr;
-}
-
-void StatusLightsWidget::applyStyle(int index) {
-  const auto i = static_cast<std::size_t>(index);
-  const QColor& text = m_texts[i];
-  m_lamps[i]->setStyleSheet(
-      QStringLiteral("QLabel { background-color: %1; color: %2; border: 1px solid #404040;"
-                     " border-radius: 8px; padding: 2px 6px; font-weight: %3; }")
-          .arg(m_colours[i].name(), text.name(),
-               m_lit[i] ? QStringLiteral("bold") : QStringLiteral("normal")));
 }
 
 }  // namespace tnw::direct
