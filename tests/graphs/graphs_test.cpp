@@ -401,6 +401,52 @@ TEST(GraphsTest, NegativeBarsStayOnTheAxisWithAMarker) {
   EXPECT_EQ(markers, 1);
 }
 
+// A surface that records which prints and lines are said to show the chart's values.
+class ValuesSurface : public RecordingSurface {
+ public:
+  void setDrawingValues(bool values) override { m_values = values; }
+  void line(double x1, double y1, double x2, double y2, int colour) override {
+    RecordingSurface::line(x1, y1, x2, y2, colour);
+    (m_values ? valueLines : frameLines)++;
+  }
+  void fillBox(double x1, double y1, double x2, double y2, int colour) override {
+    RecordingSurface::fillBox(x1, y1, x2, y2, colour);
+    (m_values ? valueBoxes : frameBoxes)++;
+  }
+  void print(const std::string& text) override {
+    RecordingSurface::print(text);
+    (m_values ? valueTexts : frameTexts).push_back(text);
+  }
+  int valueLines = 0;
+  int frameLines = 0;
+  int valueBoxes = 0;
+  int frameBoxes = 0;
+  std::vector<std::string> valueTexts;
+  std::vector<std::string> frameTexts;
+
+ private:
+  bool m_values = false;
+};
+
+TEST(GraphsTest, TheScaleNumbersAndTheMarksAreTheValuesTheRestIsTheFrame) {
+  // The second item's low estimate lies below the axis: its marker is a value too.
+  const ChartData d = hlcData({{0.5, 0.3, 0.4}, {0.3, -0.1, 0.2}});
+  ValuesSurface a;
+  tradeOffGraphs().Display_HLCGraphAMain(a, d);
+  EXPECT_EQ(a.valueTexts, (std::vector<std::string>{"0.1375", "0.2750", "0.4125", "0.5500"}));
+  EXPECT_EQ(a.frameTexts, (std::vector<std::string>{"Attribute Weights and Their Ranges", "A1",
+                                                    "A2", "High Est.", "Low Est.", "Close Est."}));
+  // Per item two thin lines, the joining line and the wide one, and the marker's two strokes.
+  EXPECT_EQ(a.valueLines, 2 * 4 + 2);
+  // The axes, four grid lines, two ticks, the frame's two edges and three legend lines.
+  EXPECT_EQ(a.frameLines, 2 + 4 + 2 + 2 + 3);
+  ValuesSurface bars;
+  tradeOffGraphs().Display_VBarGraphMain(bars, d);
+  EXPECT_EQ(bars.valueBoxes, 2);
+  EXPECT_EQ(bars.frameBoxes, 1);
+  EXPECT_EQ(bars.valueTexts.size(), 4U);
+}
+
 TEST(PaletteTest, ClassicSixteenColours) {
   EXPECT_EQ(paletteColour(0), 0x000000u);
   EXPECT_EQ(paletteColour(9), 0x0000FFu);

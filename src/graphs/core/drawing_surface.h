@@ -39,6 +39,10 @@ class DrawingSurface {
   virtual void setCurrentY(double y) = 0;
   // Prints a text at the current position, then moves to the start of the next line.
   virtual void print(const std::string& text) = 0;
+  // Says whether what is drawn next shows the chart's values (the scale's numbers and the marks),
+  // which change with every fit, or its frame (title, axes, grid, names, legend), which a
+  // surface may keep from one drawing to the next. Drawing is the same either way.
+  virtual void setDrawingValues(bool values) { static_cast<void>(values); }
 };
 
 }  // namespace tnw

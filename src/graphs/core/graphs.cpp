@@ -57,26 +57,28 @@ double Graphs::height(double v, double maxValue) {
   return std::isfinite(h) ? h : 0.0;
 }
 
-std::string Graphs::valueLabel(const ChartData& d, double maxValue, int i) {
-  return formatNumber(i * maxValue / d.divisions, "#,##0.0000");
+std::vector<std::string> Graphs::valueLabels(const ChartData& d, double maxValue) {
+  std::vector<std::string> labels;
+  for (int i = 1; i <= d.divisions; ++i) {
+    labels.push_back(formatNumber(i * maxValue / d.divisions, "#,##0.0000"));
+  }
+  return labels;
 }
 
-double Graphs::widestValueLabel(const DrawingSurface& s, const ChartData& d, double maxValue) {
+double Graphs::widestValueLabel(const DrawingSurface& s, const std::vector<std::string>& labels) {
   double widest = 0.0;
-  for (int i = 1; i <= d.divisions; ++i) {
-    widest = std::max(widest, s.textWidth(valueLabel(d, maxValue, i)));
-  }
+  for (const std::string& label : labels) widest = std::max(widest, s.textWidth(label));
   return widest;
 }
 
-void Graphs::setScaleFittingLabels(DrawingSurface& s, const ChartData& d, double maxValue) {
+void Graphs::setScaleFittingLabels(DrawingSurface& s, const std::vector<std::string>& labels) {
   double left = kDefaultLeft;
   s.setScale(left, 120.0, 140.0, -30.0);
   // A label wider than the margin (two integer digits and more) widens the margin instead of
   // running over the left edge. A text's width in user units grows with the width of the user
   // coordinates, so the new edge is solved for with the width per unit measured on this scale.
   for (int round = 0; round < 3; ++round) {
-    const double widest = widestValueLabel(s, d, maxValue);
+    const double widest = widestValueLabel(s, labels);
     if (!(widest > 0.0) || -kLabelGap - widest >= left - 1e-9) return;
     const double perUnit = std::min(widest / (140.0 - left), 0.5);
     left = std::min(left - 1.0, (-kLabelGap - 140.0 * perUnit) / (1.0 - perUnit) - 0.5);
@@ -87,7 +89,8 @@ void Graphs::setScaleFittingLabels(DrawingSurface& s, const ChartData& d, double
 void Graphs::drawAxesAndGrid(DrawingSurface& s, const ChartData& d, double maxValue) const {
   s.clear();
   s.setAutoRedraw(true);
-  setScaleFittingLabels(s, d, maxValue);
+  const std::vector<std::string> labels = valueLabels(d, maxValue);
+  setScaleFittingLabels(s, labels);
   s.setLineStyle(LineStyle::Solid);
   s.setLineWidth(1);
   s.setCurrentX((100.0 - s.textWidth(d.title)) / 2.0);
@@ -99,10 +102,13 @@ void Graphs::drawAxesAndGrid(DrawingSurface& s, const ChartData& d, double maxVa
     const double y = i * 100.0 / d.divisions;
     s.setLineStyle(LineStyle::Dot);
     s.line(0.0, y, 100.0, y, GridColour);
-    const std::string label = valueLabel(d, maxValue, i);
+    // The scale's numbers change with the values; the rest of the frame does not.
+    const std::string& label = labels[static_cast<std::size_t>(i - 1)];
+    s.setDrawingValues(true);
     s.setCurrentX(-kLabelGap - s.textWidth(label));
     s.setCurrentY(y - s.textHeight(label) / 2.0);
     s.print(label);
+    s.setDrawingValues(false);
   }
   s.setLineStyle(LineStyle::Solid);
   for (int j = 1; j <= d.n; ++j) {
@@ -132,6 +138,7 @@ void Graphs::belowMarker(DrawingSurface& s, double middle, double width, double 
 void Graphs::drawHLCMarks(DrawingSurface& s, const ChartData& d, double maxValue,
                           const int colours[3], bool joined) {
   if (d.n < 1) return;
+  s.setDrawingValues(true);
   const double slot = 100.0 / d.n;
   const double w = slot * 75.0 / 100.0;
   const double narrow = w - 4.0;
@@ -153,6 +160,7 @@ void Graphs::drawHLCMarks(DrawingSurface& s, const ChartData& d, double maxValue
     belowMarker(s, middle, narrow / 2.0, y3, colours[2]);
   }
   s.setLineWidth(1);
+  s.setDrawingValues(false);
 }
 
 void Graphs::Display_HLCGraphAMain(DrawingSurface& s, const ChartData& d) const {
@@ -175,6 +183,7 @@ void Graphs::Display_VBarGraphMain(DrawingSurface& s, const ChartData& d) const 
   const double max = MaxValue(d.n, d.seriesCount, d.data);
   drawAxesAndGrid(s, d, max);
   if (d.n >= 1) {
+    s.setDrawingValues(true);
     const double slot = 100.0 / d.n;
     const double w = slot * 75.0 / 100.0;
     for (int i = 1; i <= d.n; ++i) {
@@ -183,6 +192,7 @@ void Graphs::Display_VBarGraphMain(DrawingSurface& s, const ChartData& d) const 
       s.fillBox(middle - w / 2.0, 0.0, middle + w / 2.0, clipped(y), kBarColour);
       belowMarker(s, middle, w, y, 0);
     }
+    s.setDrawingValues(false);
   }
   legendEntry(s, 1, legendText(d, 1), kBarColour, true);
 }

@@ -5,6 +5,8 @@
 
 // Std
 #include <cstdint>
+#include <string>
+#include <vector>
 
 namespace tnw {
 
@@ -38,9 +40,9 @@ class Graphs {
   static constexpr double kBelowMarkerTop = 4.5;
 
  private:
-  static std::string valueLabel(const ChartData& d, double maxValue, int i);
-  static double widestValueLabel(const DrawingSurface& s, const ChartData& d, double maxValue);
-  static void setScaleFittingLabels(DrawingSurface& s, const ChartData& d, double maxValue);
+  static std::vector<std::string> valueLabels(const ChartData& d, double maxValue);
+  static double widestValueLabel(const DrawingSurface& s, const std::vector<std::string>& labels);
+  static void setScaleFittingLabels(DrawingSurface& s, const std::vector<std::string>& labels);
   static void belowMarker(DrawingSurface& s, double middle, double width, double height,
                           int colour);
   void drawAxesAndGrid(DrawingSurface& s, const ChartData& d, double maxValue) const;

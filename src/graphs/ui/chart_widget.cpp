@@ -37,7 +37,8 @@ void ChartWidget::paintEvent(QPaintEvent*) {
   const qreal ratio = devicePixelRatioF();
   const QSize pixels(qRound(width() * ratio), qRound(height() * ratio));
   if (m_stale || m_picture.size() != pixels || m_picture.devicePixelRatio() != ratio) {
-    m_picture = QImage(pixels, QImage::Format_RGB32);
+    // A picture of the same size is drawn over, not made again.
+    if (m_picture.size() != pixels) m_picture = QImage(pixels, QImage::Format_RGB32);
     m_picture.setDevicePixelRatio(ratio);
     // The picture measures texts as the widget would.
     m_picture.setDotsPerMeterX(qRound(logicalDpiX() / 0.0254));

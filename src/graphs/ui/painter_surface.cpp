@@ -1,6 +1,7 @@
 #include "graphs/ui/painter_surface.h"
 
 #include "graphs/core/palette.h"
+#include "graphs/ui/kept_frames.h"
 #include "graphs/ui/text_cache.h"
 
 // Qt
@@ -20,6 +21,16 @@ namespace {
 
 // Screen resolution the pixel line widths are meant for.
 constexpr double kScreenDpi = 96.0;
+
+// Whether the frames of charts on images are kept (see setFramesKept).
+bool keepFrames = true;
+
+double pixelScaleOf(const QPainter& painter) {
+  const QPaintDevice* device = painter.device();
+  return device != nullptr && device->logicalDpiX() > 0
+             ? std::max(1.0, device->logicalDpiX() / kScreenDpi)
+             : 1.0;
+}
 
 QString toQString(const std::string& text) { return QString::fromUtf8(text); }
 
@@ -59,14 +70,16 @@ double longestWidth(const QFont& font, const QPaintDevice* device,
 }  // namespace
 
 PainterSurface::PainterSurface(QPainter& painter, const QRectF& area)
-    : m_painter(painter), m_area(area) {
-  const QPaintDevice* device = painter.device();
-  if (device != nullptr && device->logicalDpiX() > 0) {
-    m_pixelScale = std::max(1.0, device->logicalDpiX() / kScreenDpi);
-  }
-}
+    : m_painter(painter),
+      m_area(area),
+      m_pixelScale(pixelScaleOf(painter)),
+      m_drawer(painter, m_pixelScale) {}
 
 void PainterSurface::setTextLayoutsKept(bool kept) { setTextKept(kept); }
+
+void PainterSurface::setLinesBatched(bool batched) { ChartOpDrawer::setLinesBatched(batched); }
+
+void PainterSurface::setFramesKept(bool kept) { keepFrames = kept; }
 
 QColor PainterSurface::paletteColour(int index) {
   return QColor(static_cast<QRgb>(0xFF000000u | tnw::paletteColour(index)));
@@ -87,13 +100,99 @@ QFont PainterSurface::fontFitting(const QFont& base, const QPaintDevice* device,
   return scaledFont(base, device, width / longest * 0.98);
 }
 
-PainterSurface::~PainterSurface() { flushTurnedNames(); }
+PainterSurface::~PainterSurface() {
+  if (m_keeping) drawKeptFrame();
+}
 
 void PainterSurface::clear() {
-  flushTurnedNames();
-  m_painter.fillRect(m_area, Qt::white);
+  if (m_keeping) drawKeptFrame();
+  // The chart starts here and covers the area whole: on an image that it covers, its frame may
+  // be kept.
+  m_keeping = keepFrames && coversImage();
+  ChartOpDrawer::Op op;
+  op.kind = ChartOpDrawer::Op::Kind::Fill;
+  op.rect = m_area;
+  op.colour = QColor(Qt::white);
+  drawOp(std::move(op));
   m_currentX = m_left;
   m_currentY = m_top;
+}
+
+void PainterSurface::setDrawingValues(bool values) { m_values = values; }
+
+bool PainterSurface::coversImage() const {
+  const QPaintDevice* device = m_painter.device();
+  if (!m_drawer.batching() || device == nullptr || device->devType() != QInternal::Image) {
+    return false;
+  }
+  // The kept frame is laid back as it is: the image must take its pixels unchanged.
+  const auto* image = static_cast<const QImage*>(device);
+  const QImage::Format format = image->format();
+  const qreal ratio = image->devicePixelRatio();
+  return (format == QImage::Format_RGB32 || format == QImage::Format_ARGB32_Premultiplied) &&
+         m_area == QRectF(0.0, 0.0, image->width() / ratio, image->height() / ratio) &&
+         m_painter.worldTransform().isIdentity() && !m_painter.hasClipping() &&
+         m_painter.opacity() == 1.0 &&
+         m_painter.compositionMode() == QPainter::CompositionMode_SourceOver &&
+         m_painter.backgroundMode() == Qt::TransparentMode;
+}
+
+void PainterSurface::drawOp(ChartOpDrawer::Op op) {
+  op.value = m_values;
+  // A kept frame's operations have their boxes kept with them.
+  if (m_drawer.batching() && (!m_keeping || op.value)) op.box = inkOf(op);
+  if (m_keeping) {
+    m_ops.push_back(std::move(op));
+  } else {
+    m_drawer.draw(op);
+  }
+}
+
+QRectF PainterSurface::inkOf(const ChartOpDrawer::Op& op) const {
+  using Kind = ChartOpDrawer::Op::Kind;
+  switch (op.kind) {
+    case Kind::Fill:
+      return op.rect.adjusted(-1.0, -1.0, 1.0, 1.0);
+    case Kind::Line: {
+      const double reach = op.pen.width * m_pixelScale / 2.0 + 1.0;
+      return QRectF(op.line.p1(), op.line.p2()).normalized().adjusted(-reach, -reach, reach, reach);
+    }
+    case Kind::Text:
+      return textInk(op.font, m_painter.device(), op.text, op.at);
+    case Kind::Turned:
+      return turnedInk(op.font, m_painter.device(), {op.text, op.at});
+  }
+  return {};
+}
+
+void PainterSurface::drawKeptFrame() {
+  m_keeping = false;
+  std::vector<ChartOpDrawer::Op> ops = std::move(m_ops);
+  m_ops.clear();
+  const auto* image = static_cast<const QImage*>(m_painter.device());
+  const QPainter::RenderHints hints = m_painter.renderHints();
+  const KeptFrames::Frame* kept =
+      KeptFrames::find(ops, *image, hints, m_painter.font(), m_pixelScale);
+  auto keptOp =
+      kept != nullptr ? kept->ops.begin() : std::vector<ChartOpDrawer::Op>::const_iterator();
+  for (ChartOpDrawer::Op& op : ops) {
+    if (!op.value) op.box = kept != nullptr ? (keptOp++)->box : inkOf(op);
+  }
+  if (!KeptFrames::valuesApart(ops)) {
+    for (const ChartOpDrawer::Op& op : ops) m_drawer.draw(op);
+    return;
+  }
+  const QImage& frame =
+      kept != nullptr ? kept->image
+                      : KeptFrames::keep(ops, *image, hints, m_painter.font(), m_pixelScale).image;
+  m_drawer.flush();
+  m_painter.save();
+  m_painter.setCompositionMode(QPainter::CompositionMode_Source);
+  m_painter.drawImage(QPointF(0.0, 0.0), frame);
+  m_painter.restore();
+  for (const ChartOpDrawer::Op& op : ops) {
+    if (op.value) m_drawer.draw(op);
+  }
 }
 
 void PainterSurface::setAutoRedraw(bool) {}
@@ -103,7 +202,6 @@ void PainterSurface::setScale(double left, double top, double right, double bott
   m_top = top;
   m_right = right;
   m_bottom = bottom;
-  flushTurnedNames();
   m_itemLayout.reset();
 }
 
@@ -130,28 +228,24 @@ double PainterSurface::userPerDeviceY() const {
 
 void PainterSurface::line(double x1, double y1, double x2, double y2, int colour) {
   if (!std::isfinite(x1) || !std::isfinite(y1) || !std::isfinite(x2) || !std::isfinite(y2)) return;
-  const QLineF line(toDevice(x1, y1), toDevice(x2, y2));
-  // The turned names wait to be drawn together, unless a line would cross them.
-  const double reach = m_lineWidth * m_pixelScale / 2.0 + 1.0;
-  if (!m_turnedNames.empty() &&
-      m_turnedBox.intersects(
-          QRectF(line.p1(), line.p2()).normalized().adjusted(-reach, -reach, reach, reach))) {
-    flushTurnedNames();
-  }
-  usePen({false, colour, m_lineWidth, m_style});
-  m_painter.drawLine(line);
+  ChartOpDrawer::Op op;
+  op.kind = ChartOpDrawer::Op::Kind::Line;
+  op.line = QLineF(toDevice(x1, y1), toDevice(x2, y2));
+  op.pen = {colour, m_lineWidth, m_style};
+  drawOp(std::move(op));
 }
 
 void PainterSurface::fillBox(double x1, double y1, double x2, double y2, int colour) {
   if (!std::isfinite(x1) || !std::isfinite(y1) || !std::isfinite(x2) || !std::isfinite(y2)) return;
-  flushTurnedNames();
-  m_painter.fillRect(QRectF(toDevice(x1, y1), toDevice(x2, y2)).normalized(),
-                     paletteColour(colour));
+  ChartOpDrawer::Op op;
+  op.kind = ChartOpDrawer::Op::Kind::Fill;
+  op.rect = QRectF(toDevice(x1, y1), toDevice(x2, y2)).normalized();
+  op.colour = paletteColour(colour);
+  drawOp(std::move(op));
 }
 
 void PainterSurface::setItemTexts(std::vector<std::string> texts, double slotWidth, double room,
                                   double row) {
-  flushTurnedNames();
   m_itemTexts = std::move(texts);
   m_slotWidth = slotWidth;
   m_room = room;
@@ -283,61 +377,23 @@ void PainterSurface::print(const std::string& text) {
   const double height = textHeight(text);
   if (std::isfinite(m_currentX) && std::isfinite(m_currentY)) {
     const QPointF topLeft = toDevice(m_currentX, m_currentY);
+    QPaintDevice* device = m_painter.device();
+    ChartOpDrawer::Op op;
+    op.kind = ChartOpDrawer::Op::Kind::Text;
+    op.item = item;
+    op.font = item ? itemLayout().font : m_painter.font();
+    op.text = item ? itemLayout().shown.at(text) : text;
+    const double ascent = lineOf(op.font, device).ascent;
+    op.at = QPointF(topLeft.x(), topLeft.y() + ascent);
     if (item && itemLayout().turned) {
-      addTurnedName(topLeft, itemLayout().shown.at(text));
-    } else {
-      flushTurnedNames();
-      usePen({true});
-      if (item) {
-        const ItemLayout& items = itemLayout();
-        const double ascent = lineOf(items.font, m_painter.device()).ascent;
-        m_painter.save();
-        m_painter.setFont(items.font);
-        drawTextAt(m_painter, QPointF(topLeft.x(), topLeft.y() + ascent), items.shown.at(text));
-        m_painter.restore();
-      } else {
-        const double ascent = lineOf(m_painter.font(), m_painter.device()).ascent;
-        drawTextAt(m_painter, QPointF(topLeft.x(), topLeft.y() + ascent), text);
-      }
+      // Read upwards, the name ends at the row under the plot.
+      op.kind = ChartOpDrawer::Op::Kind::Turned;
+      op.at = QPointF(topLeft.x() + ascent, topLeft.y() + advanceOf(op.font, device, op.text));
     }
+    drawOp(std::move(op));
   }
   m_currentX = m_left;
   m_currentY += height;
-}
-
-void PainterSurface::addTurnedName(const QPointF& topLeft, const std::string& shown) {
-  const ItemLayout& items = itemLayout();
-  QPaintDevice* device = m_painter.device();
-  const double ascent = lineOf(items.font, device).ascent;
-  // Read upwards, the name ends at the row under the plot.
-  const TurnedName name{shown,
-                        {topLeft.x() + ascent, topLeft.y() + advanceOf(items.font, device, shown)}};
-  if (!takesTurnedStrip(m_painter)) {
-    drawTurnedNames(m_painter, items.font, {name}, {});
-    return;
-  }
-  const QRectF ink = turnedInk(items.font, device, name);
-  m_turnedBox = m_turnedNames.empty() ? ink : m_turnedBox.united(ink);
-  m_turnedNames.push_back(name);
-}
-
-void PainterSurface::flushTurnedNames() {
-  if (m_turnedNames.empty()) return;
-  drawTurnedNames(m_painter, itemLayout().font, m_turnedNames, m_turnedBox);
-  m_turnedNames.clear();
-}
-
-void PainterSurface::usePen(Pen pen) {
-  if (m_pen && *m_pen == pen) return;
-  m_pen = pen;
-  if (pen.text) {
-    m_painter.setPen(Qt::black);
-    return;
-  }
-  QPen line(paletteColour(pen.colour), pen.width * m_pixelScale);
-  line.setStyle(pen.style == LineStyle::Dot ? Qt::DotLine : Qt::SolidLine);
-  line.setCapStyle(Qt::FlatCap);
-  m_painter.setPen(line);
 }
 
 }  // namespace tnw

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "graphs/core/drawing_surface.h"
-#include "graphs/ui/text_cache.h"
+#include "graphs/ui/chart_op_drawer.h"
 
 // Qt
 #include <QColor>
@@ -23,9 +23,10 @@ namespace tnw {
 // print-out keeps the proportions of the screen; texts use the painter's current font, except
 // the item names under the plot (see setItemTexts). The widths of texts are measured once per
 // font and resolution and kept, and so are the layouts of texts drawn on images: a chart is
-// repainted with the same labels. While it lives the surface alone draws with the painter: it sets
-// a pen only when it needs another one, and on an image the turned item names wait to be drawn
-// together until something that may cross them is drawn, or the surface goes.
+// repainted with the same labels. While it lives the surface alone draws with the painter, through
+// a ChartOpDrawer. On an image that the chart covers whole, the chart's frame (all but the
+// operations between setDrawingValues(true) and (false)) is drawn once and kept (see KeptFrames),
+// and each chart lays it back and draws its values over it, when that gives the same pixels.
 class PainterSurface : public DrawingSurface {
  public:
   // The smallest font size the charts use, in points, on any device.
@@ -33,7 +34,7 @@ class PainterSurface : public DrawingSurface {
 
   // Draws into `area` (device units) of the painter's device; the painter must outlive this.
   PainterSurface(QPainter& painter, const QRectF& area);
-  // Draws what is still waiting to be drawn (the turned item names).
+  // Draws what is still waiting to be drawn (a chart over a kept frame, turned names, lines).
   ~PainterSurface() override;
   PainterSurface(const PainterSurface&) = delete;
   PainterSurface& operator=(const PainterSurface&) = delete;
@@ -42,6 +43,12 @@ class PainterSurface : public DrawingSurface {
   // text, font and resolution and kept for the next paint (the default), or laid out at each
   // drawing as QPainter::drawText does. Both make the same pixels; tests compare them.
   static void setTextLayoutsKept(bool kept);
+  // Whether lines drawn on the raster engine wait to be drawn together, one drawLines call per
+  // pen (the default), or are drawn one by one. Both make the same pixels; tests compare them.
+  static void setLinesBatched(bool batched);
+  // Whether the frames of charts drawn on images are kept and laid back (the default), or each
+  // chart is drawn whole. Both make the same pixels; tests compare them.
+  static void setFramesKept(bool kept);
 
   // The colour of a palette index 0..15 (black outside).
   static QColor paletteColour(int index);
@@ -58,6 +65,7 @@ class PainterSurface : public DrawingSurface {
   void setCurrentX(double x) override;
   void setCurrentY(double y) override;
   void print(const std::string& text) override;
+  void setDrawingValues(bool values) override;
 
   // A font from `base` small enough that a scale label ("0.0000") fits the chart's left margin
   // in an area `areaWidth` device units wide; never below kMinimumPoints.
@@ -92,18 +100,10 @@ class PainterSurface : public DrawingSurface {
     std::map<std::string, std::string> shown;
   };
 
-  // The pen the surface last set on the painter: the texts' or a line's.
-  struct Pen {
-    bool text = false;
-    int colour = 0;
-    int width = 0;
-    LineStyle style = LineStyle::Solid;
-    bool operator==(const Pen&) const = default;
-  };
-
-  void usePen(Pen pen);
-  void addTurnedName(const QPointF& topLeft, const std::string& shown);
-  void flushTurnedNames();
+  void drawOp(ChartOpDrawer::Op op);
+  QRectF inkOf(const ChartOpDrawer::Op& op) const;
+  bool coversImage() const;
+  void drawKeptFrame();
   double userPerDeviceX() const;
   double userPerDeviceY() const;
   bool isItemText(const std::string& text) const;
@@ -128,12 +128,12 @@ class PainterSurface : public DrawingSurface {
   double m_room = 0.0;
   double m_itemRow = -2.0;
   mutable std::shared_ptr<const ItemLayout> m_itemLayout;
-  // The pen set on the painter, once the surface has set one.
-  std::optional<Pen> m_pen;
-  // The turned item names printed and not yet drawn, and a device box holding their ink: on an
-  // image they are drawn together (see drawTurnedNames).
-  std::vector<TurnedName> m_turnedNames;
-  QRectF m_turnedBox;
+  ChartOpDrawer m_drawer;
+  // Whether the operations shown are the chart's values; whether the chart's operations wait in
+  // m_ops to be drawn over a kept frame, when the surface goes or the chart starts again.
+  bool m_values = false;
+  bool m_keeping = false;
+  std::vector<ChartOpDrawer::Op> m_ops;
 };
 
 }  // namespace tnw

@@ -70,6 +70,7 @@ const TextCache::Laid& TextCache::laidOut(Bucket& b, QPaintDevice* device,
     layout.endLayout();
     laid.ascent = line.isValid() ? line.ascent() : 0.0;
     laid.runs = layout.glyphRuns();
+    for (const QGlyphRun& run : laid.runs) laid.bounds |= run.boundingRect();
     laid.hasRuns = true;
   }
   return laid;
@@ -190,14 +191,21 @@ bool takesTurnedStrip(const QPainter& painter) {
          !painter.hasClipping() && painter.opacity() == 1.0;
 }
 
+QRectF textInk(const QFont& font, QPaintDevice* device, const std::string& text,
+               const QPointF& baseline) {
+  TextCache& cache = TextCache::instance();
+  const TextCache::Laid& laid = cache.laidOut(cache.bucket(font, device), device, text);
+  // drawTextAt draws the glyphs from (x, y - ascent) of the baseline's start.
+  return laid.bounds.translated(baseline.x(), baseline.y() - laid.ascent)
+      .adjusted(-1.0, -1.0, 1.0, 1.0);
+}
+
 QRectF turnedInk(const QFont& font, QPaintDevice* device, const TurnedName& name) {
   TextCache& cache = TextCache::instance();
   const TextCache::Laid& laid = cache.laidOut(cache.bucket(font, device), device, name.text);
   // The glyphs are drawn from (0, -ascent) of the turned system, whose (u, v) is the device's
   // (pivot.x + v, pivot.y - u).
-  QRectF glyphs;
-  for (const QGlyphRun& run : laid.runs) glyphs |= run.boundingRect();
-  glyphs.translate(0.0, -laid.ascent);
+  const QRectF glyphs = laid.bounds.translated(0.0, -laid.ascent);
   const QRectF box(name.pivot.x() + glyphs.top(), name.pivot.y() - glyphs.right(), glyphs.height(),
                    glyphs.width());
   return box.adjusted(-1.0, -1.0, 1.0, 1.0);

@@ -25,11 +25,13 @@ namespace tnw {
 // found without making a QString. Painting happens in one thread; each thread has its cache.
 class TextCache {
  public:
-  // A text's advance width and, once asked for, its glyphs with the baseline at y = ascent.
+  // A text's advance width and, once asked for, its glyphs with the baseline at y = ascent and
+  // the bounds of the glyphs.
   struct Laid {
     double advance = 0.0;
     double ascent = 0.0;
     QList<QGlyphRun> runs;
+    QRectF bounds;
     bool hasRuns = false;
   };
 
@@ -84,6 +86,11 @@ void setTextKept(bool kept);
 // raster engine (widgets and images) the text's glyphs come from the cache; the other engines
 // (SVG, PDF, printers) are handed the text itself, which they keep as text.
 void drawTextAt(QPainter& painter, const QPointF& baseline, const std::string& text);
+
+// A device box that holds the ink of `text` in `font` on `device` drawn with its baseline starting
+// at `baseline`: its glyphs' bounds and a pixel around them.
+QRectF textInk(const QFont& font, QPaintDevice* device, const std::string& text,
+               const QPointF& baseline);
 
 // An item name turned to read upwards: its baseline starts at `pivot` (device units) and runs up.
 struct TurnedName {
