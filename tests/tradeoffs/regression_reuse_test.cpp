@@ -123,5 +123,29 @@ TEST(RegressionReuseTest, TheNonZeroDifferencesAreListedFromXRowByRowInAttribute
   EXPECT_TRUE(w.NonZeroDiff.empty());
 }
 
+// Steps driven one by one on X written anew between them: the means are the new X's, and so is
+// every step after them.
+TEST(RegressionReuseTest, TheMeansAndTheStepsAfterThemReadXAsItIsWhenTheMeansAreTaken) {
+  Regression r;
+  RegressionWork& w = r.work();
+  w.dimension(3, 2);
+  w.X(1, 1) = 1.0;
+  w.X(2, 2) = 1.0;
+  r.CalMeans();
+  EXPECT_EQ(w.XMean[1], 1.0 / 3.0);
+  // New differences in the same shape, then the steps again from the means on.
+  w.X(1, 1) = 0.0;
+  w.X(3, 1) = 0.5;
+  w.X(3, 2) = 0.25;
+  w.Coef = {0.0, 2.0, 4.0};
+  r.CalMeans();
+  EXPECT_EQ(w.XMean[1], 0.5 / 3.0);
+  EXPECT_EQ(w.XMean[2], 1.25 / 3.0);
+  r.CalModelValues();
+  EXPECT_EQ(w.ModelValue[1], 0.0);
+  EXPECT_EQ(w.ModelValue[2], 4.0);
+  EXPECT_EQ(w.ModelValue[3], 2.0);
+}
+
 }  // namespace
 }  // namespace tnw::tradeoffs

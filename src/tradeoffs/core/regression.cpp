@@ -113,7 +113,7 @@ void Regression::CalMeans() {
   RegressionWork& w = m_work;
   // Without observations there is no mean: they stay 0 (a run always has at least one).
   if (w.N <= 0) return;
-  w.listNonZeros();
+  w.relistNonZeros();
   // Column sums row by row: each column is still summed in observation order, and a zero
   // difference leaves a sum as it is.
   std::vector<double> sums(static_cast<std::size_t>(w.K + 1), 0.0);

@@ -22,8 +22,9 @@ struct RegressionWork {
   std::vector<double> Y;
   // The non-zero differences of X row by row (a judgment has two): observation k's attributes
   // and differences are at [NonZeroStart[k], NonZeroStart[k + 1]) of NonZeroAtt and NonZeroDiff,
-  // in attribute order. dimension() empties the list and the first step that reads X makes it
-  // (listNonZeros), so X is written in full before the steps run.
+  // in attribute order. dimension() empties the list; CalMeans, the first step of a fit, makes
+  // it anew from X (relistNonZeros) and the steps after it read that list, so X is written in
+  // full before the means are taken.
   std::vector<int> NonZeroStart;
   std::vector<int> NonZeroAtt;
   std::vector<double> NonZeroDiff;
@@ -90,6 +91,11 @@ struct RegressionWork {
 
   // Lists the non-zero differences of X (a NaN counts as non-zero), unless they are listed.
   void listNonZeros();
+  // Lists them anew, from X as it is now.
+  void relistNonZeros() {
+    NonZeroStart.clear();
+    listNonZeros();
+  }
 };
 
 }  // namespace tnw::tradeoffs
