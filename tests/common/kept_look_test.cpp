@@ -351,6 +351,24 @@ class KeptLookTest : public QObject {
     checkEveryChange(t, changes);
   }
 
+  // A scroll bar paints as QScrollBar after each change of its range, position, steps or
+  // orientation, and copies its look when nothing changed.
+  void scrollBarsPaintAsQScrollBar() {
+    Twins<QScrollBar, KeptScrollBar> t;
+    t.change([](QScrollBar& b) {
+      b.setRange(0, 27);
+      b.setPageStep(4);
+    });
+    auto changes = widgetChanges<QScrollBar>(false);
+    changes.push_back({[](QScrollBar& b) { b.setValue(9); }});
+    changes.push_back({[](QScrollBar& b) { b.setValue(0); }, 1});
+    changes.push_back({[](QScrollBar& b) { b.setPageStep(12); }});
+    changes.push_back({[](QScrollBar& b) { b.setMaximum(5); }});
+    changes.push_back({[](QScrollBar& b) { b.setInvertedAppearance(true); }});
+    changes.push_back({[](QScrollBar& b) { b.setOrientation(Qt::Horizontal); }});
+    checkEveryChange(t, changes);
+  }
+
   // A text wider than its line, a cursor, a selection or a button inside: QLineEdit paints, every
   // time.
   void scrolledOrEditedLineEditsPaintAsQLineEdit() {
