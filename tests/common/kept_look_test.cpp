@@ -1,4 +1,5 @@
 #include "common/ui/elided_label_widget.h"
+#include "common/ui/kept_list_widget.h"
 #include "common/ui/kept_look_widgets.h"
 #include "common/ui/kept_text_label.h"
 
@@ -287,6 +288,84 @@ class KeptLookTest : public QObject {
       e.clear();
     }});
     changes.push_back({[](QLineEdit& e) { e.setPlaceholderText(QStringLiteral("value")); }});
+    checkEveryChange(t, changes);
+  }
+
+  // A line edit whose text changes at every paint draws the new text over a copy of its panel,
+  // kept apart from the text, with the stock paint's pixels; a change of the panel's inputs
+  // draws the panel again.
+  void lineEditPanelsAreKeptUnderNewTexts() {
+    Twins<QLineEdit, KeptLineEdit> t;
+    t.change([](QLineEdit& e) {
+      e.setFocusPolicy(Qt::NoFocus);
+      e.setAlignment(Qt::AlignRight);
+    });
+    t.show();
+    int text = 0;
+    bool wholeCopied = false;
+    const auto paintNewTexts = [&t, &text, &wholeCopied](int paints) {
+      const int before = t.kept->panelLook().copied();
+      for (int i = 0; i < paints; ++i) {
+        const QString shown = QString::number(12.5 + 7 * ++text);
+        t.change([&shown](QLineEdit& e) { e.setText(shown); });
+        wholeCopied = t.sameAndCopied() || wholeCopied;
+      }
+      return t.kept->panelLook().copied() - before;
+    };
+    // Drawn (when shown), drawn and kept, then copied under each new text.
+    QCOMPARE(paintNewTexts(5), 4);
+    QVERIFY(t.ok);
+    t.change([](QLineEdit& e) { e.setEnabled(false); });
+    QCOMPARE(paintNewTexts(3), 1);
+    t.change([](QLineEdit& e) {
+      e.setEnabled(true);
+      QPalette p = e.palette();
+      p.setColor(QPalette::Base, QColor(255, 250, 210));
+      e.setPalette(p);
+    });
+    QCOMPARE(paintNewTexts(3), 1);
+    t.change([](QLineEdit& e) { e.resize(97, 26); });
+    QCOMPARE(paintNewTexts(3), 1);
+    // A text too long for the line is scrolled by QLineEdit, over the same panel.
+    t.change([](QLineEdit& e) { e.setText(QStringLiteral("A text far too long for this line")); });
+    QVERIFY(!t.sameAndCopied());
+    QVERIFY(!wholeCopied);
+    QVERIFY(t.ok);
+    QCOMPARE(t.kept->style()->metaObject()->className(), "tnw::KeptPanelStyle");
+  }
+
+  // A list's own paint, its frame, paints as QListWidget and copies its look when nothing
+  // changed; its items and scroll bar paint themselves.
+  void listFramesPaintAsQListWidget() {
+    Twins<QListWidget, KeptListWidget> t;
+    t.change([](QListWidget& l) {
+      for (int i = 1; i <= 12; ++i) l.addItem(QStringLiteral("Attribute %1").arg(i));
+      l.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+      // The active window's focused list would mark its current item.
+      l.setFocusPolicy(Qt::NoFocus);
+    });
+    auto changes = widgetChanges<QListWidget>(false);
+    changes.push_back({[](QListWidget& l) { l.setFrameShape(QFrame::Panel); }});
+    changes.push_back({[](QListWidget& l) { l.setFrameShadow(QFrame::Raised); }});
+    changes.push_back({[](QListWidget& l) { l.setLineWidth(3); }});
+    checkEveryChange(t, changes);
+  }
+
+  // A scroll bar paints as QScrollBar after each change of its range, position, steps or
+  // orientation, and copies its look when nothing changed.
+  void scrollBarsPaintAsQScrollBar() {
+    Twins<QScrollBar, KeptScrollBar> t;
+    t.change([](QScrollBar& b) {
+      b.setRange(0, 27);
+      b.setPageStep(4);
+    });
+    auto changes = widgetChanges<QScrollBar>(false);
+    changes.push_back({[](QScrollBar& b) { b.setValue(9); }});
+    changes.push_back({[](QScrollBar& b) { b.setValue(0); }, 1});
+    changes.push_back({[](QScrollBar& b) { b.setPageStep(12); }});
+    changes.push_back({[](QScrollBar& b) { b.setMaximum(5); }});
+    changes.push_back({[](QScrollBar& b) { b.setInvertedAppearance(true); }});
+    changes.push_back({[](QScrollBar& b) { b.setOrientation(Qt::Horizontal); }});
     checkEveryChange(t, changes);
   }
 

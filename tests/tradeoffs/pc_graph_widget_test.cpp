@@ -12,8 +12,10 @@ namespace {
 
 // The panel as a plain styled frame paints it, with the grid, the axes and the projections of
 // the points drawn over it as lines that are not antialiased.
-QImage expectedPanel(QSize size, QPointF a, QPointF b, bool enabled) {
+QImage expectedPanel(QSize size, QPointF a, QPointF b, bool enabled,
+                     const QPalette& palette = QPalette()) {
   QFrame frame;
+  frame.setPalette(palette);
   frame.setFrameShape(QFrame::StyledPanel);
   frame.setBackgroundRole(QPalette::Base);
   frame.setAutoFillBackground(true);
@@ -70,6 +72,18 @@ class PcGraphWidgetTest : public QObject {
     graph.resize(427, 306);
     QCOMPARE(panelAlone(graph),
              expectedPanel(graph.size(), QPointF(0.25, 0.75), QPointF(1.0, 0.125), true));
+  }
+
+  // The frame is kept with the grid: a new window colour, from which the style takes the
+  // frame's, draws it again.
+  void aNewWindowColourDrawsTheFrameAgain() {
+    PcGraphWidget graph;
+    graph.resize(240, 200);
+    panelAlone(graph);
+    QPalette palette = graph.palette();
+    palette.setColor(QPalette::Window, QColor(90, 40, 140));
+    graph.setPalette(palette);
+    QCOMPARE(panelAlone(graph), expectedPanel(graph.size(), QPointF(), QPointF(), true, palette));
   }
 
   // A disabled panel draws its grid with the disabled colours, not the ones kept before.

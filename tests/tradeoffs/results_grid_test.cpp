@@ -1,5 +1,4 @@
 #include "tradeoffs/ui/grid_column_widths.h"
-
 #include "tradeoffs/ui/item_text_delegate.h"
 #include "tradeoffs/ui/tradeoffs_results_widget.h"
 
@@ -168,6 +167,29 @@ class ResultsGridTest : public QObject {
       check->resizeColumnToContents(c);
       QCOMPARE(grid->columnWidth(c), check->columnWidth(c));
     }
+  }
+
+  // A results page being hidden does not have its grids lay their headers out again; shown
+  // again, a grid lays them out as before.
+  void aHiddenResultsPageLaysNoHeaderOut() {
+    TradeOffsResultsWidget page;
+    page.resize(700, 480);
+    page.show();
+    QApplication::processEvents();
+    QTableWidget* grid = page.controls().gridWeights;
+    QHeaderView* header = grid->horizontalHeader();
+    const QRect shownHeader = header->geometry();
+    const QRect shownViewport = grid->viewport()->geometry();
+    QVERIFY(header->height() > 0);
+    QSignalSpy layouts(header, &QHeaderView::geometriesChanged);
+    page.hide();
+    QApplication::processEvents();
+    QCOMPARE(layouts.count(), 0);
+    page.show();
+    QApplication::processEvents();
+    QVERIFY(layouts.count() > 0);
+    QCOMPARE(header->geometry(), shownHeader);
+    QCOMPARE(grid->viewport()->geometry(), shownViewport);
   }
 
   // New numbers in a shown results grid reach its view as one change, and the screen shows them

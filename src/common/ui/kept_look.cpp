@@ -18,12 +18,14 @@ namespace tnw {
 
 namespace {
 
-// The device's pixels as an image: an image itself, or a pixmap's image (shared, not copied,
-// when no painter is open on it).
-QImage deviceImage(QPaintDevice* device) {
+// The device's pixels as an image: an image itself (read in place: a copy of an image a painter
+// is open on would copy its pixels), or a pixmap's image, held in `held` (shared, not copied, when
+// no painter is open on it).
+const QImage& deviceImage(QPaintDevice* device, QImage& held) {
   if (device->devType() == QInternal::Image) return *static_cast<QImage*>(device);
-  if (device->devType() == QInternal::Pixmap) return static_cast<QPixmap*>(device)->toImage();
-  return {};
+  held =
+      device->devType() == QInternal::Pixmap ? static_cast<QPixmap*>(device)->toImage() : QImage();
+  return held;
 }
 
 // The region in device pixels relative to the widget's top left corner.
@@ -91,7 +93,8 @@ bool KeptLook::seenBefore(const KeptLookInputs& inputs) {
 }
 
 KeptPixels KeptLook::pixelsAt(const Place& place) {
-  return KeptPixels(deviceImage(place.device), place.pixels.topLeft(), place.devicePixels);
+  QImage held;
+  return KeptPixels(deviceImage(place.device, held), place.pixels.topLeft(), place.devicePixels);
 }
 
 qint64 KeptLook::keptBytes() const {
@@ -104,7 +107,8 @@ bool KeptLook::copyKept(const KeptLookTarget& target, const Place& place,
                         const KeptLookInputs& inputs) {
   std::size_t found = m_looks.size();
   {
-    const QImage image = deviceImage(place.device);
+    QImage held;
+    const QImage& image = deviceImage(place.device, held);
     if (image.isNull() || image.depth() % 8 != 0) return false;
     for (std::size_t i = 0; i < m_looks.size() && found == m_looks.size(); ++i) {
       const Look& look = m_looks[i];
@@ -117,6 +121,14 @@ bool KeptLook::copyKept(const KeptLookTarget& target, const Place& place,
   if (found == m_looks.size()) return false;
   if (found != 0) std::swap(m_looks[0], m_looks[found]);
   ++m_copied;
+  if (target.painter != nullptr) {
+    // A part of a paint: through the painter the paint has open.
+    target.painter->save();
+    target.painter->setCompositionMode(QPainter::CompositionMode_Source);
+    m_looks[0].over.draw(*target.painter, place.ratio);
+    target.painter->restore();
+    return true;
+  }
   // Into an image no painter is open on, the kept pixels are written as a painter in Source mode
   // would draw them.
   if (place.device->devType() == QInternal::Image && !place.device->paintingActive() &&

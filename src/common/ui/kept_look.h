@@ -23,6 +23,7 @@
 
 class QPaintDevice;
 class QPaintEvent;
+class QPainter;
 class QStyle;
 class QStyleOption;
 class QWidget;
@@ -52,13 +53,15 @@ struct KeptLookInputs {
 };
 
 // Where a widget is being painted: the device its paint goes to (QWidget::redirected), the
-// widget's offset there, and whether a shared painter paints it (QWidget::sharedPainter).
+// widget's offset there, whether a shared painter paints it (QWidget::sharedPainter), and the
+// painter the widget's paint has open, when a part of the paint is kept.
 struct KeptLookTarget {
   QWidget& widget;           // the widget painted
   const QPaintEvent& event;  // its paint event
   QPaintDevice* device;      // the device the paint is redirected to, or null
   QPoint offset;             // the redirection's offset
   bool sharedPainter;        // whether the paint goes through a shared painter
+  QPainter* painter;         // the widget's open painter (untransformed, unclipped), or null
 };
 
 // The last looks a stock widget painted, each with the pixels it was painted over, so that a
@@ -163,7 +166,7 @@ class KeptLooks : public Base {
   void paintKept(QPaintEvent* event, const KeptLookInputs& inputs, StockPaint&& stockPaint) {
     QPoint offset;
     QPaintDevice* device = this->redirected(&offset);
-    m_look.paint({*this, *event, device, offset, this->sharedPainter() != nullptr}, inputs,
+    m_look.paint({*this, *event, device, offset, this->sharedPainter() != nullptr, nullptr}, inputs,
                  std::forward<StockPaint>(stockPaint));
   }
 

@@ -1,7 +1,11 @@
 #include "common/ui/kept_look_widgets.h"
 
+#include "common/ui/kept_panel_style.h"
+
 // Qt
+#include <QAbstractSpinBox>
 #include <QFontMetrics>
+#include <QPainter>
 #include <QStyle>
 #include <QStyleOptionButton>
 #include <QStyleOptionFrame>
@@ -70,6 +74,38 @@ void KeptFrame::paintEvent(QPaintEvent* event) {
   paintKept(event, in, [this, event] { QFrame::paintEvent(event); });
 }
 
+KeptLineEdit::KeptLineEdit(QWidget* parent) : KeptLooks(parent) {
+  if (QStyle* panelStyle = KeptPanelStyle::forApplicationStyle()) setStyle(panelStyle);
+}
+
+bool KeptLineEdit::panelTarget(const QStyleOption& option, const QPainter& painter) const {
+  // A spin box's line edit has its panel drawn by the spin box; Fusion draws none for it.
+  if (m_painting == nullptr || painter.device() != this || option.rect != rect() ||
+      qobject_cast<const QAbstractSpinBox*>(parentWidget()) != nullptr) {
+    return false;
+  }
+  return painter.worldTransform().isIdentity() && !painter.hasClipping() &&
+         painter.opacity() == 1.0 &&
+         painter.compositionMode() == QPainter::CompositionMode_SourceOver;
+}
+
+KeptLookInputs KeptLineEdit::panelInputs(const QStyleOption& option) const {
+  KeptLookInputs in = KeptLook::commonInputs(*this, option);
+  if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(&option)) {
+    in.details = {static_cast<int>(frame->frameShape), static_cast<int>(frame->features),
+                  frame->lineWidth, frame->midLineWidth};
+  }
+  in.parts = {option.rect.x(), option.rect.y(), option.rect.width(), option.rect.height(),
+              static_cast<int>(option.palette.currentColorGroup())};
+  return in;
+}
+
+void KeptLineEdit::stockPaint(QPaintEvent* event) {
+  m_painting = event;
+  QLineEdit::paintEvent(event);
+  m_painting = nullptr;
+}
+
 bool KeptLineEdit::placesTextPlainly() const {
   if (hasFocus() || hasSelectedText() || !inputMask().isEmpty()) return false;
   // Buttons inside the line edit (its clear button, actions placed in it) take room from its
@@ -94,7 +130,7 @@ bool KeptLineEdit::placesTextPlainly() const {
 
 void KeptLineEdit::paintEvent(QPaintEvent* event) {
   if (!placesTextPlainly()) {
-    QLineEdit::paintEvent(event);
+    stockPaint(event);
     return;
   }
   QStyleOptionFrame option;
@@ -115,7 +151,7 @@ void KeptLineEdit::paintEvent(QPaintEvent* event) {
                 m.bottom(),
                 static_cast<int>(cursorMoveStyle()),
                 shown.isEmpty() ? 1 : 0};
-  paintKept(event, in, [this, event] { QLineEdit::paintEvent(event); });
+  paintKept(event, in, [this, event] { stockPaint(event); });
 }
 
 namespace {

@@ -56,9 +56,29 @@ class KeptFrame : public KeptLooks<QFrame> {
 // no cursor, no selection and no buttons inside it, and its text fits with room to spare: then
 // where its text is drawn follows from its text, alignment and room alone (a longer text is
 // scrolled to its cursor, from where it was scrolled before, and is painted by QLineEdit).
+// Any other paint is QLineEdit's, with its panel drawn through KeptPanelStyle: the panel's look
+// is kept apart from the text, so that a new text is drawn over a copy of the panel.
 class KeptLineEdit : public KeptLooks<QLineEdit> {
  public:
-  using KeptLooks::KeptLooks;
+  // An empty line edit.
+  explicit KeptLineEdit(QWidget* parent = nullptr);
+
+  // The kept looks of the panel alone (for tests).
+  const KeptLook& panelLook() const { return m_panel; }
+  // Paints the panel the style draws for `option` with `painter` while QLineEdit paints this
+  // line edit: a kept look of the panel, or stockPanel(), whose result is kept.
+  template <typename StockPanel>
+  void paintPanel(const QStyleOption& option, QPainter& painter, StockPanel&& stockPanel) const {
+    if (!panelTarget(option, painter)) {
+      stockPanel();
+      return;
+    }
+    QPoint offset;
+    QPaintDevice* device = redirected(&offset);
+    m_panel.paint({*const_cast<KeptLineEdit*>(this), *m_painting, device, offset,
+                   sharedPainter() != nullptr, &painter},
+                  panelInputs(option), std::forward<StockPanel>(stockPanel));
+  }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -66,6 +86,17 @@ class KeptLineEdit : public KeptLooks<QLineEdit> {
  private:
   // Whether the text is drawn where its inputs alone place it.
   bool placesTextPlainly() const;
+  // Whether the panel of `option` is drawn over this whole line edit by the painter its paint
+  // opened, untransformed and unclipped.
+  bool panelTarget(const QStyleOption& option, const QPainter& painter) const;
+  // The inputs of the panel's paint.
+  KeptLookInputs panelInputs(const QStyleOption& option) const;
+  // QLineEdit's paint, its panel drawn through paintPanel.
+  void stockPaint(QPaintEvent* event);
+
+  mutable KeptLook m_panel;
+  // The paint event QLineEdit is handling, or null.
+  QPaintEvent* m_painting = nullptr;
 };
 
 // A tab bar that paints as QTabBar and keeps its last looks (see KeptLook) while it cannot be

@@ -67,12 +67,18 @@ void KeptPixels::addBands(const QImage& image, QPoint origin, const QRect& rect)
 
 bool KeptPixels::sameAs(const QImage& image, QPoint origin) const {
   if (isNull() || image.format() != m_format) return false;
+  const std::size_t depth = pixelBytes(image);
+  const qsizetype stride = image.bytesPerLine();
+  const uchar* const bits = image.constBits();
   for (const Band& band : m_bands) {
     if (!image.rect().contains(band.rect.translated(origin))) return false;
-    const std::size_t bytes = static_cast<std::size_t>(band.rect.width()) * pixelBytes(image);
-    for (int y = band.rect.top(); y <= band.rect.bottom(); ++y) {
-      const uchar* kept = band.image.constScanLine(band.repeated ? 0 : y - band.rect.top());
-      if (std::memcmp(rowStart(image, origin, band.rect, y), kept, bytes) != 0) return false;
+    const std::size_t bytes = static_cast<std::size_t>(band.rect.width()) * depth;
+    const uchar* row = bits + (origin.y() + band.rect.top()) * stride +
+                       static_cast<std::size_t>(origin.x() + band.rect.x()) * depth;
+    const uchar* kept = band.image.constBits();
+    const qsizetype keptStride = band.repeated ? 0 : band.image.bytesPerLine();
+    for (int y = 0; y < band.rect.height(); ++y, row += stride, kept += keptStride) {
+      if (std::memcmp(row, kept, bytes) != 0) return false;
     }
   }
   return true;

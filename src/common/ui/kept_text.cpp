@@ -66,7 +66,10 @@ QString KeptText::withoutMnemonics(const QString& text, bool hide,
 bool KeptText::drawsPlainItemText(const QStyle* style) {
   // Fusion's drawItemText sets the role's brush as the pen and calls drawText, enabled or not.
   // Other styles may etch or dither a disabled text, and a style sheet may change anything.
-  return style != nullptr && std::strcmp(style->metaObject()->className(), "QFusionStyle") == 0;
+  // The line edits' panel style is Fusion with their panels kept (KeptPanelStyle).
+  if (style == nullptr) return false;
+  const char* name = style->metaObject()->className();
+  return std::strcmp(name, "QFusionStyle") == 0 || std::strcmp(name, "tnw::KeptPanelStyle") == 0;
 }
 
 void KeptText::layOut(const QString& text, const QFont& font, int flags, QSizeF size) {

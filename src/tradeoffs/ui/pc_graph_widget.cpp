@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QStyleOptionFrame>
 
 // Std
 #include <algorithm>
@@ -98,13 +99,36 @@ void PcGraphWidget::changeEvent(QEvent* event) {
   QFrame::changeEvent(event);
 }
 
+PcGraphWidget::GridColours PcGraphWidget::gridColours() const {
+  // The colours of the palette's current group, which follows the enabled and active states.
+  GridColours colours;
+  colours.background = palette().brush(backgroundRole());
+  colours.grid = palette().color(QPalette::Mid);
+  colours.axes = palette().color(QPalette::WindowText);
+  if (colours.background.isOpaque()) {
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    colours.style = style();
+    colours.framePalette = option.palette;
+    colours.frame = {static_cast<int>(option.state),
+                     static_cast<int>(option.direction),
+                     static_cast<int>(option.frameShape),
+                     static_cast<int>(option.features),
+                     option.lineWidth,
+                     option.midLineWidth,
+                     static_cast<int>(option.palette.currentColorGroup())};
+  }
+  return colours;
+}
+
 void PcGraphWidget::paintEvent(QPaintEvent* event) {
-  QFrame::paintEvent(event);
   const QRectF r = plotRect();
   const qreal ratio = devicePixelRatioF();
-  // The colours of the palette's current group, which follows the enabled and active states.
-  const GridColours colours{palette().brush(backgroundRole()), palette().color(QPalette::Mid),
-                            palette().color(QPalette::WindowText)};
+  const GridColours colours = gridColours();
+  // Over an opaque background the frame is kept with the grid; the style draws it the same over
+  // the same background.
+  const bool keptFrame = colours.style != nullptr;
+  if (!keptFrame) QFrame::paintEvent(event);
   if (m_grid.isNull() || m_grid.size() != size() * ratio || m_grid.devicePixelRatio() != ratio ||
       colours != m_gridColours) {
     m_gridColours = colours;
@@ -114,8 +138,9 @@ void PcGraphWidget::paintEvent(QPaintEvent* event) {
     m_grid = QPixmap(size() * ratio);
     m_grid.setDevicePixelRatio(ratio);
     QPainter g(&m_grid);
-    if (colours.background.isOpaque()) {
+    if (keptFrame) {
       g.fillRect(rect(), colours.background);
+      drawFrame(&g);
     } else {
       // A see-through background is the widget's own fill; the grid goes over it.
       g.setCompositionMode(QPainter::CompositionMode_Source);
@@ -135,10 +160,10 @@ void PcGraphWidget::paintEvent(QPaintEvent* event) {
     g.drawLine(r.bottomLeft(), r.bottomRight());
   }
   QPainter p(this);
-  // Inside the frame only: the frame is the style's.
-  const QRect inside = contentsRect();
-  p.drawPixmap(inside, m_grid,
-               QRectF(QPointF(inside.topLeft()) * ratio, QSizeF(inside.size()) * ratio));
+  // Without a kept frame, inside the frame only: the frame is the style's.
+  const QRect shown = keptFrame ? rect() : contentsRect();
+  p.drawPixmap(shown, m_grid,
+               QRectF(QPointF(shown.topLeft()) * ratio, QSizeF(shown.size()) * ratio));
   // The projections of A and B onto the axes make the two score differences visible.
   const QColor pointColours[2] = {QColor(0, 0, 160), QColor(176, 0, 0)};
   for (int i = 0; i < 2; ++i) {

@@ -5,8 +5,12 @@
 #include <QColor>
 #include <QCursor>
 #include <QFrame>
+#include <QPalette>
 #include <QPixmap>
 #include <QPointF>
+
+// Std
+#include <array>
 
 class QLabel;
 
@@ -62,17 +66,23 @@ class PcGraphWidget : public QFrame {
 
   PcPointWidget* m_points[2];
   QPointF m_fractions[2];
-  // What the kept grid was drawn with.
+  // What the kept grid was drawn with: its colours, and over an opaque background the frame's
+  // style and option (a frame over a see-through background is drawn at each paint).
   struct GridColours {
     QBrush background;
     QColor grid;
     QColor axes;
+    const QStyle* style = nullptr;
+    QPalette framePalette;
+    std::array<int, 7> frame{};
 
     friend bool operator==(const GridColours&, const GridColours&) = default;
   };
+  // The inputs of the kept grid for the widget as it is now.
+  GridColours gridColours() const;
 
-  // The background, the grid and the axes as last drawn: a drag repaints the panel at every
-  // step, and only the projections of A and B move.
+  // The background, the frame, the grid and the axes as last drawn: a drag repaints the panel at
+  // every step, and only the projections of A and B move.
   QPixmap m_grid;
   GridColours m_gridColours;
 };

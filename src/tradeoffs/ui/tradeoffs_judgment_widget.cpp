@@ -1,6 +1,7 @@
 #include "tradeoffs/ui/tradeoffs_judgment_widget.h"
 
 #include "common/ui/elided_label_widget.h"
+#include "common/ui/kept_list_widget.h"
 #include "common/ui/kept_look_widgets.h"
 #include "common/ui/kept_text_label.h"
 #include "tradeoffs/core/judgment_controls.h"
@@ -141,9 +142,9 @@ QWidget* TradeOffsJudgmentWidget::buildSelection() {
   m_c.optPCManual = new KeptRadioButton(tr("Manual"), box);
   m_c.optPCManual->setObjectName(QStringLiteral("optPCManual"));
   m_c.optPCAutomatic->setChecked(true);
-  m_c.lstTradeOffFirstC = new QListWidget(box);
+  m_c.lstTradeOffFirstC = new KeptListWidget(box);
   m_c.lstTradeOffFirstC->setObjectName(QStringLiteral("lstTradeOffFirstC"));
-  m_c.lstTradeOffSecondC = new QListWidget(box);
+  m_c.lstTradeOffSecondC = new KeptListWidget(box);
   m_c.lstTradeOffSecondC->setObjectName(QStringLiteral("lstTradeOffSecondC"));
   // Alt+R: Alt+F is Finish's, which is enabled on this page after a visit to the results.
   auto* first = namedLabel("lblTradeOffFirst", tr("The fi&rst:"), box);

@@ -10,6 +10,7 @@
 // Qt
 #include <QAction>
 #include <QActionGroup>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -61,6 +62,22 @@ QIcon chartIcon(int kind) {
   return QIcon(pm);
 }
 
+// Takes the Hide event from a header's viewport while the header's view is being hidden: the
+// header would have the view lay its headers and margins out again, measuring the headings, for a
+// view no one sees. The Show event of the view's next showing lays them out.
+class HiddenViewHeaderFilter : public QObject {
+ public:
+  using QObject::QObject;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() != QEvent::Hide || !watched->isWidgetType()) return false;
+    const QWidget* header = static_cast<QWidget*>(watched)->parentWidget();
+    const QWidget* view = header != nullptr ? header->parentWidget() : nullptr;
+    return view != nullptr && !view->isVisible();
+  }
+};
+
 QTableWidget* makeGrid(const char* name, const QStringList& headings, QWidget* parent) {
   auto* grid = new QTableWidget(0, static_cast<int>(headings.size()), parent);
   grid->setObjectName(QString::fromLatin1(name));
@@ -82,6 +99,7 @@ QTableWidget* makeGrid(const char* name, const QStringList& headings, QWidget* p
   grid->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
   grid->horizontalHeader()->setMinimumSectionSize(
       grid->fontMetrics().horizontalAdvance(QStringLiteral("0.0000")) + 16);
+  grid->horizontalHeader()->viewport()->installEventFilter(new HiddenViewHeaderFilter(grid));
   return grid;
 }
 
