@@ -334,6 +334,39 @@ class KeptLookTest : public QObject {
     QCOMPARE(t.kept->style()->metaObject()->className(), "tnw::KeptPanelStyle");
   }
 
+  // QLineEdit places a click's cursor by the scroll its last paint worked out for the text then
+  // shown. A right-aligned box that shows a kept look after another text was painted paints
+  // again, so that a click lands where it lands in the stock line edit.
+  void aClickPutsTheCursorWhereItPutsItInQLineEditAfterAKeptLook() {
+    for (const Qt::Alignment alignment : {Qt::AlignRight, Qt::AlignHCenter, Qt::AlignLeft}) {
+      for (int x = 30; x <= 140; x += 10) {
+        Twins<QLineEdit, KeptLineEdit> t;
+        t.change([alignment](QLineEdit& e) {
+          e.setFocusPolicy(Qt::NoFocus);
+          e.setAlignment(alignment);
+          e.setText(QStringLiteral("7"));
+        });
+        t.show();
+        t.sameAndCopied();
+        t.sameAndCopied();
+        t.change([](QLineEdit& e) { e.setText(QStringLiteral("123456789")); });
+        t.sameAndCopied();
+        t.change([](QLineEdit& e) { e.setText(QStringLiteral("7")); });
+        t.sameAndCopied();
+        QVERIFY(t.ok);
+        for (QLineEdit* e : {static_cast<QLineEdit*>(t.stock), static_cast<QLineEdit*>(t.kept)}) {
+          QTest::mouseClick(e, Qt::LeftButton, {}, QPoint(x, e->height() / 2));
+        }
+        QVERIFY2(t.kept->cursorPosition() == t.stock->cursorPosition(),
+                 qPrintable(QStringLiteral("alignment %1, x %2: %3 against %4")
+                                .arg(int(alignment))
+                                .arg(x)
+                                .arg(t.kept->cursorPosition())
+                                .arg(t.stock->cursorPosition())));
+      }
+    }
+  }
+
   // A list's own paint, its frame, paints as QListWidget and copies its look when nothing
   // changed; its items and scroll bar paint themselves.
   void listFramesPaintAsQListWidget() {

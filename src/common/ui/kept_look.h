@@ -78,9 +78,10 @@ class KeptLook {
  public:
   // Paints the target: a kept look if one matches, else stockPaint(), whose result is kept.
   template <typename StockPaint>
-  void paint(const KeptLookTarget& target, const KeptLookInputs& inputs, StockPaint&& stockPaint) {
+  void paint(const KeptLookTarget& target, const KeptLookInputs& inputs, StockPaint&& stockPaint,
+             bool mayCopy = true) {
     const std::optional<Place> place = placeOf(target);
-    if (place && copyKept(target, *place, inputs)) return;
+    if (mayCopy && place && copyKept(target, *place, inputs)) return;
     // A look is kept the second time it is painted: a widget painted once keeps nothing.
     if (!place || !seenBefore(inputs)) {
       stockPaint();
@@ -160,14 +161,15 @@ class KeptLooks : public Base {
   const KeptLook& keptLook() const { return m_look; }
 
  protected:
-  // Paints the widget for `event`: a kept look made from equal inputs over equal pixels, or
-  // stockPaint(), whose result is kept.
+  // Paints the widget for `event`: a kept look made from equal inputs over equal pixels (unless
+  // mayCopy is false), or stockPaint(), whose result is kept.
   template <typename StockPaint>
-  void paintKept(QPaintEvent* event, const KeptLookInputs& inputs, StockPaint&& stockPaint) {
+  void paintKept(QPaintEvent* event, const KeptLookInputs& inputs, StockPaint&& stockPaint,
+                 bool mayCopy = true) {
     QPoint offset;
     QPaintDevice* device = this->redirected(&offset);
     m_look.paint({*this, *event, device, offset, this->sharedPainter() != nullptr, nullptr}, inputs,
-                 std::forward<StockPaint>(stockPaint));
+                 std::forward<StockPaint>(stockPaint), mayCopy);
   }
 
  private:

@@ -130,6 +130,7 @@ bool KeptLineEdit::placesTextPlainly() const {
 
 void KeptLineEdit::paintEvent(QPaintEvent* event) {
   if (!placesTextPlainly()) {
+    m_scrolledFor = {};
     stockPaint(event);
     return;
   }
@@ -151,7 +152,19 @@ void KeptLineEdit::paintEvent(QPaintEvent* event) {
                 m.bottom(),
                 static_cast<int>(cursorMoveStyle()),
                 shown.isEmpty() ? 1 : 0};
-  paintKept(event, in, [this, event] { stockPaint(event); });
+  // QLineEdit works out where its text lies (and so where a click puts the cursor) as it paints.
+  // A text that fits lies at the same place for any text in a font when it is at the left; in
+  // other places a look is copied only for the inputs QLineEdit last painted.
+  const bool atLeft = (QStyle::visualAlignment(layoutDirection(), alignment()) & Qt::AlignLeft) &&
+                      m_scrolledFor.style != nullptr && in.font == m_scrolledFor.font &&
+                      in.size == m_scrolledFor.size;
+  paintKept(
+      event, in,
+      [this, event, &in] {
+        m_scrolledFor = in;
+        stockPaint(event);
+      },
+      atLeft || in == m_scrolledFor);
 }
 
 namespace {

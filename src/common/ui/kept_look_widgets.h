@@ -97,6 +97,9 @@ class KeptLineEdit : public KeptLooks<QLineEdit> {
   mutable KeptLook m_panel;
   // The paint event QLineEdit is handling, or null.
   QPaintEvent* m_painting = nullptr;
+  // The inputs of the last paint QLineEdit ran for a plainly placed text (none after any other
+  // paint of it): the place of the text it keeps for clicks is theirs.
+  KeptLookInputs m_scrolledFor;
 };
 
 // A tab bar that paints as QTabBar and keeps its last looks (see KeptLook) while it cannot be
