@@ -10,6 +10,7 @@
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPixmap>
+#include <QPointer>
 #include <QtTest>
 
 // Std
@@ -365,6 +366,26 @@ class KeptLookTest : public QObject {
                                 .arg(t.stock->cursorPosition())));
       }
     }
+  }
+
+  // The line edits share one panel style, which goes with the last of them: nothing of theirs
+  // is left for the application to delete.
+  void thePanelStyleGoesWithTheLastLineEdit() {
+    QPointer<QStyle> shared;
+    {
+      auto first = std::make_unique<KeptLineEdit>();
+      auto second = std::make_unique<KeptLineEdit>();
+      shared = first->style();
+      QCOMPARE(shared->metaObject()->className(), "tnw::KeptPanelStyle");
+      QCOMPARE(second->style(), shared.data());
+      first.reset();
+      QVERIFY(!shared.isNull());
+      QCOMPARE(second->style(), shared.data());
+    }
+    QVERIFY(shared.isNull());
+    // A new line edit makes it again.
+    KeptLineEdit again;
+    QCOMPARE(again.style()->metaObject()->className(), "tnw::KeptPanelStyle");
   }
 
   // A list's own paint, its frame, paints as QListWidget and copies its look when nothing

@@ -74,8 +74,14 @@ void KeptFrame::paintEvent(QPaintEvent* event) {
   paintKept(event, in, [this, event] { QFrame::paintEvent(event); });
 }
 
-KeptLineEdit::KeptLineEdit(QWidget* parent) : KeptLooks(parent) {
-  if (QStyle* panelStyle = KeptPanelStyle::forApplicationStyle()) setStyle(panelStyle);
+KeptLineEdit::KeptLineEdit(QWidget* parent)
+    : KeptLooks(parent), m_panelStyle(KeptPanelStyle::forApplicationStyle()) {
+  if (m_panelStyle) setStyle(m_panelStyle.get());
+}
+
+KeptLineEdit::~KeptLineEdit() {
+  // The shared style may go with this line edit: the widget lets it go first.
+  if (m_panelStyle) setStyle(nullptr);
 }
 
 bool KeptLineEdit::panelTarget(const QStyleOption& option, const QPainter& painter) const {

@@ -11,6 +11,9 @@
 #include <QTabBar>
 #include <QTabWidget>
 
+// Std
+#include <memory>
+
 namespace tnw {
 
 // A push button that paints as QPushButton and keeps its last looks (see KeptLook): a page shown
@@ -62,6 +65,9 @@ class KeptLineEdit : public KeptLooks<QLineEdit> {
  public:
   // An empty line edit.
   explicit KeptLineEdit(QWidget* parent = nullptr);
+  ~KeptLineEdit() override;
+  KeptLineEdit(const KeptLineEdit&) = delete;
+  KeptLineEdit& operator=(const KeptLineEdit&) = delete;
 
   // The kept looks of the panel alone (for tests).
   const KeptLook& panelLook() const { return m_panel; }
@@ -100,6 +106,8 @@ class KeptLineEdit : public KeptLooks<QLineEdit> {
   // The inputs of the last paint QLineEdit ran for a plainly placed text (none after any other
   // paint of it): the place of the text it keeps for clicks is theirs.
   KeptLookInputs m_scrolledFor;
+  // The style the line edits share while one of them holds it, or null.
+  std::shared_ptr<QStyle> m_panelStyle;
 };
 
 // A tab bar that paints as QTabBar and keeps its last looks (see KeptLook) while it cannot be

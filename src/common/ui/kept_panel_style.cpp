@@ -5,22 +5,23 @@
 
 // Qt
 #include <QApplication>
-#include <QPointer>
 #include <QStyleFactory>
 
 namespace tnw {
 
 KeptPanelStyle::KeptPanelStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
 
-QStyle* KeptPanelStyle::forApplicationStyle() {
-  static QPointer<KeptPanelStyle> shared;
+std::shared_ptr<QStyle> KeptPanelStyle::forApplicationStyle() {
+  // Not owned by the application: a style of this library's would otherwise outlive its widgets
+  // and be deleted with the application, perhaps after the library is gone.
+  static std::weak_ptr<QStyle> shared;
   if (qApp == nullptr || !KeptText::drawsPlainItemText(QApplication::style())) return nullptr;
-  if (shared.isNull()) {
-    shared = new KeptPanelStyle;
-    // It goes with the application, after the widgets that use it.
-    shared->setParent(qApp);
+  std::shared_ptr<QStyle> style = shared.lock();
+  if (!style) {
+    style.reset(new KeptPanelStyle);
+    shared = style;
   }
-  return shared.data();
+  return style;
 }
 
 void KeptPanelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,

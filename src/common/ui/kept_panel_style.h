@@ -3,6 +3,9 @@
 // Qt
 #include <QProxyStyle>
 
+// Std
+#include <memory>
+
 namespace tnw {
 
 // Fusion, for the line edits that keep their panel's look (KeptLineEdit): it draws every element
@@ -14,8 +17,8 @@ class KeptPanelStyle : public QProxyStyle {
 
  public:
   // The style the line edits of a Fusion application share, or null under another style (their
-  // panels are then the application style's own).
-  static QStyle* forApplicationStyle();
+  // panels are then the application style's own). It lives as long as a line edit holds it.
+  static std::shared_ptr<QStyle> forApplicationStyle();
 
   // Draws the element as Fusion does; a KeptLineEdit's panel through its kept look.
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
