@@ -48,13 +48,7 @@ bool KeptListWidget::event(QEvent* event) {
   // QAbstractScrollArea paints the list itself as QFrame does: its frame.
   QStyleOptionFrame option;
   initStyleOption(&option);
-  KeptLookInputs in = KeptLook::commonInputs(*this, option);
-  in.details = {static_cast<int>(option.frameShape),
-                static_cast<int>(option.features),
-                option.lineWidth,
-                option.midLineWidth,
-                option.rect.width(),
-                option.rect.height()};
+  const KeptLookInputs in = KeptLook::frameInputs(*this, option);
   bool handled = true;
   paintKept(static_cast<QPaintEvent*>(event), in,
             [this, event, &handled] { handled = QListWidget::event(event); });

@@ -50,6 +50,17 @@ KeptLookInputs KeptLook::commonInputs(const QWidget& widget, const QStyleOption&
   return in;
 }
 
+KeptLookInputs KeptLook::frameInputs(const QWidget& widget, const QStyleOptionFrame& option) {
+  KeptLookInputs in = commonInputs(widget, option);
+  in.details = {static_cast<int>(option.frameShape),
+                static_cast<int>(option.features),
+                option.lineWidth,
+                option.midLineWidth,
+                option.rect.width(),
+                option.rect.height()};
+  return in;
+}
+
 KeptLookInputs KeptLook::itemTextInputs(const QWidget& widget, const QString& text, int flags,
                                         const QRect& rect) {
   QStyleOption option;

@@ -26,6 +26,7 @@ class QPaintEvent;
 class QPainter;
 class QStyle;
 class QStyleOption;
+class QStyleOptionFrame;
 class QWidget;
 
 namespace tnw {
@@ -95,6 +96,9 @@ class KeptLook {
   // The inputs every paint of a widget shares: its style, font, palette (the option's),
   // foreground role and size, and the option's state and direction.
   static KeptLookInputs commonInputs(const QWidget& widget, const QStyleOption& option);
+  // The inputs of a frame's paint (a QFrame's, a scroll area's around its viewport): the common
+  // ones, the frame's shape, features and line widths, and the size of its rectangle.
+  static KeptLookInputs frameInputs(const QWidget& widget, const QStyleOptionFrame& option);
   // The inputs of a widget's text drawn as the style draws an item text (a label's): the text,
   // its flags and its rectangle, in the widget's font and palette with its foreground role.
   static KeptLookInputs itemTextInputs(const QWidget& widget, const QString& text, int flags,

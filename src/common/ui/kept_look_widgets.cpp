@@ -64,13 +64,7 @@ void KeptGroupBox::paintEvent(QPaintEvent* event) {
 void KeptFrame::paintEvent(QPaintEvent* event) {
   QStyleOptionFrame option;
   initStyleOption(&option);
-  KeptLookInputs in = KeptLook::commonInputs(*this, option);
-  in.details = {static_cast<int>(option.frameShape),
-                static_cast<int>(option.features),
-                option.lineWidth,
-                option.midLineWidth,
-                option.rect.width(),
-                option.rect.height()};
+  const KeptLookInputs in = KeptLook::frameInputs(*this, option);
   paintKept(event, in, [this, event] { QFrame::paintEvent(event); });
 }
 
