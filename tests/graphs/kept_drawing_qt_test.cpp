@@ -1,4 +1,5 @@
 #include "graphs/core/graphs.h"
+#include "graphs/ui/chart_widget.h"
 #include "graphs/ui/kept_frames.h"
 #include "graphs/ui/painter_surface.h"
 
@@ -135,6 +136,19 @@ class KeptDrawingQtTest : public QObject {
         }
       }
     }
+  }
+
+  // The frames are kept while a chart area lives: the last one to go lets them all go.
+  void theFramesGoWithTheLastChartWidget() {
+    const Setting setting = settings().front();
+    {
+      ChartWidget shown;
+      draw(setting, Kind::HLCa, chart(31, 1));
+      QVERIFY(KeptFrames::keptCount() > 0);
+      { ChartWidget closed; }
+      QVERIFY(KeptFrames::keptCount() > 0);
+    }
+    QCOMPARE(KeptFrames::keptCount(), std::size_t{0});
   }
 
   // Another fit's values make other marks and other numbers on the scale over the same frame.

@@ -1,14 +1,30 @@
 #include "graphs/ui/chart_widget.h"
 
+#include "graphs/ui/kept_frames.h"
+
 // Qt
 #include <QPainter>
 
 namespace tnw {
 
+namespace {
+
+// The chart areas alive, all on the GUI thread.
+int g_areas = 0;
+
+}  // namespace
+
 ChartWidget::ChartWidget(QWidget* parent) : QWidget(parent) {
+  ++g_areas;
   setBackgroundRole(QPalette::Base);
   setAutoFillBackground(true);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+ChartWidget::~ChartWidget() {
+  // The frames are kept for charts shown again and again; with no chart area left there is
+  // none to show.
+  if (--g_areas == 0) KeptFrames::clear();
 }
 
 void ChartWidget::setPainter(Painter painter) {

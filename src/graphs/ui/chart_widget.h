@@ -24,6 +24,10 @@ class ChartWidget : public QWidget {
 
   // Creates an empty chart area.
   explicit ChartWidget(QWidget* parent = nullptr);
+  // The last chart area to go lets the kept chart frames go (see KeptFrames).
+  ~ChartWidget() override;
+  ChartWidget(const ChartWidget&) = delete;
+  ChartWidget& operator=(const ChartWidget&) = delete;
 
   // Sets the drawing routine (an empty one clears the area) and repaints.
   void setPainter(Painter painter);

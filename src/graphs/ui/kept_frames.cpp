@@ -107,4 +107,11 @@ const Frame& KeptFrames::keep(const std::vector<Op>& ops, const QImage& like,
 
 int KeptFrames::drawnCount() { return drawn; }
 
+std::size_t KeptFrames::keptCount() { return frames().size(); }
+
+void KeptFrames::clear() {
+  // The images' memory goes back, not only their places in the list.
+  std::vector<Frame>().swap(frames());
+}
+
 }  // namespace tnw

@@ -7,6 +7,7 @@
 #include <QPainter>
 
 // Std
+#include <cstddef>
 #include <vector>
 
 namespace tnw {
@@ -50,6 +51,10 @@ class KeptFrames {
 
   // How many times a frame was drawn rather than taken from the kept ones (for tests).
   static int drawnCount();
+  // How many frames this thread keeps (for tests).
+  static std::size_t keptCount();
+  // Lets every frame this thread keeps go.
+  static void clear();
 };
 
 }  // namespace tnw
